@@ -1,0 +1,236 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Color.h"
+#include "platform/Controls.h"
+
+namespace ballhaven::platform {
+
+/// The colours of one cell as it is drawn.
+struct CellStyle {
+    Color foreground = black;
+    Color background = white;
+
+    bool operator==(const CellStyle&) const = default;
+};
+
+/// One column of a grid.
+class GridColumn {
+  public:
+    explicit GridColumn(const Shown& grid)
+        : heading(grid),
+          width(grid, 600),
+          visible(grid, true),
+          locked(grid, false),
+          focusable(grid, true),
+          background(grid, windowColor),
+          styled(grid, false),
+          hasButton(grid, false) {}
+
+    Property<std::string> heading;
+    Property<int> width;  ///< in twips
+    Property<bool> visible;
+    Property<bool> locked;       ///< nothing can be typed in it
+    Property<bool> focusable;    ///< its cells can become current
+    Property<Color> background;  ///< of the cells that are not styled
+    Property<bool> styled;       ///< `cellStyle` is asked for its cells
+    Property<bool> hasButton;    ///< its current cell bears a drop-down button
+};
+
+/// One of the panes of a grid that stand side by side; it shows a run of the columns.
+class GridPane {
+  public:
+    GridPane(const Shown& grid, int first, int last)
+        : firstColumn(first),
+          lastColumn(last),
+          columnsWide(grid, 0),
+          locked(grid, false),
+          marksCurrentCell(grid, true) {}
+
+    [[nodiscard]] bool Has(int column) const { return firstColumn <= column && column <= lastColumn; }
+
+    const int firstColumn;
+    const int lastColumn;
+
+    /// How many of its columns the pane is wide, the others being scrolled to; 0 takes the width that the other panes
+    /// leave.
+    Property<int> columnsWide;
+    Property<bool> locked;            ///< nothing can be typed in it
+    Property<bool> marksCurrentCell;  ///< its current cell is marked; else only the row is
+};
+
+enum class GridKey { Insert, Left, Right, Tab, Other };
+
+/// What a grid's widget can do besides showing the grid.
+class GridView : public ControlView {
+  public:
+    /// Reads all rows anew.
+    virtual void ReadAgain() = 0;
+
+    /// Draws all cells anew without reading the rows again.
+    virtual void Repaint() = 0;
+
+    /// Follows the grid's current cell, and scrolls it into view.
+    virtual void ShowCurrentCell() = 0;
+
+    /// Ends an open editor as if the user had left the cell: the value is checked, and taken if it passes.
+    virtual void EndEdit() = 0;
+
+    /// Opens the editor of the current cell, if it can be typed in, with its whole text selected.
+    virtual void SelectCellText() = 0;
+
+    /// Whether an editor is open with text selected in it.
+    [[nodiscard]] virtual bool HasSelectedText() const = 0;
+
+    /// First row in the visible part, from 0.
+    [[nodiscard]] virtual int FirstVisibleRow() const = 0;
+
+    /// Rows that the visible part holds whole.
+    [[nodiscard]] virtual int VisibleRows() const = 0;
+
+    /// Upper edge of a row in twips below the grid's own; none for a row outside the visible part.
+    [[nodiscard]] virtual std::optional<int> RowTop(int row) const = 0;
+};
+
+/// A grid without storage of its own: it asks its owner for the text and the colours of a cell as it draws it, and
+/// keeps no copy. Rows and columns count from 0; a row or column of -1 is none.
+///
+/// Notices of one mouse click: `mousePress`, before anything moves; then, at the release, `click`, `currentCellChanged`
+/// if the current cell changed, and `settled`. Of a key: `keyDown`, then `currentCellChanged`. A move by the program
+/// reports `currentCellChanged` as well. While the grid is switched off it neither reads nor reports.
+class Grid : public Control {
+  public:
+    Grid() : Control(ControlKind::Grid) {}
+
+    /// Gives the grid its columns and its panes, each with its first and last column; for the layout.
+    void SetColumns(int count);
+    void AddPane(int firstColumn, int lastColumn);
+
+    [[nodiscard]] GridColumn& Column(int column) { return columns.at(static_cast<std::size_t>(column)); }
+    [[nodiscard]] const GridColumn& Column(int column) const { return columns.at(static_cast<std::size_t>(column)); }
+    [[nodiscard]] int ColumnCount() const { return static_cast<int>(columns.size()); }
+    [[nodiscard]] GridPane& Pane(int pane) { return panes.at(static_cast<std::size_t>(pane)); }
+    [[nodiscard]] const GridPane& Pane(int pane) const { return panes.at(static_cast<std::size_t>(pane)); }
+    [[nodiscard]] int PaneCount() const { return static_cast<int>(panes.size()); }
+
+    /// Tells the grid how many rows its owner has. A current row beyond them is held at the last one; with no rows
+    /// there is none. A grid that gets its first rows has row 0 as the current one. Reports nothing.
+    void SetRowCount(int count);
+    [[nodiscard]] int RowCount() const { return rowCount; }
+
+    /// Rows up to the first whose first cell the owner answers with a null, `RowCount` at most: these are drawn.
+    [[nodiscard]] int RowsRead() const;
+
+    [[nodiscard]] int CurrentPane() const { return currentPane; }
+    [[nodiscard]] int CurrentRow() const { return currentRow; }
+    [[nodiscard]] int CurrentColumn() const { return currentColumn; }
+
+    /// Moves the current cell. A row or column outside the grid is held at its ends; a column is looked for in the
+    /// current pane first; a pane that does not show the current column takes its own first column. A cell's editor is
+    /// ended before the move.
+    void GoToRow(int row);
+    void GoToColumn(int column);
+    void GoToPane(int pane);
+    void GoTo(int row, int column);
+
+    /// The user's move to a cell, for the widget: it ends no editor. Reports a change.
+    void MoveByUser(int pane, int row, int column);
+
+    /// Text of a column in the current row; the value being checked or just accepted where an edit is on its way.
+    /// Empty where there is none.
+    [[nodiscard]] std::string Text(int column) const;
+
+    /// The end of an edit of the current row: `acceptEdit` may refuse the value; if it passes, `edited` follows.
+    /// Meanwhile `Text` answers with the new value. Returns false, with nothing changed, when it was refused, or when
+    /// the column or its pane is locked.
+    bool Edit(int column, std::string text);
+
+    /// Whether the current pane lets text be typed into a column.
+    [[nodiscard]] bool CanType(int column) const;
+
+    /// Reads all rows again.
+    void ReadAgain();
+
+    /// Draws all cells again without reading the rows again.
+    void Repaint();
+
+    void EndEdit();
+    void SelectCellText();
+    [[nodiscard]] bool HasSelectedText() const;
+
+    /// Without a window all rows are in view, from the first.
+    [[nodiscard]] int FirstVisibleRow() const;
+    [[nodiscard]] int VisibleRows() const;
+    [[nodiscard]] std::optional<int> RowTop(int row) const;
+
+    /// Off, the grid neither reads nor reports. The calls nest: each `SwitchOff` wants its `SwitchOn`.
+    void SwitchOff();
+    void SwitchOn();
+    [[nodiscard]] bool IsOn() const { return switchedOff == 0; }
+
+    Property<std::string> caption{*this};  ///< a grid without a caption has no caption bar
+    Property<bool> showsHeadings{*this, true};
+    Property<bool> showsRowMargin{*this, false};  ///< the row-selector margin at the left
+
+    /// The text of a cell, a null ending the reading.
+    std::function<std::optional<std::string>(int row, int column)> cellText;
+
+    /// Changes the colours of a cell of a styled column.
+    std::function<void(int row, int column, CellStyle& style)> cellStyle;
+
+    /// A press of a mouse button, in twips from the grid's top left corner.
+    std::function<void(int x, int y)> mousePress;
+    Handler click;
+    Handler currentCellChanged;
+    Handler settled;
+
+    /// A key going down; true when it has been served and the grid does nothing more with it.
+    std::function<bool(GridKey key)> keyDown;
+
+    /// The check of an edited value in a column of the current row; false refuses it.
+    std::function<bool(int column)> acceptEdit;
+    std::function<void(int column)> edited;
+
+    /// A click on the drop-down button of a column in the current row.
+    std::function<void(int column)> dropDown;
+
+    /// A finished repaint.
+    Handler painted;
+
+  private:
+    struct PendingEdit {
+        int column;
+        std::string text;
+    };
+
+    void Move(int pane, int row, int column);
+    [[nodiscard]] GridView* Widget() const { return static_cast<GridView*>(view); }
+
+    std::deque<GridColumn> columns;
+    std::deque<GridPane> panes;
+    std::optional<PendingEdit> pendingEdit;
+    int rowCount = 0;
+    int currentPane = 0;
+    int currentRow = -1;
+    int currentColumn = 0;
+    int switchedOff = 0;
+};
+
+/// Keeps a grid switched off for as long as it lives.
+class GridPause {
+  public:
+    explicit GridPause(Grid& pausedGrid) : grid(pausedGrid) { grid.SwitchOff(); }
+    ~GridPause() { grid.SwitchOn(); }
+    GridPause(const GridPause&) = delete;
+    GridPause& operator=(const GridPause&) = delete;
+
+  private:
+    Grid& grid;
+};
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,7 @@
+#include "platform/Services.h"
+
+namespace ballhaven::platform {
+
+Services services;
+
+}  // namespace ballhaven::platform

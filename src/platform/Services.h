@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/MessageBox.h"
+
+namespace ballhaven::platform {
+
+/// The surroundings that tests replace. The program sets all of them at its start; before that they answer as a
+/// machine without a screen would: boxes are answered with Ok or No, and nothing is known of the system.
+struct Services {
+    std::function<BoxAnswer(const MessageBoxRequest&)> showMessageBox = [](const MessageBoxRequest& request) {
+        return request.buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+    };
+
+    /// Ends the process at once with an exit code. A test's replacement may return.
+    std::function<void(int exitCode)> endProcess;
+
+    /// Folder of the program's executable, with or without a separator at its end.
+    std::function<std::string()> executableDirectory = [] { return std::string(); };
+
+    /// The system's own folder of settings, with or without a separator at its end.
+    std::function<std::string()> systemDirectory = [] { return std::string(); };
+
+    /// The user's short-date pattern, such as "M/d/yyyy", for which `systemDirectory` may be looked into; empty where
+    /// there is none.
+    std::function<std::string(const std::string& systemDirectory)> shortDatePattern = [](const std::string&) {
+        return std::string();
+    };
+
+    /// Whether an earlier instance of the program works on the same program folder.
+    std::function<bool()> earlierInstanceRuns = [] { return false; };
+
+    /// Brings the window of the instance whose application title is given to the front.
+    std::function<void(const std::string& title)> activateApplication = [](const std::string&) {};
+};
+
+extern Services services;
+
+}  // namespace ballhaven::platform

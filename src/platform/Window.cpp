@@ -1,0 +1,81 @@
+#include "platform/Window.h"
+
+#include "platform/Toolkit.h"
+
+namespace ballhaven::platform {
+
+Toolkit* toolkit = nullptr;
+
+void Window::Load() {
+    if (loaded) {
+        return;
+    }
+    loaded = true;
+    if (layout) {
+        layout();
+    }
+    if (toolkit != nullptr) {
+        toolkit->Build(*this);
+    }
+    if (load) {
+        load();
+    }
+}
+
+void Window::Show() {
+    Load();
+    if (view != nullptr) {
+        Widgets()->Show();
+    }
+}
+
+void Window::ShowModal() {
+    Load();
+    if (view != nullptr) {
+        Widgets()->ShowModal();
+    }
+}
+
+void Window::ShowInFront() {
+    Load();
+    if (view != nullptr) {
+        Widgets()->ShowInFront();
+    }
+}
+
+void Window::RepaintNow() {
+    if (view != nullptr) {
+        Widgets()->RepaintNow();
+    }
+}
+
+void Window::Unload() {
+    if (!loaded) {
+        return;
+    }
+    loaded = false;
+    if (unload) {
+        unload();
+    }
+    if (view != nullptr) {
+        toolkit->TearDown(*this);
+    }
+    controls.clear();
+    menus.clear();
+    timers.clear();
+}
+
+void Window::Resize(int width, int height) {
+    outerWidth = width;
+    outerHeight = height;
+}
+
+void Window::ResizeByUser(int width, int height) {
+    outerWidth.SetQuietly(width);
+    outerHeight.SetQuietly(height);
+    if (resize) {
+        resize();
+    }
+}
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "platform/Controls.h"
+#include "platform/Grid.h"
+#include "platform/Menu.h"
+#include "platform/Window.h"
+
+namespace ballhaven {
+
+inline constexpr int hiLiteBoxes = 10;
+
+/// The panes of `grdHist`, and its columns of picks.
+inline constexpr int datePane = 0;
+inline constexpr int pickPane = 1;
+inline constexpr int logPickColumns = 10;
+
+/// The main window. Created once; its members bear the names that the whole program knows them by.
+struct MainForm {
+    platform::Window window;
+
+    // Fields that several of the window's events share
+    bool windowStarting = false;  ///< from the load until the end of the first activation
+    bool gameLoading = false;     ///< while a game is being switched in
+    std::int32_t logRowCount = 0;
+    std::int16_t logLastColumn = 0;  ///< highest column of `grdHist` that holds data
+    std::int16_t hotRowCount = 0;
+    std::int16_t hotColumnCount = 4;
+    bool cardClicked = false;
+    std::int16_t hiLiteTarget = 0;
+    std::string newestDrawText;  ///< date text of the newest draw of the view
+
+    // The toolbar
+    std::array<platform::Panel, 2> picToolbar;
+    std::array<platform::Button, 15> cmdButton;  ///< 6 and 9 are not used
+    platform::Label Label2;
+    platform::Line Label3;
+    std::array<platform::Button, 2> cmdColor;
+    std::array<platform::Label, hiLiteBoxes> lblColor;
+    std::array<platform::TextBox, hiLiteBoxes> txtHiLite;
+    std::array<std::string, hiLiteBoxes> hiLiteCode;  ///< the picks of the boxes as stored codes
+
+    // The left column
+    std::array<platform::Label, 4> lblLabel;
+    std::array<platform::DropDownList, 3> cboList;
+    std::array<platform::OptionButton, 3> optHot;
+    platform::Line Line1;
+    platform::Label lblPlay;
+    std::array<platform::Button, 3> cmdPlayBttn;
+    platform::Label Label1;
+    platform::Grid grdPlay;
+
+    // The picture and the tables
+    platform::Picture Picture1;
+    platform::Grid grdHot;
+    platform::Grid grdHist;
+    platform::Button cmdColorHist;
+    std::array<platform::Picture, 2> picCards;
+    platform::Timer tmrMessage;
+
+    // The menu bar
+    platform::Menu mnuFile;
+    platform::Menu mnuEdit;
+    platform::Menu mnuView;
+    platform::Menu mnuTools;
+    platform::Menu mnuHelp;
+    std::array<platform::MenuItem, 3> mnuFileArray;
+    std::array<platform::MenuItem, 8> mnuEditArray;
+    std::array<platform::MenuItem, 4> mnuViewArray;
+    std::array<platform::MenuItem, 4> mnuToolArray;
+    std::array<platform::MenuItem, 3> mnuHelpArray;
+};
+
+extern MainForm frmMainForm;
+
+/// Gives the window its size, its controls their places and texts, and the menu bar its entries.
+void LayOutMainForm();
+
+}  // namespace ballhaven

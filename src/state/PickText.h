@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace ballhaven {
+
+/// The short text of a card (1 to 52), such as "Ah" or "10c"; empty for any other value.
+[[nodiscard]] std::string CardToText(int value);
+
+/// The value of a card's text, which becomes normalised: "kd" turns into "Kd" and gives 39. Nothing checks the rank.
+[[nodiscard]] std::int16_t TextToCard(std::string& text);
+
+/// The text of a pick in the game at hand: a number's digits, or a card's text.
+[[nodiscard]] std::string PickToText(int pick);
+
+/// The text of a cell of a pick grid, `cell` being row * `slipColumns` + column: a pick in decimal, a letter of BONUS
+/// between the main and the bonus picks, or nothing.
+[[nodiscard]] std::string PickCellText(int cell);
+
+}  // namespace ballhaven

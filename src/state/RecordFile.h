@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ballhaven {
+
+/// A data file of fixed-length records without marks between them, counted from 1. It is the only way to a data file.
+///
+/// Opening reads the file, up to the last record of its format, and creates a missing one empty; a temporary file that
+/// a crash left beside it is removed. Nothing reaches the disk before `Close`, which writes only if a byte has changed,
+/// and then all or nothing: whatever the moment of a crash or of a full disk, the file is the old one or the new one.
+/// What stands behind the format's last record stays. A file that is destroyed without `Close` is left as it was.
+///
+/// Every error becomes a file failure that names the file and the system's reason; the old file is untouched then.
+class RecordFile {
+  public:
+    /// Opens the file; `recordLength` in bytes, `recordCount` the records of the format.
+    RecordFile(std::string filePath, int recordLength, int recordCount);
+
+    /// Length in bytes, with the records written since the opening.
+    [[nodiscard]] std::int64_t Length() const { return length; }
+
+    /// A record, exactly as long as the format says: blanks stand where the file has no bytes.
+    [[nodiscard]] std::string Read(int record) const;
+
+    /// Puts a record, cut or padded with blanks to its length, into its place. A gap before it becomes blanks.
+    void Write(int record, std::string_view text);
+
+    /// Makes the changes durable, if there are any.
+    void Close();
+
+  private:
+    std::string path;
+    int recordLength;
+    int recordCount;
+    std::string content;  ///< the bytes of the format's records, as far as the file has them
+    std::int64_t length;  ///< of the whole file
+    bool changed = false;
+};
+
+}  // namespace ballhaven
