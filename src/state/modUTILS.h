@@ -35,6 +35,9 @@ namespace modUTILS {
 /// The digits right-justified in two columns, cut to the first two: 7 is " 7", 100 is "10".
 [[nodiscard]] std::string PickField(int pick);
 
+/// The pick that stands in two columns of a record, wherever in them: -1 for two blanks, else the field's value.
+[[nodiscard]] std::int16_t PickOfField(std::string_view field);
+
 /// Columns `first` to `first` + `width` - 1 of a record, counted from 1; blanks where the record is shorter.
 [[nodiscard]] std::string Columns(std::string_view record, int first, int width);
 
