@@ -6,6 +6,7 @@ namespace ballhaven::platform {
 
 void Grid::SetColumns(int count) {
     columns.clear();
+    panes.clear();
     for (int column = 0; column < count; ++column) {
         columns.emplace_back(*this);
     }

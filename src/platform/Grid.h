@@ -107,7 +107,8 @@ class Grid : public Control {
   public:
     Grid() : Control(ControlKind::Grid) {}
 
-    /// Gives the grid its columns and its panes, each with its first and last column; for the layout.
+    /// Gives the grid its columns, without panes, and then its panes, each with its first and last column; for the
+    /// layout.
     void SetColumns(int count);
     void AddPane(int firstColumn, int lastColumn);
 
@@ -175,6 +176,7 @@ class Grid : public Control {
 
     Property<std::string> caption{*this};  ///< a grid without a caption has no caption bar
     Property<bool> showsHeadings{*this, true};
+    Property<int> rowHeight{*this, 225};          ///< in twips
     Property<bool> showsRowMargin{*this, false};  ///< the row-selector margin at the left
 
     /// The text of a cell, a null ending the reading.
