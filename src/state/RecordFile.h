@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,27 +17,32 @@ namespace ballhaven {
 /// Every error becomes a file failure that names the file and the system's reason; the old file is untouched then.
 class RecordFile {
   public:
-    /// Opens the file; `recordLength` in bytes, `recordCount` the records of the format.
-    RecordFile(std::string filePath, int recordLength, int recordCount);
+    /// Opens the file; the length of a record in bytes, and the number of records that the format has.
+    RecordFile(std::string filePath, int lengthOfRecord, int countOfRecords);
 
     /// Length in bytes, with the records written since the opening.
     [[nodiscard]] std::int64_t Length() const { return length; }
 
     /// A record, exactly as long as the format says: blanks stand where the file has no bytes.
+    /// Raises the subscript failure for a record that the format does not have.
     [[nodiscard]] std::string Read(int record) const;
 
     /// Puts a record, cut or padded with blanks to its length, into its place. A gap before it becomes blanks.
+    /// Raises the subscript failure for a record that the format does not have.
     void Write(int record, std::string_view text);
 
     /// Makes the changes durable, if there are any.
     void Close();
 
   private:
+    [[nodiscard]] std::int64_t FormatLength() const;
+    [[nodiscard]] std::size_t OffsetOf(int record) const;
+
     std::string path;
     int recordLength;
     int recordCount;
-    std::string content;  ///< the bytes of the format's records, as far as the file has them
-    std::int64_t length;  ///< of the whole file
+    std::string content;      ///< the bytes of the format's records, as far as the file has them
+    std::int64_t length = 0;  ///< of the whole file
     bool changed = false;
 };
 

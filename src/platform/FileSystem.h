@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace ballhaven::platform {
+
+/// What a file is opened for.
+enum class FileAccess {
+    ReadOrCreate,    ///< reading; a missing file comes into being empty
+    UpdateOrCreate,  ///< reading, where writing must be allowed too; a missing file comes into being empty
+    CreateNew,       ///< writing a file of which nothing may be there yet, for the user alone to read
+    Directory,       ///< flushing a directory's entries
+};
+
+struct FileStatus {
+    bool isRegular = false;  ///< no directory, pipe or device
+    std::int64_t length = 0;
+    unsigned permissions = 0;  ///< read, write and execute of the owner, the group and others, nine bits
+};
+
+/// What the program asks of the system's files, one member a system call. Each answers with 0 or more, or with the
+/// negative of the error's number as in <cerrno>; none repeats a call that was interrupted or goes on after a short
+/// one. A test replaces members to see the calls or to let them fail.
+struct FileSystem {
+    /// A handle of the opened file.
+    std::function<int(const std::string& path, FileAccess access)> open;
+    std::function<int(int file, FileStatus& status)> getStatus;
+    /// The bytes read from `offset` on, 0 at the end of the file.
+    std::function<std::int64_t(int file, std::int64_t offset, char* bytes, std::size_t size)> read;
+    /// The bytes written behind those written before.
+    std::function<std::int64_t(int file, const char* bytes, std::size_t size)> write;
+    std::function<int(int file, unsigned permissions)> setPermissions;
+    /// Returns when the file's bytes, or the directory's entries, have reached the disk.
+    std::function<int(int file)> flush;
+    /// The handle is gone, also after an error.
+    std::function<int(int file)> close;
+    /// Replaces what stands under the new name, in one step.
+    std::function<int(const std::string& from, const std::string& to)> rename;
+    std::function<int(const std::string& path)> remove;
+    /// The absolute path of an existing file behind all symbolic links.
+    std::function<int(const std::string& path, std::string& realPath)> resolve;
+};
+
+/// The calls of this system.
+[[nodiscard]] FileSystem SystemFiles();
+
+/// The calls in use: `SystemFiles` but in tests.
+extern FileSystem fileSystem;
+
+}  // namespace ballhaven::platform
