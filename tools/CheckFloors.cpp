@@ -1,0 +1,18 @@
+// ballhaven_floors DIR: prints the faults that the floors of the source tree in DIR have; 1 if there is one.
+
+#include <iostream>
+
+#include "tools/FloorCheck.h"
+
+int main(int argumentCount, char** arguments) {
+    if (argumentCount != 2) {
+        std::cerr << "usage: ballhaven_floors DIR\n";
+        return 2;
+    }
+    const auto faults = ballhaven::tools::FloorFaults(arguments[1]);
+    for (const std::string& fault : faults) {
+        std::cout << fault << '\n';
+    }
+    std::cout << (faults.empty() ? "The floors hold.\n" : "The floors do not hold.\n");
+    return faults.empty() ? 0 : 1;
+}
