@@ -37,8 +37,7 @@ int Grid::RowsRead() const {
 }
 
 void Grid::GoToRow(int row) {
-    EndEdit();
-    Move(currentPane, row, currentColumn);
+    GoTo(row, currentColumn);
 }
 
 void Grid::GoToColumn(int column) {
@@ -46,13 +45,17 @@ void Grid::GoToColumn(int column) {
 }
 
 void Grid::GoToPane(int pane) {
-    EndEdit();
+    if (!EndEdit()) {
+        return;
+    }
     const GridPane& wanted = Pane(pane);
     Move(pane, currentRow, wanted.Has(currentColumn) ? currentColumn : wanted.firstColumn);
 }
 
 void Grid::GoTo(int row, int column) {
-    EndEdit();
+    if (!EndEdit()) {
+        return;
+    }
     int pane = currentPane;
     if (!Pane(pane).Has(column)) {
         const auto found = std::ranges::find_if(panes, [column](const GridPane& each) { return each.Has(column); });
@@ -68,16 +71,14 @@ void Grid::MoveByUser(int pane, int row, int column) {
 void Grid::Move(int pane, int row, int column) {
     const int wantedRow = rowCount == 0 ? -1 : std::clamp(row, 0, rowCount - 1);
     const int wantedColumn = std::clamp(column, 0, std::max(0, ColumnCount() - 1));
-    if (pane == currentPane && wantedRow == currentRow && wantedColumn == currentColumn) {
-        return;
-    }
+    const bool moves = pane != currentPane || wantedRow != currentRow || wantedColumn != currentColumn;
     currentPane = pane;
     currentRow = wantedRow;
     currentColumn = wantedColumn;
     if (view != nullptr) {
         Widget()->ShowCurrentCell();
     }
-    if (IsOn() && currentCellChanged) {
+    if (moves && IsOn() && currentCellChanged) {
         currentCellChanged();
     }
 }
@@ -97,7 +98,7 @@ bool Grid::CanType(int column) const {
 }
 
 bool Grid::Edit(int column, std::string text) {
-    if (!CanType(column)) {
+    if (!IsOn() || !CanType(column)) {
         return false;
     }
     pendingEdit = PendingEdit{column, std::move(text)};
@@ -126,10 +127,8 @@ void Grid::Repaint() {
     }
 }
 
-void Grid::EndEdit() {
-    if (view != nullptr) {
-        Widget()->EndEdit();
-    }
+bool Grid::EndEdit() {
+    return view == nullptr || Widget()->EndEdit();
 }
 
 void Grid::SelectCellText() {
@@ -155,6 +154,9 @@ std::optional<int> Grid::RowTop(int row) const {
 }
 
 void Grid::SwitchOff() {
+    if (IsOn()) {
+        EndEdit();
+    }
     ++switchedOff;
 }
 

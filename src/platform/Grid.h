@@ -78,8 +78,9 @@ class GridView : public ControlView {
     /// Follows the grid's current cell, and scrolls it into view.
     virtual void ShowCurrentCell() = 0;
 
-    /// Ends an open editor as if the user had left the cell: the value is checked, and taken if it passes.
-    virtual void EndEdit() = 0;
+    /// Ends an open editor as if the user had left the cell: the value is checked, and taken if it passes. False when
+    /// it was refused, so that the editor is still open. While the grid is switched off the value is dropped.
+    virtual bool EndEdit() = 0;
 
     /// Opens the editor of the current cell, if it can be typed in, with its whole text selected.
     virtual void SelectCellText() = 0;
@@ -132,8 +133,9 @@ class Grid : public Control {
     [[nodiscard]] int CurrentColumn() const { return currentColumn; }
 
     /// Moves the current cell. A row or column outside the grid is held at its ends; a column is looked for in the
-    /// current pane first; a pane that does not show the current column takes its own first column. A cell's editor is
-    /// ended before the move.
+    /// current pane first; a pane that does not show the current column takes its own first column. An open editor is
+    /// ended before the move; where its value is refused nothing moves. A move to the cell that is current already
+    /// brings it into view and reports nothing.
     void GoToRow(int row);
     void GoToColumn(int column);
     void GoToPane(int pane);
@@ -148,7 +150,7 @@ class Grid : public Control {
 
     /// The end of an edit of the current row: `acceptEdit` may refuse the value; if it passes, `edited` follows.
     /// Meanwhile `Text` answers with the new value. Returns false, with nothing changed, when it was refused, or when
-    /// the column or its pane is locked.
+    /// the column or its pane is locked, or while the grid is switched off.
     bool Edit(int column, std::string text);
 
     /// Whether the current pane lets text be typed into a column.
@@ -160,7 +162,10 @@ class Grid : public Control {
     /// Draws all cells again without reading the rows again.
     void Repaint();
 
-    void EndEdit();
+    /// Ends an open editor as if the user had left the cell. False when its value was refused: it is still open then.
+    bool EndEdit();
+
+    /// Opens the editor of the current cell, if it can be typed in, with its whole text selected.
     void SelectCellText();
     [[nodiscard]] bool HasSelectedText() const;
 
@@ -169,15 +174,16 @@ class Grid : public Control {
     [[nodiscard]] int VisibleRows() const;
     [[nodiscard]] std::optional<int> RowTop(int row) const;
 
-    /// Off, the grid neither reads nor reports. The calls nest: each `SwitchOff` wants its `SwitchOn`.
+    /// Off, the grid neither reads nor reports; an open editor is ended before. The calls nest: each `SwitchOff` wants
+    /// its `SwitchOn`.
     void SwitchOff();
     void SwitchOn();
     [[nodiscard]] bool IsOn() const { return switchedOff == 0; }
 
     Property<std::string> caption{*this};  ///< a grid without a caption has no caption bar
     Property<bool> showsHeadings{*this, true};
-    Property<int> rowHeight{*this, 225};          ///< in twips
     Property<bool> showsRowMargin{*this, false};  ///< the row-selector margin at the left
+    Property<int> rowHeight{*this, 225};          ///< in twips; the heading row has always 225
 
     /// The text of a cell, a null ending the reading.
     std::function<std::optional<std::string>(int row, int column)> cellText;
@@ -187,9 +193,11 @@ class Grid : public Control {
 
     /// A press of a mouse button, in twips from the grid's top left corner.
     std::function<void(int x, int y)> mousePress;
+
+    /// The release of the mouse button, and its end, when the current cell has moved.
     Handler click;
-    Handler currentCellChanged;
     Handler settled;
+    Handler currentCellChanged;
 
     /// A key going down; true when it has been served and the grid does nothing more with it.
     std::function<bool(GridKey key)> keyDown;
@@ -201,7 +209,7 @@ class Grid : public Control {
     /// A click on the drop-down button of a column in the current row.
     std::function<void(int column)> dropDown;
 
-    /// A finished repaint.
+    /// A finished repaint; what it moves over the grid raises no further one.
     Handler painted;
 
   private:
