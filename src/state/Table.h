@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "state/RuntimeFailure.h"
@@ -36,14 +37,20 @@ class Table {
         return Has(column, row) ? cells[Index(column, row)] : std::int16_t{-1};
     }
 
+    /// The cells of a row, from column 0. Raises the subscript failure for a row that the table does not have.
+    [[nodiscard]] std::span<std::int16_t> Row(int row) { return {&cells[Index(0, row)], Width()}; }
+    [[nodiscard]] std::span<const std::int16_t> Row(int row) const { return {&cells[Index(0, row)], Width()}; }
+
     bool operator==(const Table&) const = default;
 
   private:
+    [[nodiscard]] std::size_t Width() const { return static_cast<std::size_t>(columnCount); }
+
     [[nodiscard]] std::size_t Index(int column, int row) const {
         if (!Has(column, row)) {
             throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
         }
-        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columnCount) + static_cast<std::size_t>(column);
+        return static_cast<std::size_t>(row) * Width() + static_cast<std::size_t>(column);
     }
 
     int columnCount = 0;
