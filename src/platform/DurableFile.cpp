@@ -186,7 +186,7 @@ void ReplaceHead(const std::string& path, std::string_view head, std::int64_t ta
     if (status.length > tailOffset) {
         CopyFrom(old, tailOffset, temporary.File());
     }
-    old.Close();
+    old.Drop();
     temporary.File().Flush();
     temporary.File().Close();
     temporary.RenameTo(realPath);

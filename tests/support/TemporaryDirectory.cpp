@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <system_error>
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 TemporaryDirectory::TemporaryDirectory() {
     std::string name = (std::filesystem::temp_directory_path() / "Ballhaven test XXXXXX").string();
@@ -53,4 +53,4 @@ std::map<std::string, std::string> TemporaryDirectory::Files() const {
     return files;
 }
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 /// A program directory of its own for a test, with a blank in its name; removed with all that is in it at the end of
 /// its scope.
@@ -36,4 +36,4 @@ class TemporaryDirectory {
     std::string path;
 };
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support
