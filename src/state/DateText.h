@@ -5,11 +5,13 @@
 
 namespace ballhaven {
 
-/// The five-character pattern for `shortDateFormat` from a system's short-date pattern such as "M/d/yyyy": "m/d/y"
-/// where the pattern has no two separators with a letter at each place.
+/// The five-character pattern for `shortDateFormat` from a system's short-date pattern: of each group the letter beside
+/// a separator counts, so "dd.MM.yyyy" gives "d.m.y". "m/d/y" where the pattern has no two separators with a character
+/// beside each of them.
 [[nodiscard]] std::string NormalisedDatePattern(const std::string& systemPattern);
 
-/// Turns a screen date in the order of `shortDateFormat` into the neutral text: month, day and year between hyphens.
+/// Turns a screen date in the order of `shortDateFormat` into the neutral text: month and day in two digits and the
+/// year as it was typed, between hyphens. Any character but a digit and a colon separates the parts.
 void DateToFileText(std::string& text);
 
 /// Makes the text neutral and leaves its day number since 1 January 1984 in `dateSerial` and its weekday in

@@ -8,7 +8,9 @@ namespace ballhaven {
 /// The short text of a card (1 to 52), such as "Ah" or "10c"; empty for any other value.
 [[nodiscard]] std::string CardToText(int value);
 
-/// The value of a card's text, which becomes normalised: "kd" turns into "Kd" and gives 39. Nothing checks the rank.
+/// The value of a card's text, which becomes normalised: "kd" turns into "Kd" and gives 39. Nothing checks the rank:
+/// "14h" gives 14, and a text without a suit letter 13 less than its rank. Raises the overflow failure for a rank
+/// beyond 16 bits.
 [[nodiscard]] std::int16_t TextToCard(std::string& text);
 
 /// The text of a pick in the game at hand: a number's digits, or a card's text.
