@@ -6,7 +6,7 @@
 
 #include "state/AppState.h"
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 namespace {
 
@@ -176,4 +176,4 @@ std::int16_t SerialOf(const std::string& date) {
     return Short(static_cast<int>((sys_days{day} - sys_days{year{1984} / January / 1}).count()));
 }
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support

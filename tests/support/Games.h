@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 enum class BonusPool { Same, Separate };
 
@@ -87,4 +87,4 @@ void SetUpPlay(int play, const std::vector<int>& mainCells, const std::vector<in
 /// Days from 1 January 1984 to a date given as month/day/year, by the standard library's calendar.
 [[nodiscard]] std::int16_t SerialOf(const std::string& date);
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support
