@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <system_error>
 
@@ -37,7 +36,9 @@ std::string TemporaryDirectory::Read(std::string_view name) const {
     if (!file) {
         throw std::runtime_error("cannot read " + (*this / name));
     }
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::string bytes(std::filesystem::file_size(*this / name), '\0');
+    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return bytes;
 }
 
 bool TemporaryDirectory::Has(std::string_view name) const {
