@@ -13,6 +13,13 @@ std::string applicationTitle = "Ballhaven";
 
 }  // namespace
 
+std::string WithSeparator(std::string directory) {
+    if (directory.empty() || directory.back() != directorySeparator) {
+        directory += directorySeparator;
+    }
+    return directory;
+}
+
 std::string ApplicationTitle() {
     return applicationTitle;
 }

@@ -11,6 +11,9 @@ inline constexpr char directorySeparator = '\\';
 inline constexpr char directorySeparator = '/';
 #endif
 
+/// The directory with a separator at its end: one is added unless it ends in one already.
+[[nodiscard]] std::string WithSeparator(std::string directory);
+
 /// The application's title; "Ballhaven" until it is set.
 [[nodiscard]] std::string ApplicationTitle();
 void SetApplicationTitle(const std::string& title);

@@ -68,6 +68,9 @@ void Window::Unload() {
 void Window::Resize(int width, int height) {
     outerWidth = width;
     outerHeight = height;
+    if (resize) {
+        resize();
+    }
 }
 
 void Window::ResizeByUser(int width, int height) {

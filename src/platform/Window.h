@@ -49,7 +49,7 @@ class Window : public Shown {
     /// of the window's own handlers.
     void Unload();
 
-    /// Sets the outer size, in twips.
+    /// Sets the outer size, in twips. Raises `resize`.
     void Resize(int outerWidth, int outerHeight);
 
     /// The outer size as it is, in twips.

@@ -262,7 +262,6 @@ void SetUpMenuBar() {
 void LayOutMainForm() {
     form.window.name = "frmMainForm";
     form.window.title = "Ballhaven";
-    form.window.Resize(outerWidth, outerHeight);
     PutPlaces();
     PutToolbar();
     PutHiLiteBoxes();
@@ -272,6 +271,7 @@ void LayOutMainForm() {
     form.tmrMessage.name = "tmrMessage";
     form.tmrMessage.interval = timerInterval;
     form.window.timers.push_back(&form.tmrMessage);
+    form.window.Resize(outerWidth, outerHeight);
 }
 
 }  // namespace ballhaven

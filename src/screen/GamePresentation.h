@@ -1,0 +1,36 @@
+#pragma once
+
+#include "statistics/HotNumbers.h"
+
+namespace ballhaven {
+
+/// Sizes the play board by the kind of game: the width of its columns, how many of them are shown, and its height with
+/// or without bonus rows. Sets `slipColumns`, the rows of the board, and the first heading of `grdHot`.
+void SizePlayGrid();
+
+/// Ticks the entry of the View menu that says how the log is ordered.
+void ShowViewChecks();
+
+/// Opens columns 1 to `totalPicks` of the log, closes and greys those behind, and heads the bonus picks with "+". In a
+/// card game the pane of the picks is locked, 5 columns wide and without a mark on the current cell, else open and 6
+/// columns wide.
+void ArrangeLogColumns();
+
+/// Shows the option buttons that choose main picks, bonus picks or all, with "All" chosen, in a game with bonus picks;
+/// hides them in one without.
+void ArrangeHotOptions();
+
+/// Shows the hi-lite boxes and swatches of the game's pick columns, locks the boxes in a card game, and puts the button
+/// that clears them beside the last one.
+void ArrangeHiLiteBoxes();
+
+/// Empties both texts of all ten hi-lite boxes.
+void ClearHiLiteBoxes();
+
+/// Heads the four columns of `grdHot` for one of its tables.
+void ShowHotHeadings(HotTable table);
+
+/// Puts `cmdColorHist` on the row-selector margin of the log's current row, or hides it when there is none in view.
+void PlaceHiLiteDrawingButton();
+
+}  // namespace ballhaven

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace ballhaven {
+
+/// Hangs the handlers onto the Historical Log: its cells, typing with the range check, keys, mouse, the date button, and
+/// what a move of the current cell ends.
+void WireLogGrid();
+
+}  // namespace ballhaven

@@ -1,0 +1,153 @@
+#include "screen/Selectors.h"
+
+#include <array>
+#include <string>
+
+#include "history/GameSwitch.h"
+#include "platform/Application.h"
+#include "platform/MessageBox.h"
+#include "platform/Pointer.h"
+#include "plays/PlayFile.h"
+#include "screen/GamePresentation.h"
+#include "screen/MainForm.h"
+#include "screen/SelectorLists.h"
+#include "state/AppState.h"
+#include "state/DateText.h"
+#include "state/GameTable.h"
+#include "state/modUTILS.h"
+#include "statistics/HotNumbers.h"
+
+namespace ballhaven {
+
+namespace {
+
+MainForm& form = frmMainForm;
+
+constexpr int historySetStep = 10;
+constexpr int allDraws = 1000;
+constexpr int historySetColumn = 27;
+constexpr int historySetWidth = 3;
+
+bool IsFilling() {
+    return form.windowStarting || form.gameLoading;
+}
+
+void ShowHotTableAnew() {
+    form.grdHot.ReadAgain();
+    form.grdHot.GoTo(0, 2);
+    platform::ShowArrow();
+}
+
+void SelectGame() {
+    if (form.cboList[0].Selected() + 1 == appState.currentGame) {
+        platform::ShowArrow();
+        return;
+    }
+    platform::ProcessPendingEvents();
+    SaveWhatIsDirty();
+    {
+        const platform::GridPause logPause(form.grdHist);
+        const platform::GridPause hotPause(form.grdHot);
+        SwitchGame();
+    }
+    form.grdHist.ReadAgain();
+    form.grdHot.ReadAgain();
+    form.grdPlay.ReadAgain();
+    AskToSetUpGame();
+    ShowHotTableAnew();
+}
+
+void StoreHistorySet() {
+    const int size = appState.historySetSize;
+    const std::string field = modUTILS::ZeroPadded(size >= allDraws ? 0 : size, historySetWidth);
+    modUTILS::SetColumns(appState.gameRecord, historySetColumn, field);
+    SaveGameRecord(appState.currentGame);
+}
+
+void SelectHistorySet() {
+    appState.historySetSize = modUTILS::ToInt16((form.cboList[1].Selected() + 1) * historySetStep);
+    StoreHistorySet();
+    std::string date = form.grdHist.Text(0);
+    if (date.empty()) {
+        RefreshHistory(-1);
+    } else {
+        DateToSerial(date);
+        RefreshHistory(appState.dateSerial);
+    }
+    ShowHotTableAnew();
+}
+
+/// Sets the caption of the chosen table and returns its last row.
+std::int16_t ShowCaptionOfChoice() {
+    switch (ShownHotTable()) {
+        case HotTable::HotNumbers:
+            ShowHotNumbersCaption();
+            return appState.hotNumberLast;
+        case HotTable::HotPairs:
+            ShowHotCaption("Hot Pairs");
+            return appState.hotPairLast;
+        case HotTable::PairedOnce:
+            ShowHotCaption("Paired once");
+            return appState.pairedOnceLast;
+        case HotTable::Repeaters:
+            ShowHotCaption("Hot Repeaters");
+            return appState.repeaterLast;
+        case HotTable::NoHitters:
+            ShowHotCaption("No Hitters");
+            return appState.noHitterLast;
+    }
+    return -1;
+}
+
+void SelectHotTable() {
+    appState.hotTableChoice = modUTILS::ToInt16(form.cboList[2].Selected() + 1);
+    ShowHotHeadings(ShownHotTable());
+    form.hotRowCount = modUTILS::ToInt16(ShowCaptionOfChoice() + 1);
+    form.grdHot.SetRowCount(form.hotRowCount);
+    ShowHotTableAnew();
+}
+
+/// A change of a list that the program is not filling itself: what all three have in common before their own work.
+void Answer(void (*change)()) {
+    if (IsFilling()) {
+        return;
+    }
+    platform::ShowHourglass();
+    form.grdHist.EndEdit();
+    change();
+}
+
+void ChoosePicksToCount(int option) {
+    if (IsFilling()) {
+        return;
+    }
+    MarkHotTablesStale();
+    appState.hotSortChoice = modUTILS::ToInt16(option);
+    ComputeHotTable();
+}
+
+}  // namespace
+
+void WireSelectors() {
+    form.cboList[0].change = [] { Answer(SelectGame); };
+    form.cboList[1].change = [] { Answer(SelectHistorySet); };
+    form.cboList[2].change = [] { Answer(SelectHotTable); };
+    for (std::size_t i = 0; i < form.optHot.size(); ++i) {
+        form.optHot[i].click = [i] { ChoosePicksToCount(static_cast<int>(i)); };
+    }
+}
+
+void AskToSetUpGame() {
+    if (modUTILS::Trimmed(form.cboList[0].Text()) != "un-defined") {
+        return;
+    }
+    const std::string slot = std::to_string(form.cboList[0].Selected() + 1);
+    const std::string question = "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
+    if (platform::ShowMessageBox(question, platform::BoxButtons::YesNo, platform::BoxIcon::Question, "Ballhaven") ==
+        platform::BoxAnswer::Yes) {
+        appState.gameDialogMode = 1;
+        appState.gameDialogSlot = appState.currentGame;
+    }
+}
+
+}  // namespace ballhaven

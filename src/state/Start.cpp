@@ -1,0 +1,43 @@
+#include "state/Start.h"
+
+#include <string>
+
+#include "platform/Application.h"
+#include "platform/Pointer.h"
+#include "platform/Services.h"
+#include "screen/MainForm.h"
+#include "screen/MainWindow.h"
+#include "state/AppState.h"
+#include "state/DateText.h"
+
+namespace ballhaven {
+
+namespace {
+
+// While this instance looks for the earlier one by its title it bears another one, so that it cannot find itself.
+constexpr const char* noTitle = "!@#$%^&";
+
+void BringEarlierInstanceForward() {
+    const std::string title = platform::ApplicationTitle();
+    platform::SetApplicationTitle(noTitle);
+    platform::services.activateApplication(title);
+}
+
+}  // namespace
+
+void StartProgram() {
+    platform::ShowHourglass();
+    if (platform::services.earlierInstanceRuns()) {
+        BringEarlierInstanceForward();
+        platform::EndProcess();
+        return;
+    }
+    appState.windowsDirectory = platform::WithSeparator(platform::services.systemDirectory());
+    appState.shortDateFormat = NormalisedDatePattern(platform::services.shortDatePattern(appState.windowsDirectory));
+    WireMainWindow();
+    frmMainForm.window.Show();
+    frmMainForm.window.RepaintNow();
+    platform::ShowArrow();
+}
+
+}  // namespace ballhaven
