@@ -3,13 +3,12 @@
 #include <memory>
 
 #include "screen/MainForm.h"
-#include "state/AppState.h"
+#include "support/Games.h"
 
 namespace ballhaven::support {
 
 void ResetMainForm() {
-    appState = AppState{};
-    appState.shortDateFormat = "m/d/y";
+    ResetState();
     std::destroy_at(&frmMainForm);
     std::construct_at(&frmMainForm);
     LayOutMainForm();

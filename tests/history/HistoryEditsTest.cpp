@@ -1,0 +1,141 @@
+#include "history/HistoryEdits.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "history/HistoryView.h"
+#include "screen/LogCells.h"
+#include "screen/MainForm.h"
+#include "state/AppState.h"
+#include "support/Games.h"
+#include "support/MainFormReset.h"
+
+namespace ballhaven {
+namespace {
+
+using support::BonusPool;
+using support::CardGame;
+using support::NumberGame;
+
+class HistoryEdits : public testing::Test {
+  protected:
+    void SetUp() override { support::ResetMainForm(); }
+
+    static void ShowDraws(const support::Game& game, const std::vector<support::Draw>& draws) {
+        support::SetUpGame(game);
+        support::SetUpDraws(draws);
+        frmMainForm.logLastColumn = appState.totalPicks;
+        frmMainForm.grdHist.cellText = LogCellValue;
+        BuildHistoryView();
+    }
+
+    /// Types a text into a cell of the current row, the check and the storing being those under test.
+    static bool Type(int column, const std::string& text) {
+        frmMainForm.grdHist.acceptEdit = IsPickInRange;
+        frmMainForm.grdHist.edited = PostLogEdit;
+        frmMainForm.grdHist.GoToColumn(column);
+        return frmMainForm.grdHist.Edit(column, text);
+    }
+};
+
+const std::vector<support::Draw> twoDraws = {{"01/01/1990", {1, 2, 3}}, {"01/02/1990", {4, 5, 6}}};
+
+TEST_F(HistoryEdits, AValueOfZeroIsRefusedWhereTheLowestNumberIsOne) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(9), twoDraws);
+    EXPECT_FALSE(Type(2, "0"));
+    EXPECT_EQ(appState.HistoryTable(2, 0), 2);
+}
+
+TEST_F(HistoryEdits, AnEmptiedCellIsAcceptedAndStoredAsMinusOne) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(9), twoDraws);
+    EXPECT_TRUE(Type(2, "  "));
+    EXPECT_EQ(appState.HistoryTable(2, 0), -1);
+    EXPECT_EQ(appState.historyView(2, 0), -1);
+}
+
+TEST_F(HistoryEdits, BothEndsOfTheRangeAreAllowedAndWhatLiesBehindThemIsNot) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(49), twoDraws);
+    EXPECT_TRUE(Type(1, "1"));
+    EXPECT_TRUE(Type(1, "49"));
+    EXPECT_FALSE(Type(1, "50"));
+    EXPECT_FALSE(Type(1, "99999999999"));
+    EXPECT_EQ(appState.HistoryTable(1, 0), 49);
+}
+
+TEST_F(HistoryEdits, ALetterReadsAsZeroAndPassesOnlyWhereZeroIsAPick) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(9), twoDraws);
+    EXPECT_FALSE(Type(1, "x"));
+    ShowDraws(NumberGame().Picks(3).From(0).To(9), twoDraws);
+    EXPECT_TRUE(Type(1, "x"));
+    EXPECT_EQ(appState.HistoryTable(1, 0), 0);
+}
+
+TEST_F(HistoryEdits, TheLeadingDigitsOfATextAreItsValue) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(49), twoDraws);
+    EXPECT_TRUE(Type(1, " 1 2x9"));
+    EXPECT_EQ(appState.HistoryTable(1, 0), 12);
+}
+
+TEST_F(HistoryEdits, ABonusIsCheckedAgainstItsOwnLimits) {
+    ShowDraws(NumberGame().Picks(2).From(1).To(49).Bonus(1, BonusPool::Separate).BonusFrom(0).BonusTo(9), twoDraws);
+    EXPECT_TRUE(Type(3, "0"));
+    EXPECT_FALSE(Type(3, "10"));
+    EXPECT_FALSE(Type(2, "0"));
+    EXPECT_TRUE(Type(2, "10"));
+}
+
+TEST_F(HistoryEdits, InAGameWithoutBonusColumnsBehindTheMainPicksAreNotChecked) {
+    ShowDraws(NumberGame().Picks(2).From(1).To(9), {{"01/01/1990", {1, 2}}});
+    EXPECT_TRUE(IsPickInRange(3));
+}
+
+TEST_F(HistoryEdits, CardsAreNotChecked) {
+    ShowDraws(CardGame().Picks(2), {{"01/01/1990", {1, 2}}});
+    EXPECT_TRUE(IsPickInRange(1));
+}
+
+TEST_F(HistoryEdits, TwoRowsOfOneDateBothTakeTheValue) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(9),
+              {{"01/01/1990", {1, 2, 3}}, {"01/01/1990", {4, 5, 6}}, {"01/02/1990", {7, 8, 9}}});
+    EXPECT_TRUE(Type(3, "7"));
+    EXPECT_EQ(appState.HistoryTable(3, 0), 7);
+    EXPECT_EQ(appState.HistoryTable(3, 1), 7);
+    EXPECT_EQ(appState.HistoryTable(3, 2), 9);
+    EXPECT_EQ(appState.historyView(3, 0), 7);
+    EXPECT_EQ(appState.historyView(3, 1), 7);
+}
+
+TEST_F(HistoryEdits, AValueGoesToTheDrawOfTheCurrentRowInBothTablesWhateverTheOrder) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(9).NewestFirst(), twoDraws);
+    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/02/1990");
+    EXPECT_TRUE(Type(1, "9"));
+    EXPECT_EQ(appState.historyView(1, 0), 9);
+    EXPECT_EQ(appState.HistoryTable(1, 1), 9);
+    EXPECT_EQ(appState.HistoryTable(1, 0), 1);
+}
+
+TEST_F(HistoryEdits, StoringAPickMarksTheFourTablesStale) {
+    ShowDraws(NumberGame().Picks(3).From(1).To(9), twoDraws);
+    EXPECT_TRUE(Type(1, "9"));
+    EXPECT_TRUE(appState.hotPairStale && appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
+}
+
+// Not a bug: LOG-DIRTY-1 in docs/not-bugs.md.
+TEST(QuirkLogDirty1, TypingAloneLeavesTheHistoryAsCleanAsItWas) {
+    support::ResetMainForm();
+    support::SetUpGame(NumberGame().Picks(3).From(1).To(9));
+    support::SetUpDraws(twoDraws);
+    frmMainForm.logLastColumn = 3;
+    frmMainForm.grdHist.cellText = LogCellValue;
+    frmMainForm.grdHist.edited = PostLogEdit;
+    BuildHistoryView();
+    frmMainForm.grdHist.GoToColumn(1);
+    EXPECT_TRUE(frmMainForm.grdHist.Edit(1, "9"));
+    EXPECT_EQ(appState.HistoryTable(1, 0), 9);
+    EXPECT_FALSE(appState.historyDirty);
+}
+
+}  // namespace
+}  // namespace ballhaven
