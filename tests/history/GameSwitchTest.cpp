@@ -47,6 +47,7 @@ class SwitchingGames : public testing::Test {
 
     static void StoreDraws(int slot, const std::vector<support::Draw>& draws) {
         appState.currentGame = static_cast<std::int16_t>(slot);
+        LoadGameRecord(slot);
         LoadHistory();
         support::SetUpDraws(draws);
         SaveHistory(0);
