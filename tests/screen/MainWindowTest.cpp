@@ -1,0 +1,172 @@
+#include "screen/MainWindow.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "history/HistoryFile.h"
+#include "platform/FileSystem.h"
+#include "platform/Services.h"
+#include "screen/MainForm.h"
+#include "state/AppState.h"
+#include "support/MainFormReset.h"
+#include "support/MessageScript.h"
+#include "support/TemporaryDirectory.h"
+
+namespace ballhaven {
+namespace {
+
+using platform::BoxAnswer;
+using platform::BoxButtons;
+using platform::BoxIcon;
+using platform::services;
+
+/// The main window, loaded and wired on a program directory of the test's own, without a toolkit.
+class MainWindow : public testing::Test {
+  protected:
+    void SetUp() override {
+        support::ResetMainForm();
+        frmMainForm.window.controls.clear();
+        frmMainForm.window.menus.clear();
+        frmMainForm.window.timers.clear();
+        services = platform::Services{};
+        services.executableDirectory = [this] { return directory.Path(); };
+        services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
+        WireMainWindow();
+        frmMainForm.window.Load();
+    }
+
+    void TearDown() override {
+        platform::fileSystem = platform::SystemFiles();
+        services = platform::Services{};
+        support::ResetMainForm();
+    }
+
+    void Activate(BoxAnswer setUpNow) {
+        MessageScript boxes;
+        boxes.Expect("Ballhaven", "You need to configure game number 1.\nWould you like to set up the game now?",
+                     BoxButtons::YesNo, BoxIcon::Question, setUpNow);
+        frmMainForm.window.activate();
+    }
+
+    /// The files that are renamed into place from now on, in their order.
+    std::vector<std::string>& WatchSaves() {
+        platform::fileSystem.rename = [this, real = platform::SystemFiles().rename](const std::string& from,
+                                                                                    const std::string& to) {
+            saved.push_back(to.substr(to.rfind('/') + 1));
+            return real(from, to);
+        };
+        return saved;
+    }
+
+    support::TemporaryDirectory directory;
+    std::vector<int> exitCodes;
+    std::vector<std::string> saved;
+};
+
+TEST_F(MainWindow, AsksForItsCellsColoursOnDemandWhereTheyCanDiffer) {
+    for (int column = 0; column < 9; ++column) {
+        EXPECT_TRUE(frmMainForm.grdPlay.Column(column).styled) << column;
+    }
+    for (int column = 0; column < 4; ++column) {
+        EXPECT_EQ(*frmMainForm.grdHot.Column(column).styled, column == 0) << column;
+    }
+    for (int column = 0; column < 11; ++column) {
+        EXPECT_EQ(*frmMainForm.grdHist.Column(column).styled, column > 0) << column;
+    }
+}
+
+TEST_F(MainWindow, ItsFirstActivationLoadsTheGameAndOnlyThenAsksToSetItUp) {
+    EXPECT_TRUE(frmMainForm.windowStarting);
+    Activate(BoxAnswer::No);
+    EXPECT_FALSE(frmMainForm.windowStarting);
+    EXPECT_EQ(appState.currentGame, 1);
+    EXPECT_EQ(appState.gameDialogMode, 0);
+}
+
+TEST_F(MainWindow, YesToTheQuestionMakesTheDialogDueForTheGame) {
+    Activate(BoxAnswer::Yes);
+    EXPECT_EQ(appState.gameDialogMode, 1);
+    EXPECT_EQ(appState.gameDialogSlot, 1);
+}
+
+TEST_F(MainWindow, ALaterActivationReloadsTheGameOnlyWhileTheDialogsModeStands) {
+    Activate(BoxAnswer::No);
+    appState.colorMode = 1;
+    frmMainForm.window.activate();
+    EXPECT_EQ(appState.colorMode, 1);
+    appState.gameDialogMode = 2;
+    Activate(BoxAnswer::No);
+    EXPECT_EQ(appState.colorMode, 0);
+}
+
+TEST_F(MainWindow, AnActivationThatReloadsTheGameSavesFirstWhatIsDirty) {
+    Activate(BoxAnswer::No);
+    appState.historyLast = 0;
+    appState.HistoryTable(0, 0) = 1000;
+    appState.historyDirty = true;
+    appState.gameDialogMode = 2;
+    Activate(BoxAnswer::No);
+    EXPECT_EQ(appState.HistoryTable(0, 0), 1000);
+    EXPECT_EQ(directory.Read("GAME01.CDB").substr(64, 4), "1000");
+}
+
+TEST_F(MainWindow, ClosingSavesTheDrawsThenThePlaysAndEndsTheProcess) {
+    Activate(BoxAnswer::No);
+    appState.HistoryTable(0, 0) = 1000;
+    appState.historyDirty = true;
+    appState.PlayTable(mainPicks, 1, 1) = 12;
+    appState.playsDirty = true;
+    WatchSaves();
+    frmMainForm.window.Unload();
+    EXPECT_EQ(saved, (std::vector<std::string>{"GAME01.CDB", "PLAYS01.CDB"}));
+    EXPECT_FALSE(appState.playsDirty);
+    EXPECT_EQ(exitCodes, (std::vector<int>{0}));
+}
+
+TEST_F(MainWindow, ClosingWithNothingChangedWritesNoFile) {
+    Activate(BoxAnswer::No);
+    WatchSaves();
+    frmMainForm.window.Unload();
+    EXPECT_TRUE(saved.empty());
+    EXPECT_EQ(exitCodes, (std::vector<int>{0}));
+}
+
+TEST_F(MainWindow, ExitInTheFileMenuClosesTheWindow) {
+    Activate(BoxAnswer::No);
+    frmMainForm.mnuFileArray[2].click();
+    EXPECT_EQ(exitCodes, (std::vector<int>{0}));
+    EXPECT_FALSE(frmMainForm.window.IsLoaded());
+}
+
+TEST_F(MainWindow, OpensWithTheGridsAtTheHeightsOfTheDesign) {
+    EXPECT_EQ(frmMainForm.grdHist.bounds->height, 7260);
+    EXPECT_EQ(frmMainForm.grdHot.bounds->height, 4860);
+}
+
+TEST_F(MainWindow, AShorterWindowLeavesTheGridsAsTheyAre) {
+    frmMainForm.window.ResizeByUser(12135, 9880);
+    frmMainForm.window.ResizeByUser(12135, 8879);
+    EXPECT_EQ(frmMainForm.grdHist.bounds->height, 8100);
+    EXPECT_EQ(frmMainForm.grdHot.bounds->height, 5710);
+}
+
+TEST_F(MainWindow, AWiderWindowChangesNoGrid) {
+    const platform::Bounds log = frmMainForm.grdHist.bounds;
+    frmMainForm.window.ResizeByUser(20000, 8880);
+    EXPECT_EQ(*frmMainForm.grdHist.bounds, log);
+}
+
+// Not a bug: RESIZE-1 in docs/not-bugs.md.
+TEST_F(MainWindow, TheDesignHeightGives7260And4860AndOneTwipMore7101And4711) {
+    frmMainForm.window.ResizeByUser(12135, 8881);
+    EXPECT_EQ(frmMainForm.grdHist.bounds->height, 7101);
+    EXPECT_EQ(frmMainForm.grdHot.bounds->height, 4711);
+    frmMainForm.window.ResizeByUser(12135, 8880);
+    EXPECT_EQ(frmMainForm.grdHist.bounds->height, 7260);
+    EXPECT_EQ(frmMainForm.grdHot.bounds->height, 4860);
+}
+
+}  // namespace
+}  // namespace ballhaven
