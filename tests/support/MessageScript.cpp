@@ -6,7 +6,7 @@
 
 #include "platform/Services.h"
 
-namespace ballhaven {
+namespace ballhaven::testing {
 
 namespace {
 
@@ -57,4 +57,4 @@ BoxAnswer MessageScript::Answer(const MessageBoxRequest& request) {
     return next.answer;
 }
 
-}  // namespace ballhaven
+}  // namespace ballhaven::testing

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "platform/Controls.h"
+#include "platform/qt/ControlWidget.h"
+#include "platform/qt/PictureRenderer.h"
+
+namespace ballhaven::platform {
+
+/// Shows a button. One with a picture is flat until the pointer or the keyboard is on it.
+class ButtonWidget final : public ControlWidget<QPushButton> {
+  public:
+    ButtonWidget(Button& shownButton, QWidget* parent);
+    void Refresh() override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    [[nodiscard]] QRectF PicturePlace() const;
+
+    Button& button;
+    PictureRenderer picture;
+};
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,35 @@
+#include "platform/qt/ControlWidget.h"
+
+#include <algorithm>
+
+#include "platform/qt/Conversions.h"
+
+namespace ballhaven::platform {
+
+namespace {
+
+QString Spoken(const std::string& text) {
+    return ToQString(text).remove(QLatin1Char('&')).trimmed();
+}
+
+QString AccessibleName(const Control& control, const std::string& ownText) {
+    const QString text = Spoken(ownText);
+    const bool textNames = std::any_of(text.begin(), text.end(), [](QChar each) { return each.isLetterOrNumber(); });
+    if (!control.accessibleName->empty()) {
+        return ToQString(*control.accessibleName);
+    }
+    return textNames || control.toolTip->empty() ? text : Spoken(*control.toolTip);
+}
+
+}  // namespace
+
+void ShowCommon(const Control& control, QWidget& widget, const std::string& ownText) {
+    widget.setObjectName(ToQString(control.name));
+    widget.setAccessibleName(AccessibleName(control, ownText));
+    widget.setToolTip(ToQString(*control.toolTip));
+    widget.setGeometry(ToQRect(*control.bounds));
+    widget.setEnabled(*control.enabled);
+    widget.setVisible(*control.visible);
+}
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "platform/Control.h"
+#include "platform/Guard.h"
+
+namespace ballhaven::platform {
+
+/// Shows in a widget what all controls have in common: place, visibility, tool tip and names. A control without an
+/// accessible name of its own is called by its text if that holds a letter or a digit, else by its tool tip.
+void ShowCommon(const Control& control, QWidget& widget, const std::string& ownText = {});
+
+/// A widget that shows a control: `Widget` is the toolkit's class for its kind. Ends with its parent widget.
+template <typename Widget>
+class ControlWidget : public Widget, public ControlView {
+  public:
+    ControlWidget(Control& shownControl, QWidget* parent) : Widget(parent), shown(shownControl) { shown.view = this; }
+
+    void TakeFocus() override { this->setFocus(Qt::OtherFocusReason); }
+    void BringToFront() override { this->raise(); }
+
+  protected:
+    /// Runs what the user's act leads to, under the guard. A widget whose window is torn down already leads to nothing.
+    void Report(const std::function<void()>& act) {
+        if (shown.view == this) {
+            RunGuarded(act);
+        }
+    }
+
+  private:
+    Control& shown;
+};
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,48 @@
+#include "platform/qt/Conversions.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <cmath>
+
+#include "platform/CodePage.h"
+
+namespace ballhaven::platform {
+
+QString ToQString(std::string_view text) {
+    return QString::fromStdU16String(ToUtf16(text));
+}
+
+std::string FromQString(const QString& text) {
+    return FromUtf16(text.toStdU16String());
+}
+
+int ToPixels(int twips) {
+    return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));
+}
+
+int ToTwips(int pixels) {
+    return pixels * twipsPerPixel;
+}
+
+QRect ToQRect(const Bounds& bounds) {
+    const int left = ToPixels(bounds.left);
+    const int top = ToPixels(bounds.top);
+    return {left, top, ToPixels(bounds.left + bounds.width) - left, ToPixels(bounds.top + bounds.height) - top};
+}
+
+QColor ToQColor(const Color& color) {
+    const QPalette palette = QGuiApplication::palette();
+    switch (color.source) {
+        case Color::Source::Window:
+            return palette.color(QPalette::Base);
+        case Color::Source::WindowText:
+            return palette.color(QPalette::WindowText);
+        case Color::Source::ButtonFace:
+            return palette.color(QPalette::Window);
+        case Color::Source::Fixed:
+            break;
+    }
+    return {color.red, color.green, color.blue};
+}
+
+}  // namespace ballhaven::platform

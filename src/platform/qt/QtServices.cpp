@@ -1,0 +1,59 @@
+#include "platform/qt/QtServices.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <cstdlib>
+
+#include "platform/Services.h"
+#include "platform/qt/MessageDialog.h"
+#include "platform/qt/ProgramInstance.h"
+#include "platform/qt/QtToolkit.h"
+#include "platform/qt/SystemSettings.h"
+
+namespace ballhaven::platform {
+
+namespace {
+
+/// The window over which a message box stands: a modal one, else the one that was active last.
+QWidget* WindowInCharge(const QtToolkit& qtToolkit) {
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : qtToolkit.FrontWindow();
+}
+
+void RaiseWindow(QWidget& window) {
+    window.setWindowState((window.windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+void ComeToFront(const QtToolkit& qtToolkit, const std::string& token) {
+    if (!token.empty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
+    }
+    QWidget* const front = qtToolkit.FrontWindow();
+    QWidget* const inCharge = WindowInCharge(qtToolkit);
+    if (front != nullptr) {
+        RaiseWindow(*front);
+    }
+    if (inCharge != nullptr && inCharge != front) {
+        RaiseWindow(*inCharge);
+    }
+}
+
+}  // namespace
+
+void InstallQtServices(QtToolkit& qtToolkit, ProgramInstance& instance) {
+    instance.comeToFront = [&qtToolkit](const std::string& token) { ComeToFront(qtToolkit, token); };
+    services.showMessageBox = [&qtToolkit](const MessageBoxRequest& request) {
+        return ShowMessageDialog(request, WindowInCharge(qtToolkit));
+    };
+    services.endProcess = [](int exitCode) { std::_Exit(exitCode); };
+    services.executableDirectory = ExecutableDirectory;
+    services.systemDirectory = SystemDirectory;
+    services.shortDatePattern = ShortDatePattern;
+    services.earlierInstanceRuns = [&instance] { return !instance.BecomeFirst(ExecutableDirectory()); };
+    services.activateApplication = [&instance](const std::string& title) { instance.ActivateFirst(title); };
+}
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/Toolkit.h"
+#include "platform/qt/ActivationOrder.h"
+
+namespace ballhaven::platform {
+
+/// The toolkit over Qt's widgets.
+class QtToolkit final : public Toolkit {
+  public:
+    void Build(Window& window) override;
+    void TearDown(Window& window) override;
+    void ShowHourglass(bool shown) override;
+    void ProcessPendingEvents() override;
+
+    /// The window of the program that was active last, null for none.
+    [[nodiscard]] QWidget* FrontWindow() const { return activations.Front(); }
+
+  private:
+    ActivationOrder activations;
+    bool hourglassShown = false;
+};
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,85 @@
+#include "platform/qt/SystemSettings.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocale>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/qt/Conversions.h"
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include <array>
+#endif
+
+namespace ballhaven::platform {
+
+namespace {
+
+#ifndef _WIN32
+/// The locale by which the user's system writes dates.
+std::string DateLocale() {
+    for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const char* const value = std::getenv(variable);
+        if (value != nullptr && *value != '\0') {
+            return value;
+        }
+    }
+    return {};
+}
+#endif
+
+}  // namespace
+
+std::string ExecutableDirectory() {
+#ifdef __linux__
+    // A folder's name need not be text in any encoding; the system's own link has its very bytes.
+    std::error_code failure;
+    const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", failure);
+    if (!failure) {
+        return executable.parent_path().string();
+    }
+#endif
+    return QCoreApplication::applicationDirPath().toLocal8Bit().toStdString();
+}
+
+#ifdef _WIN32
+
+std::string SystemDirectory() {
+    std::array<char, 145> buffer{};
+    GetWindowsDirectoryA(buffer.data(), static_cast<UINT>(buffer.size()));
+    return buffer.data();
+}
+
+std::string ShortDatePattern(const std::string& systemDirectory) {
+    std::array<char, 64> buffer{};
+    GetPrivateProfileStringA("Intl", "sShortDate", "", buffer.data(), static_cast<DWORD>(buffer.size()),
+                             (systemDirectory + "win.ini").c_str());
+    return buffer.data();
+}
+
+#else
+
+std::string SystemDirectory() {
+    return "/";
+}
+
+std::string ShortDatePattern(const std::string&) {
+    return ShortDatePatternOfLocale(DateLocale());
+}
+
+#endif
+
+std::string ShortDatePatternOfLocale(const std::string& name) {
+    const std::string language = name.substr(0, name.find_first_of(".@"));
+    const QLocale locale(QString::fromStdString(language));
+    if (language.empty() || language == "POSIX" || locale.language() == QLocale::C) {
+        return {};
+    }
+    return FromQString(locale.dateFormat(QLocale::ShortFormat));
+}
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace ballhaven::platform {
+
+/// The folder of the program's executable, in the bytes by which the system opens it.
+[[nodiscard]] std::string ExecutableDirectory();
+
+/// The folder of the system's own settings.
+[[nodiscard]] std::string SystemDirectory();
+
+/// The user's short-date pattern, such as "M/d/yyyy"; empty where there is none.
+[[nodiscard]] std::string ShortDatePattern(const std::string& systemDirectory);
+
+/// The short-date pattern of a locale such as "de_DE.UTF-8"; empty for "C", "POSIX" and the empty name.
+[[nodiscard]] std::string ShortDatePatternOfLocale(const std::string& name);
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform/Controls.h"
+#include "platform/qt/ControlWidget.h"
+
+namespace ballhaven::platform {
+
+/// Shows a text box. What the user types is in the value at once.
+class TextBoxWidget final : public ControlWidget<QLineEdit> {
+  public:
+    TextBoxWidget(TextBox& shownBox, QWidget* parent);
+    void Refresh() override;
+
+  private:
+    TextBox& box;
+};
+
+}  // namespace ballhaven::platform

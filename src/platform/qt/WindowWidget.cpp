@@ -1,0 +1,191 @@
+#include "platform/qt/WindowWidget.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QMenuBar>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+
+#include "platform/Guard.h"
+#include "platform/qt/ActivationOrder.h"
+#include "platform/qt/ControlFactory.h"
+#include "platform/qt/Conversions.h"
+#include "platform/qt/MenuItemAction.h"
+
+namespace ballhaven::platform {
+
+WindowWidget::WindowWidget(Window& shownWindow, ActivationOrder& activationOrder)
+    : window(shownWindow), activations(activationOrder), clientArea(new QWidget(this)) {
+    setObjectName(ToQString(window.name));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    clientArea->setObjectName(QStringLiteral("clientArea"));
+    setCentralWidget(clientArea);
+    if (!window.menus.empty()) {
+        menuBar()->setObjectName(QStringLiteral("menuBar"));
+        FillMenuBar(*menuBar(), window.menus);
+        menuBar()->ensurePolished();
+    }
+    for (Control* control : window.controls) {
+        BuildControl(*control, *clientArea);
+    }
+    StartTimers();
+    clientArea->installEventFilter(this);
+    Refresh();
+}
+
+void WindowWidget::StartTimers() {
+    for (const Timer* timer : window.timers) {
+        auto* const ticking = new QTimer(this);
+        ticking->setObjectName(ToQString(timer->name));
+        connect(ticking, &QTimer::timeout, this, [this, timer] {
+            if (window.view == this && timer->tick) {
+                RunGuarded(timer->tick);
+            }
+        });
+        ticking->start(timer->interval);
+    }
+}
+
+QSize WindowWidget::ClientSize() const {
+    return {std::max(0, ToPixels(window.Width() - Window::frameWidth)),
+            std::max(0, ToPixels(window.Height() - Window::frameHeight))};
+}
+
+void WindowWidget::Refresh() {
+    setWindowTitle(ToQString(*window.title));
+    const QSize client = ClientSize();
+    const int menuHeight = window.menus.empty() ? 0 : menuBar()->heightForWidth(client.width());
+    resize(client.width(), client.height() + menuHeight);
+    PlaceAlignedPanels(client);
+}
+
+void WindowWidget::PlaceAlignedPanels(const QSize& client) {
+    const Bounds room{0, 0, ToTwips(client.width()), ToTwips(client.height())};
+    int top = 0;
+    int left = 0;
+    for (Control* control : window.controls) {
+        if (control->kind != ControlKind::Panel || !*control->visible) {
+            continue;
+        }
+        Panel& panel = static_cast<Panel&>(*control);
+        if (*panel.alignment == Panel::Alignment::Top) {
+            panel.bounds = Bounds{0, top, room.width, panel.bounds->height};
+            top += panel.bounds->height;
+        } else if (*panel.alignment == Panel::Alignment::Left) {
+            panel.bounds = Bounds{left, top, panel.bounds->width, room.height - top};
+            left += panel.bounds->width;
+        }
+    }
+}
+
+bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == clientArea && event->type() == QEvent::Resize && isVisible()) {
+        FollowClientArea();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// A size that the program has set is there already, to the twip; any other one comes from the user or the desktop.
+void WindowWidget::FollowClientArea() {
+    if (window.view != this || clientArea->size() == ClientSize()) {
+        return;
+    }
+    PlaceAlignedPanels(clientArea->size());
+    RunGuarded([this] {
+        const int width = ToTwips(clientArea->width()) + Window::frameWidth;
+        const int height = ToTwips(clientArea->height()) + Window::frameHeight;
+        window.ResizeByUser(width, height);
+    });
+}
+
+void WindowWidget::Show() {
+    show();
+}
+
+void WindowWidget::ShowModal() {
+    setWindowModality(Qt::ApplicationModal);
+    if (QWidget* const front = activations.Front()) {
+        winId();
+        windowHandle()->setTransientParent(front->windowHandle());
+    }
+    show();
+    QEventLoop loop;
+    modalLoop = &loop;
+    loop.exec();  // the widget may be gone after this
+}
+
+void WindowWidget::ShowInFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void WindowWidget::RepaintNow() {
+    repaint();
+}
+
+void WindowWidget::TearDown() {
+    window.view = nullptr;
+    for (Control* control : window.controls) {
+        PartControl(*control);
+    }
+    for (const Menu* menu : window.menus) {
+        for (MenuItem& item : menu->items) {
+            item.view = nullptr;
+        }
+    }
+    const bool wasActive = isActiveWindow();
+    activations.Remove(*this);
+    hide();
+    if (modalLoop != nullptr) {
+        modalLoop->quit();
+        modalLoop = nullptr;
+    }
+    if (QWidget* const next = activations.Front(); next != nullptr && wasActive) {
+        next->activateWindow();
+    }
+    deleteLater();
+}
+
+// The window goes when the program has unloaded it, not before.
+void WindowWidget::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (window.view == this) {
+        RunGuarded([this] { window.Unload(); });
+    }
+}
+
+void WindowWidget::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    // Its first activation does not wait for the desktop, which may never report one.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!everActive) {
+                BecomeActive();
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+bool WindowWidget::event(QEvent* event) {
+    const bool served = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate) {
+        BecomeActive();
+    }
+    return served;
+}
+
+void WindowWidget::BecomeActive() {
+    if (window.view != this) {
+        return;
+    }
+    everActive = true;
+    if (activations.Activate(*this) && window.activate) {
+        RunGuarded(window.activate);
+    }
+}
+
+}  // namespace ballhaven::platform

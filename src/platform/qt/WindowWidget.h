@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "platform/Window.h"
+
+class QEventLoop;
+
+namespace ballhaven::platform {
+
+class ActivationOrder;
+
+/// Shows a window: a menu bar above a client area in which the controls stand. The client area's size is the outer
+/// size of the window less the frame that the program reckons with, whatever the desktop's own frame takes.
+class WindowWidget final : public QMainWindow, public WindowView {
+  public:
+    WindowWidget(Window& shownWindow, ActivationOrder& activationOrder);
+
+    void Refresh() override;
+    void Show() override;
+    void ShowModal() override;
+    void ShowInFront() override;
+    void RepaintNow() override;
+
+    /// Parts the window and its controls from their widgets, hides the widget and lets it be deleted when nothing of
+    /// it runs any more. Ends a modal showing.
+    void TearDown();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] QSize ClientSize() const;
+    void StartTimers();
+    void PlaceAlignedPanels(const QSize& client);
+    void FollowClientArea();
+    void BecomeActive();
+
+    Window& window;
+    ActivationOrder& activations;
+    QWidget* clientArea;
+    QEventLoop* modalLoop = nullptr;
+    bool everActive = false;
+};
+
+}  // namespace ballhaven::platform
