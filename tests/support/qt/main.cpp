@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QByteArray>
 #include <QtGlobal>
 
 #include "platform/Application.h"
@@ -8,7 +9,7 @@
 
 namespace {
 
-using namespace ballhaven;
+namespace platform = ballhaven::platform;
 
 /// The surroundings of a test that sets up none of its own: whatever would reach out of the test fails it instead.
 void RefuseTheSurroundings() {
@@ -29,10 +30,10 @@ void RefuseTheSurroundings() {
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("offscreen"));
     }
     testing::InitGoogleTest(&argc, argv);
-    const ballhaven::platform::QtApplication application(argc, argv);
+    const platform::QtApplication application(argc, argv);
     RefuseTheSurroundings();
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,84 @@
+#include "platform/qt/SystemSettings.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace ballhaven::platform {
+namespace {
+
+/// Gives variables of the environment other values for as long as it lives.
+class LocaleVariables {
+  public:
+    LocaleVariables(const char* all, const char* time, const char* language) {
+        Set(0, all);
+        Set(1, time);
+        Set(2, language);
+    }
+    ~LocaleVariables() {
+        for (int index = 0; index < 3; ++index) {
+            if (before[index]) {
+                setenv(names[index], before[index]->c_str(), 1);
+            } else {
+                unsetenv(names[index]);
+            }
+        }
+    }
+    LocaleVariables(const LocaleVariables&) = delete;
+    LocaleVariables& operator=(const LocaleVariables&) = delete;
+
+  private:
+    void Set(int index, const char* value) {
+        if (const char* const old = std::getenv(names[index])) {
+            before[index] = old;
+        }
+        setenv(names[index], value, 1);
+    }
+
+    const char* const names[3] = {"LC_ALL", "LC_TIME", "LANG"};
+    std::optional<std::string> before[3];
+};
+
+TEST(SystemSettings, AnAmericanDatePutsTheMonthFirst) {
+    EXPECT_EQ(ShortDatePatternOfLocale("en_US.UTF-8"), "M/d/yy");
+}
+
+TEST(SystemSettings, AGermanDateHasPoints) {
+    EXPECT_EQ(ShortDatePatternOfLocale("de_DE.UTF-8"), "dd.MM.yy");
+    EXPECT_EQ(ShortDatePatternOfLocale("de_DE@euro"), "dd.MM.yy");
+}
+
+TEST(SystemSettings, ALocaleWithoutALanguageHasNoPattern) {
+    for (const char* name : {"", "C", "C.UTF-8", "POSIX"}) {
+        EXPECT_EQ(ShortDatePatternOfLocale(name), "") << name;
+    }
+}
+
+TEST(SystemSettings, TheLocaleOfDatesComesBeforeTheLanguageAndTheOneForAllBeforeBoth) {
+    {
+        const LocaleVariables variables("", "", "en_US.UTF-8");
+        EXPECT_EQ(ShortDatePattern(""), "M/d/yy");
+    }
+    {
+        const LocaleVariables variables("", "de_DE.UTF-8", "en_US.UTF-8");
+        EXPECT_EQ(ShortDatePattern(""), "dd.MM.yy");
+    }
+    {
+        const LocaleVariables variables("C", "de_DE.UTF-8", "en_US.UTF-8");
+        EXPECT_EQ(ShortDatePattern(""), "");
+    }
+}
+
+TEST(SystemSettings, TheExecutablesFolderCanBeOpened) {
+    EXPECT_TRUE(std::filesystem::is_directory(ExecutableDirectory()));
+}
+
+TEST(SystemSettings, TheSystemsFolderEndsInItsSeparator) {
+    EXPECT_EQ(SystemDirectory(), "/");
+}
+
+}  // namespace
+}  // namespace ballhaven::platform
