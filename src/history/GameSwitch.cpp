@@ -9,6 +9,7 @@
 #include "screen/MainForm.h"
 #include "screen/SelectorLists.h"
 #include "state/AppState.h"
+#include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "statistics/HotNumbers.h"
@@ -20,13 +21,10 @@ namespace {
 
 MainForm& form = frmMainForm;
 
-constexpr int slotColumn = 1;
-constexpr int slotWidth = 2;
-
 /// The slot of the game shown last. A damaged record has slot 1.
 std::int16_t StoredSlot() {
-    const auto slot = modUTILS::ValueOf(modUTILS::Columns(appState.systemRecord, slotColumn, slotWidth));
-    return slot < 1 || slot > gameSlots ? std::int16_t{1} : modUTILS::ToInt16(slot);
+    const std::int16_t slot = FieldValue(appState.systemRecord, systemField::shownSlot);
+    return slot < 1 || slot > gameSlots ? std::int16_t{1} : slot;
 }
 
 void ChooseCurrentGame() {
@@ -35,7 +33,7 @@ void ChooseCurrentGame() {
         return;
     }
     appState.currentGame = modUTILS::ToInt16(form.cboList[0].Selected() + 1);
-    modUTILS::SetColumns(appState.systemRecord, slotColumn, modUTILS::ZeroPadded(appState.currentGame, slotWidth));
+    SetFieldValue(appState.systemRecord, systemField::shownSlot, appState.currentGame);
     SaveSystemRecord();
 }
 

@@ -7,9 +7,9 @@ namespace ballhaven {
 /// a card game, and behind the main picks of a game without bonus.
 [[nodiscard]] bool IsPickInRange(int column);
 
-/// Stores the text in a column (1 to `totalPicks`) of the log's current row as a pick, -1 for an empty text, in every row
-/// of `historyView` and `HistoryTable` that has the row's date, and marks the tables stale. It does not mark the history
-/// as dirty: a press of the mouse on the log does.
+/// Stores the text in a column (1 to `totalPicks`) of the log's current row as a pick, -1 for an empty text, in every
+/// row of `historyView` and `HistoryTable` that has the row's date, and marks the tables stale. It does not mark the
+/// history as dirty: a press of the mouse on the log does.
 void PostLogEdit(int column);
 
 }  // namespace ballhaven

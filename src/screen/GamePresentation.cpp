@@ -107,8 +107,8 @@ void ArrangeHiLiteBoxes() {
         box.locked = cards;
         box.maxLength = cards ? cardBoxLength : numberBoxLength;
         box.pointer = cards ? platform::PointerShape::IBeam : platform::PointerShape::Cross;
-        // QUIRK HILITE-BOX-1: with nine picks nothing is hidden, so the tenth box stays on show after a game of ten. It is
-        // meant: the box takes a text of the user's like the others; hiding it would leave its text at work unseen.
+        // QUIRK HILITE-BOX-1: with nine picks nothing is hidden, so the tenth box stays on show after a game of ten. It
+        // is meant: the box takes a text of the user's like the others; hiding it would leave its text at work unseen.
         if (i < picks || picks < hiLiteBoxes - 1) {
             box.visible = i < picks;
             swatch.visible = i < picks;

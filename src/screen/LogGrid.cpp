@@ -68,8 +68,9 @@ void SelectRowByMargin(int x, int y) {
     }
 }
 
-// QUIRK LOG-DIRTY-1: a press of the mouse marks the history as changed, whether anything is changed after it or not, and
-// typing alone does not. It is meant: marking on each typed pick would write the file for a cell that was only tried.
+// QUIRK LOG-DIRTY-1: a press of the mouse marks the history as changed, whether anything is changed after it or not,
+// and typing alone does not. It is meant: marking on each typed pick would write the file for a cell that was only
+// tried.
 void ServePress(int x, int y) {
     appState.historyDirty = true;
     SelectRowByMargin(x, y);

@@ -7,16 +7,14 @@
 #include "screen/GamePresentation.h"
 #include "screen/MainForm.h"
 #include "state/AppState.h"
+#include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
-#include "state/modUTILS.h"
 
 namespace ballhaven {
 
 namespace {
 
 MainForm& form = frmMainForm;
-
-constexpr int sortOrderColumn = 4;
 
 /// A button of the toolbar and the menu entry that it stands for.
 struct Shortcut {
@@ -37,7 +35,7 @@ void OrderLog(std::int16_t order) {
     }
     platform::ShowHourglass();
     appState.historySortOrder = order;
-    modUTILS::SetColumns(appState.systemRecord, sortOrderColumn, std::to_string(order));
+    SetFieldValue(appState.systemRecord, systemField::sortOrder, order);
     SaveSystemRecord();
     RefreshHistory(-1);
     ShowViewChecks();

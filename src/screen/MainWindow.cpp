@@ -61,8 +61,8 @@ void Activate() {
     platform::ShowArrow();
 }
 
-// QUIRK RESIZE-1: at the design height the grids take 7260 and 4860, one twip above it 7101 and 4711: the two rules do not
-// join up. They are meant so: the first leaves the window as it was drawn, the second keeps room below the grids.
+// QUIRK RESIZE-1: at the design height the grids take 7260 and 4860, one twip above it 7101 and 4711: the two rules do
+// not join up. They are meant so: the first leaves the window as it was drawn, the second keeps room below the grids.
 void FollowHeight() {
     const int height = form.window.Height();
     if (height < designHeight) {

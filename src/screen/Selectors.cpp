@@ -1,18 +1,17 @@
 #include "screen/Selectors.h"
 
-#include <array>
 #include <string>
 
 #include "history/GameSwitch.h"
 #include "platform/Application.h"
 #include "platform/MessageBox.h"
 #include "platform/Pointer.h"
-#include "plays/PlayFile.h"
 #include "screen/GamePresentation.h"
 #include "screen/MainForm.h"
 #include "screen/SelectorLists.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
+#include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "statistics/HotNumbers.h"
@@ -25,8 +24,6 @@ MainForm& form = frmMainForm;
 
 constexpr int historySetStep = 10;
 constexpr int allDraws = 1000;
-constexpr int historySetColumn = 27;
-constexpr int historySetWidth = 3;
 
 bool IsFilling() {
     return form.windowStarting || form.gameLoading;
@@ -59,8 +56,7 @@ void SelectGame() {
 
 void StoreHistorySet() {
     const int size = appState.historySetSize;
-    const std::string field = modUTILS::ZeroPadded(size >= allDraws ? 0 : size, historySetWidth);
-    modUTILS::SetColumns(appState.gameRecord, historySetColumn, field);
+    SetFieldValue(appState.gameRecord, gameField::historySet, size >= allDraws ? 0 : size);
     SaveGameRecord(appState.currentGame);
 }
 
@@ -138,11 +134,12 @@ void WireSelectors() {
 }
 
 void AskToSetUpGame() {
-    if (modUTILS::Trimmed(form.cboList[0].Text()) != "un-defined") {
+    if (modUTILS::Trimmed(form.cboList[0].Text()) != undefinedGameName) {
         return;
     }
     const std::string slot = std::to_string(form.cboList[0].Selected() + 1);
-    const std::string question = "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
+    const std::string question =
+        "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
     if (platform::ShowMessageBox(question, platform::BoxButtons::YesNo, platform::BoxIcon::Question, "Ballhaven") ==
         platform::BoxAnswer::Yes) {
         appState.gameDialogMode = 1;

@@ -276,7 +276,7 @@ TEST_F(RefreshingTheHistory, GoesToTheDateThatIsAskedFor) {
 }
 
 TEST_F(RefreshingTheHistory, SaysSoWhereTheDateIsNotInTheSetAndGoesToTheNewestDraw) {
-    MessageScript boxes;
+    support::MessageScript boxes;
     boxes.Expect("Ballhaven",
                  "The record you have added cannot be displayed within the selected history set.\n"
                  "If you wish to see this record, select larger history set.",
@@ -288,7 +288,7 @@ TEST_F(RefreshingTheHistory, SaysSoWhereTheDateIsNotInTheSetAndGoesToTheNewestDr
 }
 
 TEST_F(RefreshingTheHistory, SaysNothingWhileANewDrawsDateIsBeingChosen) {
-    MessageScript boxes;
+    support::MessageScript boxes;
     appState.pendingLogDate = -1;
     RefreshHistory(support::SerialOf("01/02/1990"));
     EXPECT_EQ(boxes.Answered(), 0U);

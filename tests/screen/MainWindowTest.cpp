@@ -44,7 +44,7 @@ class MainWindow : public testing::Test {
     }
 
     void Activate(BoxAnswer setUpNow) {
-        MessageScript boxes;
+        support::MessageScript boxes;
         boxes.Expect("Ballhaven", "You need to configure game number 1.\nWould you like to set up the game now?",
                      BoxButtons::YesNo, BoxIcon::Question, setUpNow);
         frmMainForm.window.activate();

@@ -6,7 +6,7 @@
 
 #include "platform/Services.h"
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 namespace {
 
@@ -57,4 +57,4 @@ BoxAnswer MessageScript::Answer(const MessageBoxRequest& request) {
     return next.answer;
 }
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support

@@ -7,7 +7,7 @@
 
 #include "platform/MessageBox.h"
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 /// Answers message boxes for as long as it lives: each box must be the next one of the queue, word for word. A box that
 /// was not queued, another one than was queued, and one left over when the script ends fail the test at once; nothing
@@ -42,4 +42,4 @@ class MessageScript {
     std::function<platform::BoxAnswer(const platform::MessageBoxRequest&)> before;
 };
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support
