@@ -3,13 +3,11 @@
 #include "platform/Grid.h"
 #include "platform/qt/ButtonWidget.h"
 #include "platform/qt/DropDownWidget.h"
+#include "platform/qt/GridWidget.h"
 #include "platform/qt/LabelWidget.h"
 #include "platform/qt/OptionWidget.h"
 #include "platform/qt/StillWidgets.h"
 #include "platform/qt/TextBoxWidget.h"
-#if __has_include("platform/qt/GridWidget.h")
-#include "platform/qt/GridWidget.h"
-#endif
 
 namespace ballhaven::platform {
 
@@ -32,11 +30,7 @@ void BuildControl(Control& control, QWidget& clientArea) {
         case ControlKind::DropDownList:
             return Build<DropDownWidget, DropDownList>(control, parent);
         case ControlKind::Grid:
-#if __has_include("platform/qt/GridWidget.h")
             return Build<GridWidget, Grid>(control, parent);
-#else
-            return;
-#endif
         case ControlKind::Label:
             return Build<LabelWidget, Label>(control, parent);
         case ControlKind::Line:
