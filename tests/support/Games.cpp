@@ -17,6 +17,17 @@ std::int16_t Short(int value) {
     return static_cast<std::int16_t>(value);
 }
 
+PlayPicks EmptyPlays() {
+    PlayPicks plays;
+    for (int play = 1; play <= playCount; ++play) {
+        for (int slot = 1; slot <= picksPerPlay; ++slot) {
+            plays(mainPicks, play, slot) = -1;
+            plays(bonusPicks, play, slot) = -1;
+        }
+    }
+    return plays;
+}
+
 }  // namespace
 
 Game NumberGame() {
@@ -127,9 +138,8 @@ void SetUpGame(const Game& game) {
     appState.historyLast = -1;
     appState.historyView = Table(1 + appState.totalPicks, game.historySet);
     appState.historyViewLast = -1;
-    for (int play = 1; play <= playCount; ++play) {
-        SetUpPlay(play, {});
-    }
+    static const PlayPicks emptyPlays = EmptyPlays();
+    appState.PlayTable = emptyPlays;
     appState.ShuffleTable = Table(2, 1 + chosenPicks, -1);
     appState.ShuffleTable(mainPicks, 0) = 0;
     appState.ShuffleTable(bonusPicks, 0) = 0;
