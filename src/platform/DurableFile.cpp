@@ -46,12 +46,20 @@ class OpenFile {
         return status;
     }
 
-    /// The next bytes from `offset` on, at most `size`; none at the end of the file.
-    [[nodiscard]] std::string Read(std::int64_t offset, std::int64_t size) const {
-        std::string bytes(static_cast<std::size_t>(size), '\0');
-        const auto count = Checked([&] { return fileSystem.read(handle, offset, bytes.data(), bytes.size()); });
-        bytes.resize(static_cast<std::size_t>(count));
-        return bytes;
+    /// Fills `bytes` with what stands from `offset` on, and cuts it to what there is.
+    void Read(std::int64_t offset, std::string& bytes) const {
+        std::size_t filled = 0;
+        while (filled < bytes.size()) {
+            const auto count = Checked([&] {
+                return fileSystem.read(handle, offset + static_cast<std::int64_t>(filled), bytes.data() + filled,
+                                       bytes.size() - filled);
+            });
+            if (count == 0) {
+                break;
+            }
+            filled += static_cast<std::size_t>(count);
+        }
+        bytes.resize(filled);
     }
 
     void Write(std::string_view bytes) const {
@@ -140,10 +148,15 @@ void FlushDirectory(const OpenFile& directory) {
     }
 }
 
-void CopyFrom(const OpenFile& source, std::int64_t offset, const OpenFile& target) {
-    for (std::string bytes = source.Read(offset, chunkSize); !bytes.empty(); bytes = source.Read(offset, chunkSize)) {
+void CopyTail(const OpenFile& source, std::int64_t offset, std::int64_t length, const OpenFile& target) {
+    std::string bytes;
+    for (; offset < length; offset += static_cast<std::int64_t>(bytes.size())) {
+        bytes.resize(static_cast<std::size_t>(std::min(chunkSize, length - offset)));
+        source.Read(offset, bytes);
+        if (bytes.empty()) {
+            break;
+        }
         target.Write(bytes);
-        offset += static_cast<std::int64_t>(bytes.size());
     }
 }
 
@@ -159,16 +172,10 @@ FileHead ReadHead(const std::string& path, std::int64_t limit) {
     fileSystem.remove(TemporaryPath(RealPath(path)));
 
     FileHead head;
-    auto rest = std::min(limit, status.length);
-    while (rest > 0) {
-        const std::string bytes = file.Read(static_cast<std::int64_t>(head.bytes.size()), rest);
-        if (bytes.empty()) {
-            break;
-        }
-        head.bytes += bytes;
-        rest -= static_cast<std::int64_t>(bytes.size());
-    }
-    head.length = rest > 0 ? static_cast<std::int64_t>(head.bytes.size()) : status.length;
+    head.bytes.resize(static_cast<std::size_t>(std::min(limit, status.length)));
+    file.Read(0, head.bytes);
+    const auto bytesRead = static_cast<std::int64_t>(head.bytes.size());
+    head.length = bytesRead < limit ? bytesRead : status.length;
     return head;
 }
 
@@ -183,9 +190,7 @@ void ReplaceHead(const std::string& path, std::string_view head, std::int64_t ta
     TemporaryFile temporary(TemporaryPath(realPath));
     temporary.File().SetPermissions(status.permissions);
     temporary.File().Write(head);
-    if (status.length > tailOffset) {
-        CopyFrom(old, tailOffset, temporary.File());
-    }
+    CopyTail(old, tailOffset, status.length, temporary.File());
     old.Drop();
     temporary.File().Flush();
     temporary.File().Close();
