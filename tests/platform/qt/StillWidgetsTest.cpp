@@ -1,0 +1,71 @@
+#include "platform/qt/StillWidgets.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "support/qt/TestWindow.h"
+
+namespace ballhaven::platform {
+namespace {
+
+using testing::TestWindow;
+
+TEST(PanelWidget, CarriesTheControlsThatStandOnIt) {
+    Panel panel;
+    panel.name = "picToolbar(0)";
+    panel.bounds = Bounds{150, 300, 3000, 3000};
+    Label label;
+    label.name = "lblPlay";
+    label.container = &panel;
+    label.bounds = Bounds{15, 30, 600, 255};
+    TestWindow form{&panel, &label};
+    form.Show();
+
+    EXPECT_EQ(form.Find("lblPlay")->parentWidget(), form.Find("picToolbar(0)"));
+    EXPECT_EQ(form.Find("lblPlay")->pos(), QPoint(1, 2));
+    EXPECT_EQ(form.Find("picToolbar(0)")->pos(), QPoint(10, 20));
+}
+
+TEST(LineWidget, AFlatLineIsARuleOverItsWholeWidth) {
+    Line line;
+    line.name = "Line1";
+    line.bounds = Bounds{0, 300, 2220, 0};
+    TestWindow form{&line};
+    form.Show();
+
+    const QImage drawn = form.Find("Line1")->grab().toImage();
+    EXPECT_EQ(drawn.width(), 148);
+    EXPECT_EQ(drawn.pixelColor(0, 0), form.Widget()->palette().color(QPalette::Dark));
+    EXPECT_EQ(drawn.pixelColor(147, 0), form.Widget()->palette().color(QPalette::Dark));
+}
+
+TEST(PictureWidget, APictureStandsInTheMiddleOfItsPlaceAtItsOwnSize) {
+    Picture picture;
+    picture.name = "Picture1";
+    picture.bounds = Bounds{0, 0, 3375, 2175};
+    picture.picture = "haven-picture";
+    TestWindow form{&picture};
+    form.Show();
+
+    const QImage drawn = form.Find("Picture1")->grab().toImage();
+    const QColor face = form.Widget()->palette().color(QPalette::Window);
+    EXPECT_EQ(drawn.size(), QSize(225, 145));
+    EXPECT_EQ(drawn.pixelColor(1, 1), face) << "221 by 141 pixels leave two on each side";
+    EXPECT_NE(drawn.pixelColor(112, 72), face);
+}
+
+TEST(PictureWidget, APictureThatThereIsNotLeavesItsPlaceEmpty) {
+    Picture picture;
+    picture.name = "Picture1";
+    picture.bounds = Bounds{0, 0, 300, 300};
+    picture.picture = "no-such-picture";
+    TestWindow form{&picture};
+    form.Show();
+
+    const QImage drawn = form.Find("Picture1")->grab().toImage();
+    EXPECT_EQ(drawn.pixelColor(10, 10), form.Widget()->palette().color(QPalette::Window));
+}
+
+}  // namespace
+}  // namespace ballhaven::platform
