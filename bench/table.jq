@@ -1,0 +1,34 @@
+# Makes the table of docs/performance.md out of what ballhaven_bench has written: the medians of all runs.
+# A budget is a time for ours, in the unit of the work, or a limit of the ratio of ours to the rival.
+
+def works: [
+    {name: "HotNumbers", time: 50,   text: "50 µs"},
+    {name: "GameSwitch", time: 10,   text: "10 ms beside the flushes"},
+    {name: "SavePlays",  ratio: 1.3, text: "1.3 times the rival"},
+    {name: "Start",      ratio: 1.5, text: "1.5 times the rival"}
+];
+
+def digits($count): . * pow(10; $count) | round / pow(10; $count) | tostring;
+def shown: if . >= 100 then digits(0) elif . >= 10 then digits(1) elif . >= 1 then digits(2) else digits(3) end;
+def unit: {us: "µs", ms: "ms"}[.time_unit];
+def time: "\(.real_time | shown) \(unit)";
+
+(.benchmarks | map(select(.aggregate_name == "median") | {key: .run_name, value: .}) | from_entries) as $medians
+| "Medians of \($runs) runs, \(.context.date | sub("T.*"; "")), load average before \(.context.load_avg[0] // 0 | digits(1)).",
+  "",
+  "| Work | Budget | Ours | Rival | Ours / rival | Held |",
+  "|---|---|---|---|---|---|",
+  (works[]
+   | . as $work
+   | $medians["\(.name)/ours"] as $ours
+   | $medians["\(.name)/rival"] as $rival
+   | if $ours == null or $rival == null then
+         "| `\(.name)` | \(.text) | not measured | | | |"
+     else
+         ($ours.real_time / $rival.real_time) as $ratio
+         | (if $work.time then $ours.real_time <= $work.time else $ratio <= $work.ratio end) as $held
+         | "| `\(.name)` | \(.text) | \($ours | time) | \($rival | time) | \($ratio | shown)"
+           + " | \(if $held then "yes" else "no" end) |"
+     end),
+  ($medians["GameSwitch/ours"].flushes_ms // empty
+   | "", "The flushes of the slot that a switch stores, which are not in its time: \(shown) ms.")
