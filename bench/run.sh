@@ -18,7 +18,7 @@ fi
 need_packages "${run_packages[@]}" libbenchmark-dev libsqlite3-dev xvfb jq
 
 cmake --preset bench >/dev/null
-cmake --build --preset bench
+cmake --build --preset bench >&2
 
 # The data files lie on the disk of the project: a temporary folder in memory would make flushes cost nothing.
 results=build/bench/results.json
