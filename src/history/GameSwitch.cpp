@@ -55,7 +55,7 @@ void ShowHotTableFromTheTop() {
     appState.hotTableChoice = 1;
     form.hotRowCount = modUTILS::ToInt16(appState.hotNumberLast + 1);
     ShowHotNumbersCaption();
-    ShowHotHeadings(HotTable::HotNumbers);
+    ShowHotHeadings();
     form.grdHot.SetRowCount(form.hotRowCount);
     form.grdHot.ReadAgain();
     form.grdHot.GoTo(0, 2);

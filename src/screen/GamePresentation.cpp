@@ -30,24 +30,6 @@ constexpr int cardBoxLength = 3;
 constexpr int clearButtonGap = 50;
 constexpr int marginButtonOffset = 30;
 
-struct HotHeadings {
-    const char* numbers;
-    const char* cards;
-    const char* hits;
-    const char* percent;
-    const char* interval;
-};
-
-constexpr HotHeadings hotHeadings[] = {
-    // clang-format off
-    {"Number",  "Card",  "Hits",  "%", "Game Interval"},  // Hot Numbers or Hot Cards
-    {"Numbers", "Cards", "Hits",  "%", "Game Interval"},  // Hot Pairs
-    {"Numbers", "Cards", "",      "",  ""},               // Paired Once
-    {"Number",  "Card",  "Reps.", "%", "Game Interval"},  // Repeaters
-    {"Number",  "Card",  "",      "",  ""},               // No-Hitters
-    // clang-format on
-};
-
 }  // namespace
 
 void SizePlayGrid() {
@@ -123,14 +105,6 @@ void ClearHiLiteBoxes() {
         box.text = "";
     }
     form.hiLiteCode.fill("");
-}
-
-void ShowHotHeadings(HotTable table) {
-    const HotHeadings& headings = hotHeadings[static_cast<std::size_t>(table) - 1];
-    form.grdHot.Column(0).heading = IsCardGame(appState.gameType) ? headings.cards : headings.numbers;
-    form.grdHot.Column(1).heading = headings.hits;
-    form.grdHot.Column(2).heading = headings.percent;
-    form.grdHot.Column(3).heading = headings.interval;
 }
 
 void PlaceHiLiteDrawingButton() {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "statistics/HotNumbers.h"
-
 namespace ballhaven {
 
 /// Sizes the play board by the kind of game: the width of its columns, how many of them are shown, and its height with
@@ -26,9 +24,6 @@ void ArrangeHiLiteBoxes();
 
 /// Empties both texts of all ten hi-lite boxes.
 void ClearHiLiteBoxes();
-
-/// Heads the four columns of `grdHot` for one of its tables.
-void ShowHotHeadings(HotTable table);
 
 /// Puts `cmdColorHist` on the row-selector margin of the log's current row, or hides it when there is none in view.
 void PlaceHiLiteDrawingButton();

@@ -97,7 +97,7 @@ std::int16_t ShowCaptionOfChoice() {
 
 void SelectHotTable() {
     appState.hotTableChoice = modUTILS::ToInt16(form.cboList[2].Selected() + 1);
-    ShowHotHeadings(ShownHotTable());
+    ShowHotHeadings();
     form.hotRowCount = modUTILS::ToInt16(ShowCaptionOfChoice() + 1);
     form.grdHot.SetRowCount(form.hotRowCount);
     ShowHotTableAnew();

@@ -232,38 +232,6 @@ TEST_F(GamePresentation, ClearingTheBoxesEmptiesBothOfTheirTexts) {
     EXPECT_EQ(frmMainForm.hiLiteCode[3], "");
 }
 
-TEST_F(GamePresentation, NumberStandsOverRepeatersAndNumbersOverHotPairs) {
-    Play(0, 6, 0);
-    ShowHotHeadings(HotTable::Repeaters);
-    EXPECT_EQ(*frmMainForm.grdHot.Column(0).heading, "Number");
-    EXPECT_EQ(*frmMainForm.grdHot.Column(1).heading, "Reps.");
-    EXPECT_EQ(*frmMainForm.grdHot.Column(2).heading, "%");
-    EXPECT_EQ(*frmMainForm.grdHot.Column(3).heading, "Game Interval");
-    ShowHotHeadings(HotTable::HotPairs);
-    EXPECT_EQ(*frmMainForm.grdHot.Column(0).heading, "Numbers");
-    EXPECT_EQ(*frmMainForm.grdHot.Column(1).heading, "Hits");
-}
-
-TEST_F(GamePresentation, CardStandsOverRepeatersAndCardsOverHotPairsInACardGame) {
-    Play(3, 5, 0);
-    ShowHotHeadings(HotTable::Repeaters);
-    EXPECT_EQ(*frmMainForm.grdHot.Column(0).heading, "Card");
-    ShowHotHeadings(HotTable::HotPairs);
-    EXPECT_EQ(*frmMainForm.grdHot.Column(0).heading, "Cards");
-}
-
-TEST_F(GamePresentation, PairedOnceAndNoHittersHaveThreeBlankHeadings) {
-    Play(0, 6, 0);
-    for (const HotTable table : {HotTable::PairedOnce, HotTable::NoHitters}) {
-        ShowHotHeadings(HotTable::HotNumbers);
-        ShowHotHeadings(table);
-        for (int column = 1; column <= 3; ++column) {
-            EXPECT_EQ(*frmMainForm.grdHot.Column(column).heading, "") << column;
-        }
-    }
-    EXPECT_EQ(*frmMainForm.grdHot.Column(0).heading, "Number");
-}
-
 TEST_F(GamePresentation, WithoutACurrentRowTheHiLiteButtonOfTheLogIsHidden) {
     frmMainForm.cmdColorHist.visible = true;
     PlaceHiLiteDrawingButton();
