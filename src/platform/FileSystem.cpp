@@ -1,9 +1,12 @@
 #include "platform/FileSystem.h"
 
+#include "platform/CodePage.h"
+
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -93,6 +96,14 @@ int Resolve(const std::string& path, std::string& realPath) {
 
 FileSystem SystemFiles() {
     return {Open, GetStatus, Read, Write, SetPermissions, Flush, Close, Rename, Remove, Resolve};
+}
+
+std::string TextOfSystem(const std::string& bytes) {
+    try {
+        return FromUtf16(std::filesystem::path(bytes).u16string());
+    } catch (const std::system_error&) {
+        return bytes;
+    }
 }
 
 FileSystem fileSystem = SystemFiles();

@@ -47,6 +47,10 @@ struct FileSystem {
 /// The calls of this system.
 [[nodiscard]] FileSystem SystemFiles();
 
+/// A path, or the words of an error, as text of the program: Windows-1252, with "?" for a character that has no byte
+/// there. Bytes that are no text in the system's encoding stay as they are.
+[[nodiscard]] std::string TextOfSystem(const std::string& bytes);
+
 /// The calls in use: `SystemFiles` but in tests.
 extern FileSystem fileSystem;
 

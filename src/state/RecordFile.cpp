@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/DurableFile.h"
+#include "platform/FileSystem.h"
 #include "state/RuntimeFailure.h"
 
 namespace ballhaven {
@@ -17,7 +18,7 @@ auto NamingFailures(const std::string& path, const Work& work) {
     try {
         return work();
     } catch (const std::system_error& error) {
-        throw RuntimeFailure(path, error.code().message());
+        throw RuntimeFailure(platform::TextOfSystem(path), platform::TextOfSystem(error.code().message()));
     }
 }
 

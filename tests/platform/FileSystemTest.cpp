@@ -169,5 +169,15 @@ TEST_F(FileSystemTest, EveryCallOnAClosedHandleSaysSo) {
     EXPECT_EQ(files.close(closed), -EBADF);
 }
 
+TEST(TextOfSystem, TurnsTheSystemsEncodingIntoTheProgramsOne) {
+    EXPECT_EQ(TextOfSystem("/home/maria/LOTTOSYS"), "/home/maria/LOTTOSYS");
+    EXPECT_EQ(TextOfSystem("/home/j\xC3\xBCrgen"), "/home/j\xFCrgen");
+    EXPECT_EQ(TextOfSystem("\xE2\x82\xAC and \xE2\x98\x83"), "\x80 and ?");
+}
+
+TEST(TextOfSystem, LeavesBytesThatAreNoTextAsTheyAre) {
+    EXPECT_EQ(TextOfSystem("/disk/\xFCrgen"), "/disk/\xFCrgen");
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

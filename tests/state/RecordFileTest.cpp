@@ -261,6 +261,12 @@ TEST_F(RecordFileTest, AMissingDirectoryIsNamedWithTheReason) {
     EXPECT_EQ(FailureOf([&] { RecordFile(missing, 4, 3); }), FileError(missing, "No such file or directory"));
 }
 
+TEST_F(RecordFileTest, APathIsNamedInTheProgramsOwnEncoding) {
+    const std::string missing = directory / "M\xC3\xBCller/DATA";
+    EXPECT_EQ(FailureOf([&] { RecordFile(missing, 4, 3); }),
+              FileError(directory / "M\xFCller/DATA", "No such file or directory"));
+}
+
 TEST_F(RecordFileTest, AFullDiskIsNamedWithTheFileThatWasToBeSaved) {
     directory.Write("DATA", "abcd");
     support::WatchedFiles watched;
