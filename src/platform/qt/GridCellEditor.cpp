@@ -1,6 +1,7 @@
 #include "platform/qt/GridCellEditor.h"
 
 #include <QFocusEvent>
+#include <QPainter>
 #include <QPointer>
 
 #include "platform/Guard.h"
@@ -105,6 +106,13 @@ void GridCellEditor::focusOutEvent(QFocusEvent* event) {
     if (open && !checking && !borrowed) {
         focusLost(reason);
     }
+}
+
+void GridCellEditor::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 }  // namespace ballhaven::platform

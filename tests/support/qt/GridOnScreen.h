@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+
+#include <string>
+#include <vector>
+
+#include "platform/Grid.h"
+#include "platform/Services.h"
+#include "platform/qt/GridWidget.h"
+
+namespace ballhaven::support {
+
+/// A grid in a shown window of its own, between two boxes that can take the keyboard. It writes down every notice that
+/// it raises: "press X,Y", "click", "change ROW,COLUMN", "settled", "key Left", "check COLUMN TEXT", "edited COLUMN",
+/// "drop COLUMN".
+class GridOnScreen {
+  public:
+    GridOnScreen();
+    virtual ~GridOnScreen();
+
+    /// Shows the window with the grid as it has been set up. Called once.
+    void Show();
+
+    /// The middle of a cell in pixels from the grid's top left corner.
+    [[nodiscard]] QPoint MiddleOf(int row, int column) const;
+
+    void Click(QPoint position);
+    void ClickCell(int row, int column) { Click(MiddleOf(row, column)); }
+    void PressOnly(QPoint position);
+    void ReleaseOnly(QPoint position);
+
+    /// Clicks on another widget of the window.
+    void ClickOn(QWidget& other);
+
+    /// Types on whatever has the keyboard.
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void Type(const std::string& text);
+
+    /// The open editor, null for none.
+    [[nodiscard]] QLineEdit* Editor() const;
+    [[nodiscard]] platform::GridPaneView* PaneView(int pane) const;
+
+    /// Takes what has been written down since the last time.
+    [[nodiscard]] std::vector<std::string> TakeNotices();
+    [[nodiscard]] platform::GridCell Current() const { return platform::CurrentCell(grid); }
+
+    QWidget window;
+    QLineEdit* before;
+    QLineEdit* after;
+    platform::Grid grid;
+    platform::GridWidget* widget = nullptr;
+
+    /// What the owner knows: rows of texts.
+    std::vector<std::vector<std::string>> cells;
+    std::vector<std::string> notices;
+    int cellsRead = 0;
+    int boxes = 0;
+
+    /// Values above this are refused with a box.
+    int highest = 49;
+
+  private:
+    platform::Services servicesBefore = platform::services;
+
+    void ListenToMouse();
+    void ListenToEdits();
+};
+
+/// A log of draws: a pane for the date, which has a button, and one for ten picks of which six are used. Six of them
+/// are in view. 40 rows are in a place for 20.
+class LogOnScreen : public GridOnScreen {
+  public:
+    LogOnScreen();
+};
+
+}  // namespace ballhaven::support
