@@ -10,7 +10,7 @@
 namespace ballhaven::platform {
 namespace {
 
-using testing::TestWindow;
+using support::TestWindow;
 
 class DropDownWidgetTest : public ::testing::Test {
   protected:

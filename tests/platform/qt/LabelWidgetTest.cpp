@@ -9,7 +9,7 @@
 namespace ballhaven::platform {
 namespace {
 
-using testing::TestWindow;
+using support::TestWindow;
 
 class LabelWidgetTest : public ::testing::Test {
   protected:

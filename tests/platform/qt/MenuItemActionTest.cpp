@@ -12,7 +12,7 @@
 namespace ballhaven::platform {
 namespace {
 
-using testing::TestWindow;
+using support::TestWindow;
 
 class MenuItemActionTest : public ::testing::Test {
   protected:

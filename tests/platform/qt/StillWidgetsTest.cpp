@@ -9,7 +9,7 @@
 namespace ballhaven::platform {
 namespace {
 
-using testing::TestWindow;
+using support::TestWindow;
 
 TEST(PanelWidget, CarriesTheControlsThatStandOnIt) {
     Panel panel;

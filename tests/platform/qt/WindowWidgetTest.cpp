@@ -18,9 +18,9 @@
 namespace ballhaven::platform {
 namespace {
 
-using testing::MessageScript;
-using testing::Settle;
-using testing::TestWindow;
+using support::MessageScript;
+using support::Settle;
+using support::TestWindow;
 
 /// Replaces the ending of the process by a note of its exit code.
 class ProcessEnding {

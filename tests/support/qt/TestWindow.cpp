@@ -4,7 +4,7 @@
 #include <QEvent>
 #include <QTest>
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 using platform::Window;
 
@@ -35,4 +35,4 @@ void Settle() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support

@@ -8,7 +8,7 @@
 
 #include "platform/Window.h"
 
-namespace ballhaven::testing {
+namespace ballhaven::support {
 
 /// A window on screen for tests of its widgets; gone with its widgets when it ends. Its client area is 400 by 300
 /// pixels.
@@ -45,4 +45,4 @@ class TestWindow {
 /// Lets everything happen that waits, deletions too.
 void Settle();
 
-}  // namespace ballhaven::testing
+}  // namespace ballhaven::support
