@@ -202,8 +202,9 @@ TEST_F(DateText, TheTextFollowsTheOrderAndTheSeparatorOfThePattern) {
     EXPECT_EQ(ScreenText("m/d/y", 1000), "09/27/1986");
 }
 
-TEST_F(DateText, AnyLetterButMAndDStandsForTheYear) {
+TEST_F(DateText, AnyCharacterButMAndDStandsForTheYear) {
     EXPECT_EQ(ScreenText("d.m.g", 1000), "27.09.1986");
+    EXPECT_EQ(ScreenText("d.m. ", 1000), "27.09.1986");
 }
 
 TEST_F(DateText, TheDaysOfTheMonthsAreFilledAnewOnEachUse) {
