@@ -6,21 +6,9 @@
 #include <cstdlib>
 
 #include "platform/Application.h"
+#include "platform/FolderLock.h"
 #include "platform/Guard.h"
 #include "platform/qt/Conversions.h"
-
-#ifdef _WIN32
-#include <windows.h>
-
-#include <QCryptographicHash>
-#else
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#endif
 
 namespace ballhaven::platform {
 
@@ -30,40 +18,6 @@ constexpr int longestMessage = 4096;
 constexpr int connectAttempts = 20;
 constexpr int attemptPause = 100;     // milliseconds
 constexpr int answerPatience = 3000;  // milliseconds
-
-struct FolderLock {
-    std::string key;  ///< tells the folder from every other one
-    bool taken = true;
-};
-
-#ifdef _WIN32
-
-FolderLock LockFolder(const std::string& directory) {
-    const QByteArray path = QByteArray::fromStdString(directory).toLower().replace('/', '\\');
-    const std::string key = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex().toStdString();
-    CreateMutexA(nullptr, FALSE, ("ballhaven-" + key).c_str());  // kept open for the life of the process
-    return {key, GetLastError() != ERROR_ALREADY_EXISTS};
-}
-
-#else
-
-// The descriptor stays open for the life of the process; the system lets go of the lock when it ends.
-FolderLock LockFolder(const std::string& directory) {
-    const int folder = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    struct stat status {};
-    if (folder < 0 || fstat(folder, &status) != 0) {
-        return {};
-    }
-    const std::string key = std::to_string(status.st_dev) + "-" + std::to_string(status.st_ino);
-    if (flock(folder, LOCK_EX | LOCK_NB) == 0) {
-        return {key, true};
-    }
-    const bool heldByAnother = errno == EWOULDBLOCK;
-    close(folder);
-    return {key, !heldByAnother};
-}
-
-#endif
 
 /// What a desktop hands to a program that it starts, so that the program may bring a window to the front.
 std::string ActivationToken() {
@@ -90,20 +44,17 @@ ProgramInstance::ProgramInstance() = default;
 ProgramInstance::~ProgramInstance() = default;
 
 bool ProgramInstance::BecomeFirst(const std::string& directory) {
-    if (isFirst) {
-        return true;
+    if (lock == nullptr) {
+        lock = std::make_unique<FolderLock>(directory);
+        if (!lock->IsTakenByAnother() && !lock->Key().empty()) {
+            Listen();
+        }
     }
-    const FolderLock lock = LockFolder(directory);
-    folderKey = lock.key;
-    isFirst = lock.taken;
-    if (isFirst && !folderKey.empty()) {
-        Listen();
-    }
-    return isFirst;
+    return !lock->IsTakenByAnother();
 }
 
 QString ProgramInstance::ServerName() const {
-    return QStringLiteral("ballhaven-") + QString::fromStdString(folderKey);
+    return QStringLiteral("ballhaven-") + QString::fromStdString(lock->Key());
 }
 
 void ProgramInstance::Listen() {
@@ -138,6 +89,9 @@ void ProgramInstance::Serve(QLocalSocket& visitor) const {
 }
 
 void ProgramInstance::ActivateFirst(const std::string& title) const {
+    if (lock == nullptr || !lock->IsTakenByAnother()) {
+        return;
+    }
     QLocalSocket socket;
     socket.setSocketOptions(socketOptions);
     // The first process may hold its lock already and not listen yet.

@@ -11,7 +11,7 @@ namespace {
 
 using support::TestWindow;
 
-class ButtonWidgetTest : public ::testing::Test {
+class ButtonWidgetTest : public testing::Test {
   protected:
     void SetUp() override {
         button.name = "cmdPlayBttn(0)";

@@ -12,7 +12,7 @@ namespace {
 
 using support::TestWindow;
 
-class DropDownWidgetTest : public ::testing::Test {
+class DropDownWidgetTest : public testing::Test {
   protected:
     void SetUp() override {
         list.name = "cboList(0)";

@@ -11,7 +11,7 @@ namespace {
 
 using support::TestWindow;
 
-class LabelWidgetTest : public ::testing::Test {
+class LabelWidgetTest : public testing::Test {
   protected:
     void SetUp() override {
         label.name = "lblLabel(0)";

@@ -14,7 +14,7 @@ namespace {
 
 using support::TestWindow;
 
-class MenuItemActionTest : public ::testing::Test {
+class MenuItemActionTest : public testing::Test {
   protected:
     void SetUp() override {
         const char* const captions[] = {"Date &Ascending", "-", "Date &Decending"};
@@ -92,7 +92,7 @@ TEST_F(MenuItemActionTest, ChoosingACheckedEntryLeavesItsMarkToTheProgram) {
 TEST_F(MenuItemActionTest, AnEntryMayUnloadItsWindow) {
     items[2].click = [this] { form.window.Unload(); };
     Choose(Qt::Key_D);
-    testing::Settle();
+    support::Settle();
 
     EXPECT_FALSE(form.window.IsLoaded());
     EXPECT_EQ(items[2].view, nullptr);

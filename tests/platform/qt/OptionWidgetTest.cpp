@@ -12,7 +12,7 @@ namespace {
 
 using support::TestWindow;
 
-class OptionWidgetTest : public ::testing::Test {
+class OptionWidgetTest : public testing::Test {
   protected:
     void SetUp() override {
         const char* const captions[] = {"Main", "Bonus, mega, plus..", "All"};

@@ -11,7 +11,7 @@ namespace {
 
 using support::TestWindow;
 
-class TextBoxWidgetTest : public ::testing::Test {
+class TextBoxWidgetTest : public testing::Test {
   protected:
     void SetUp() override {
         box.name = "txtHiLite(0)";

@@ -38,7 +38,7 @@ class ProcessEnding {
     std::function<void(int)> before;
 };
 
-class WindowWidgetTest : public ::testing::Test {
+class WindowWidgetTest : public testing::Test {
   protected:
     void SetUp() override {
         top.name = "picToolbar(1)";
