@@ -31,4 +31,6 @@ def time: "\(.real_time | shown) \(unit)";
            + " | \(if $held then "yes" else "no" end) |"
      end),
   ($medians["GameSwitch/ours"].flushes_ms // empty
-   | "", "The flushes of the slot that a switch stores, which are not in its time: \(shown) ms.")
+   | "", "The flushes of the slot that a switch stores, which are not in its time: \(shown) ms."),
+  ($medians["Start/text"] // empty
+   | "", "The rival of `Start` with one word in its window: \(time).")
