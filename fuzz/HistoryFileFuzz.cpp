@@ -43,6 +43,7 @@ std::int16_t StoredPick(int column, std::int16_t pick) {
 
 /// Any table that memory can hold comes back with the digits that its fields have room for.
 void CheckSaveLoad(const FuzzInput& input) {
+    ProgramDirectory().Write(fileName, "");
     Table expected(1 + appState.totalPicks, historyRows);
     appState.HistoryTable = expected;
     int last = -1;

@@ -33,6 +33,7 @@ void CheckLoadSaveLoad(const std::string& file) {
 
 /// Any plays that memory can hold come back with the digits that their fields have room for.
 void CheckSaveLoad(const FuzzInput& input) {
+    ProgramDirectory().Write(fileName, "");
     PlayPicks expected;
     int place = 0;
     for (int play = 1; play <= playCount; ++play) {

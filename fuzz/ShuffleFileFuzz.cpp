@@ -59,6 +59,7 @@ void CheckLoadSaveLoad(const std::string& file) {
 
 /// Any lists that memory can hold come back closed up, with the digits that their fields have room for.
 void CheckSaveLoad(const FuzzInput& input) {
+    ProgramDirectory().Write(fileName, "");
     Table expected(2, chosenPicks + 1, -1);
     const std::int16_t option = input.Value(0);
     const bool remembersOption = !HasBonus(appState.gameType) && option >= 1 && option <= 3;
