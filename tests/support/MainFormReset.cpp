@@ -9,6 +9,8 @@ namespace ballhaven::support {
 
 void ResetMainForm() {
     ResetState();
+    frmMainForm.window.unload = nullptr;
+    frmMainForm.window.Unload();
     std::destroy_at(&frmMainForm);
     std::construct_at(&frmMainForm);
     LayOutMainForm();
