@@ -31,13 +31,14 @@ bool GridWidget::eventFilter(QObject* watched, QEvent* event) {
     }
     const auto& mouse = *static_cast<QMouseEvent*>(event);
     const QPoint position = part->mapTo(this, mouse.position().toPoint());
+    const bool inEditor = part == editor;  // asked now: the grid may be gone when its handlers have run
     if (presses) {
         Press(position, mouse);
     } else {
         Release(position, mouse);
     }
     // The toolkit's table would move its current cell at the press.
-    return part != editor;
+    return !inEditor;
 }
 
 void GridWidget::wheelEvent(QWheelEvent* event) {
