@@ -4,99 +4,15 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
-#include "platform/Color.h"
 #include "platform/Controls.h"
+#include "platform/GridColumns.h"
+#include "platform/GridView.h"
 
 namespace ballhaven::platform {
 
-/// The colours of one cell as it is drawn.
-struct CellStyle {
-    Color foreground = black;
-    Color background = white;
-
-    bool operator==(const CellStyle&) const = default;
-};
-
-/// One column of a grid.
-class GridColumn {
-  public:
-    explicit GridColumn(const Shown& grid)
-        : heading(grid),
-          width(grid, 600),
-          visible(grid, true),
-          locked(grid, false),
-          focusable(grid, true),
-          background(grid, windowColor),
-          styled(grid, false),
-          hasButton(grid, false) {}
-
-    Property<std::string> heading;
-    Property<int> width;  ///< in twips
-    Property<bool> visible;
-    Property<bool> locked;       ///< nothing can be typed in it
-    Property<bool> focusable;    ///< its cells can become current
-    Property<Color> background;  ///< of the cells that are not styled
-    Property<bool> styled;       ///< `cellStyle` is asked for its cells
-    Property<bool> hasButton;    ///< its current cell bears a drop-down button
-};
-
-/// One of the panes of a grid that stand side by side; it shows a run of the columns.
-class GridPane {
-  public:
-    GridPane(const Shown& grid, int first, int last)
-        : firstColumn(first),
-          lastColumn(last),
-          columnsWide(grid, 0),
-          locked(grid, false),
-          marksCurrentCell(grid, true) {}
-
-    [[nodiscard]] bool Has(int column) const { return firstColumn <= column && column <= lastColumn; }
-
-    const int firstColumn;
-    const int lastColumn;
-
-    /// How many of its columns the pane is wide, the others being scrolled to; 0 takes the width that the other panes
-    /// leave.
-    Property<int> columnsWide;
-    Property<bool> locked;            ///< nothing can be typed in it
-    Property<bool> marksCurrentCell;  ///< its current cell is marked; else only the row is
-};
-
+/// The keys that an owner may serve itself; all others are told as one.
 enum class GridKey { Insert, Left, Right, Tab, Other };
-
-/// What a grid's widget can do besides showing the grid.
-class GridView : public ControlView {
-  public:
-    /// Reads all rows anew.
-    virtual void ReadAgain() = 0;
-
-    /// Draws all cells anew without reading the rows again.
-    virtual void Repaint() = 0;
-
-    /// Follows the grid's current cell, and scrolls it into view.
-    virtual void ShowCurrentCell() = 0;
-
-    /// Ends an open editor as if the user had left the cell: the value is checked, and taken if it passes. False when
-    /// it was refused, so that the editor is still open. While the grid is switched off the value is dropped.
-    virtual bool EndEdit() = 0;
-
-    /// Opens the editor of the current cell, if it can be typed in, with its whole text selected.
-    virtual void SelectCellText() = 0;
-
-    /// Whether an editor is open with text selected in it.
-    [[nodiscard]] virtual bool HasSelectedText() const = 0;
-
-    /// First row in the visible part, from 0.
-    [[nodiscard]] virtual int FirstVisibleRow() const = 0;
-
-    /// Rows that the visible part holds whole.
-    [[nodiscard]] virtual int VisibleRows() const = 0;
-
-    /// Upper edge of a row in twips below the grid's own; none for a row outside the visible part.
-    [[nodiscard]] virtual std::optional<int> RowTop(int row) const = 0;
-};
 
 /// A grid without storage of its own: it asks its owner for the text and the colours of a cell as it draws it, and
 /// keeps no copy. Rows and columns count from 0; a row or column of -1 is none.

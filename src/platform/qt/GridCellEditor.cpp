@@ -53,7 +53,7 @@ bool GridCellEditor::Leave() {
     const QPointer<GridCellEditor> self(this);
     RunGuarded([&] { accepted = grid.Edit(cell.column, FromQString(text())); });
     if (self.isNull()) {
-        return true;
+        return false;
     }
     checking = false;
     if (accepted || CurrentCell(grid) != cell) {

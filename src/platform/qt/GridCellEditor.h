@@ -27,7 +27,8 @@ class GridCellEditor : public QLineEdit {
     void PutOver(const QRect& cell);
 
     /// Ends the edit: a text that was changed is given to the grid, which may refuse it. True when no editor is open
-    /// any more, or while the value is just being checked. While the grid is switched off the text is dropped.
+    /// any more, or while the value is just being checked; false too when the grid's widget went meanwhile. While the
+    /// grid is switched off the text is dropped.
     bool Leave();
 
     /// Drops the text; the cell keeps its value.

@@ -60,7 +60,7 @@ void GridWidget::AddMissingPanes() {
 
 void GridWidget::ConnectPane(GridPaneView& pane) {
     pane.keyPressed = [this](QKeyEvent& key) { return ServeKey(key); };
-    pane.movedFromOutside = [this](const GridCell& cell) { MoveTo(cell); };
+    pane.movedFromOutside = [this](const GridCell& cell) { MoveFromOutside(cell); };
     pane.editAsked = [this] { OpenEditor(GridCellEditor::Start::Behind); };
     pane.repainted = [this](bool whole) { NotePainted(whole); };
     pane.scrolled = [this] {

@@ -72,6 +72,7 @@ class GridWidget : public QWidget, public GridView {
     bool ServeCellKey(QKeyEvent& key);
     bool MoveByKey(QKeyEvent& key);
     void MoveTo(const GridCell& cell);
+    void MoveFromOutside(const GridCell& cell);
 
     void OpenEditor(GridCellEditor::Start start, const std::optional<QString>& typed = std::nullopt);
     void EditorLostFocus(Qt::FocusReason reason);

@@ -72,7 +72,7 @@ void GridWidget::FinishClick(QPoint position) {
     const bool inEditor = editor->IsOpen() && editor == childAt(position);
     const QPointer<GridWidget> self(this);
     // A refused value keeps the cursor: the click does nothing more.
-    if (!inEditor && (!editor->Leave() || self.isNull())) {
+    if (!inEditor && !editor->Leave()) {
         return;
     }
     const std::optional<GridCell> target = inEditor ? std::nullopt : CellAt(position);
@@ -175,9 +175,8 @@ bool GridWidget::ServeCellKey(QKeyEvent& key) {
 }
 
 bool GridWidget::MoveByKey(QKeyEvent& key) {
-    const QPointer<GridWidget> self(this);
     const GridCell before = CurrentCell(grid);
-    if (!editor->Leave() || self.isNull()) {
+    if (!editor->Leave()) {
         return true;
     }
     // What follows an accepted value may have moved to another column already.
@@ -202,6 +201,19 @@ void GridWidget::MoveTo(const GridCell& cell) {
         return;
     }
     Report([&] { grid.MoveByUser(cell.pane, cell.row, cell.column); });
+}
+
+void GridWidget::MoveFromOutside(const GridCell& cell) {
+    const QPointer<GridWidget> self(this);
+    if (grid.Column(cell.column).focusable) {
+        MoveTo(cell);
+    }
+    // Where the grid did not follow the toolkit's table, the table follows the grid.
+    if (!self.isNull()) {
+        for (GridPaneView* pane : panes) {
+            pane->FollowCurrentCell();
+        }
+    }
 }
 
 void GridWidget::OpenEditor(GridCellEditor::Start start, const std::optional<QString>& typed) {

@@ -28,18 +28,6 @@ class GridDrawing : public testing::Test, protected support::LogOnScreen {
         QTest::qWait(1);
     }
 
-    /// The grid's pixels at a scale; positions are in pixels of scale 1.
-    [[nodiscard]] QImage Draw(int scale = 1) {
-        QImage image(widget->size() * scale, QImage::Format_RGB32);
-        image.setDevicePixelRatio(scale);
-        widget->render(&image);
-        return image;
-    }
-
-    [[nodiscard]] QRgb At(const QImage& image, QPoint position) const {
-        return image.pixel(position * static_cast<int>(image.devicePixelRatio()));
-    }
-
     /// Whether a colour stands anywhere in a cell.
     [[nodiscard]] bool Shows(const QImage& image, int row, int column, QRgb color) const {
         const int scale = static_cast<int>(image.devicePixelRatio());
@@ -61,10 +49,10 @@ TEST_F(GridDrawing, RowsStandExactlyFifteenPixelsApart) {
     const QImage image = Draw();
     const int x = MiddleOf(2, 3).x() - 15;
 
-    EXPECT_NE(At(image, {x, 15 + 2 * 15 - 2}), yellow);
-    EXPECT_EQ(At(image, {x, 15 + 2 * 15}), yellow);
-    EXPECT_EQ(At(image, {x, 15 + 2 * 15 + 13}), yellow);
-    EXPECT_NE(At(image, {x, 15 + 3 * 15}), yellow);
+    EXPECT_NE(support::PixelAt(image, {x, 15 + 2 * 15 - 2}), yellow);
+    EXPECT_EQ(support::PixelAt(image, {x, 15 + 2 * 15}), yellow);
+    EXPECT_EQ(support::PixelAt(image, {x, 15 + 2 * 15 + 13}), yellow);
+    EXPECT_NE(support::PixelAt(image, {x, 15 + 3 * 15}), yellow);
 }
 
 TEST_F(GridDrawing, RowsStandExactlyAtDoubleScaleToo) {
@@ -92,7 +80,7 @@ TEST_F(GridDrawing, AColumnThatIsNotStyledAsksForNoColours) {
 
     EXPECT_FALSE(styled.empty());
     EXPECT_TRUE(std::ranges::none_of(styled, [](const auto& cell) { return cell.second == 0; }));
-    EXPECT_EQ(At(image, MiddleOf(2, 0) + QPoint(20, 0)), paper);
+    EXPECT_EQ(support::PixelAt(image, MiddleOf(2, 0) + QPoint(20, 0)), paper);
 }
 
 TEST_F(GridDrawing, ACellWithoutColoursOfItsOwnHasThoseOfItsColumn) {
@@ -100,8 +88,8 @@ TEST_F(GridDrawing, ACellWithoutColoursOfItsOwnHasThoseOfItsColumn) {
 
     const QImage image = Draw();
 
-    EXPECT_EQ(At(image, MiddleOf(2, 8)), widget->palette().color(QPalette::Window).rgb());
-    EXPECT_EQ(At(image, MiddleOf(3, 6) - QPoint(15, 0)), paper);
+    EXPECT_EQ(support::PixelAt(image, MiddleOf(2, 8)), widget->palette().color(QPalette::Window).rgb());
+    EXPECT_EQ(support::PixelAt(image, MiddleOf(3, 6) - QPoint(15, 0)), paper);
 }
 
 TEST_F(GridDrawing, TheMarkOfTheCurrentCellLeavesItsColours) {
@@ -112,7 +100,7 @@ TEST_F(GridDrawing, TheMarkOfTheCurrentCellLeavesItsColours) {
 
     EXPECT_TRUE(Shows(image, 2, 3, yellow));
     EXPECT_TRUE(Shows(image, 2, 3, navy));
-    EXPECT_EQ(At(image, PaneView(1)->mapTo(widget, QPoint(80, 15 + 2 * 15 + 5))),
+    EXPECT_EQ(support::PixelAt(image, PaneView(1)->mapTo(widget, QPoint(80, 15 + 2 * 15 + 5))),
               widget->palette().color(QPalette::Highlight).rgb());
 }
 
@@ -123,7 +111,7 @@ TEST_F(GridDrawing, APaneThatMarksNoCellShowsNoMark) {
 
     const QImage image = Draw();
 
-    EXPECT_EQ(At(image, PaneView(1)->mapTo(widget, QPoint(80, 15 + 2 * 15 + 5))), yellow);
+    EXPECT_EQ(support::PixelAt(image, PaneView(1)->mapTo(widget, QPoint(80, 15 + 2 * 15 + 5))), yellow);
 }
 
 TEST_F(GridDrawing, OnlyTheCurrentRowHasADropDownButton) {
@@ -137,42 +125,8 @@ TEST_F(GridDrawing, OnlyTheCurrentRowHasADropDownButton) {
         const QRect place = GridCellPainter::ButtonIn(cell);
         return PaneView(0)->viewport()->mapTo(widget, place.topLeft() + QPoint(2, 2));
     };
-    EXPECT_EQ(At(image, button(4)), face);
-    EXPECT_EQ(At(image, button(5)), paper);
-}
-
-TEST_F(GridDrawing, TheMarginPointsAtTheCurrentRow) {
-    grid.GoToRow(4);
-
-    const QImage image = Draw();
-
-    const QRgb mark = widget->palette().color(QPalette::ButtonText).rgb();
-    EXPECT_EQ(At(image, {8, 15 + 4 * 15 + 7}), mark);
-    EXPECT_NE(At(image, {8, 15 + 5 * 15 + 7}), mark);
-}
-
-TEST_F(GridDrawing, BelowTheLastRowTheGridIsEmpty) {
-    grid.SetRowCount(3);
-
-    const QImage image = Draw();
-
-    EXPECT_EQ(At(image, {100, 200}), paper);
-    EXPECT_EQ(At(image, {8, 200}), paper);
-}
-
-TEST(GridCaption, ACaptionStandsAboveTheHeadings) {
-    support::GridOnScreen hot;
-    hot.grid.bounds = {150, 300, 3375, 1500};
-    hot.grid.SetColumns(1);
-    hot.grid.AddPane(0, 0);
-    hot.grid.Column(0).heading = "Number";
-    hot.cells = {{"7"}};
-    hot.grid.SetRowCount(1);
-    hot.Show();
-    EXPECT_EQ(hot.grid.RowTop(0), 225);
-
-    hot.grid.caption = "Hot Numbers";
-    EXPECT_EQ(hot.grid.RowTop(0), 255 + 225);
+    EXPECT_EQ(support::PixelAt(image, button(4)), face);
+    EXPECT_EQ(support::PixelAt(image, button(5)), paper);
 }
 
 }  // namespace

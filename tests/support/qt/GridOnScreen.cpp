@@ -147,6 +147,13 @@ void GridOnScreen::Type(const std::string& text) {
     }
 }
 
+QImage GridOnScreen::Draw(int scale) {
+    QImage image(widget->size() * scale, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    widget->render(&image);
+    return image;
+}
+
 QLineEdit* GridOnScreen::Editor() const {
     auto* editor = widget->findChild<QLineEdit*>(QStringLiteral("grid.editor"));
     return editor != nullptr && editor->isVisible() ? editor : nullptr;
@@ -159,6 +166,10 @@ platform::GridPaneView* GridOnScreen::PaneView(int pane) const {
 
 std::vector<std::string> GridOnScreen::TakeNotices() {
     return std::exchange(notices, {});
+}
+
+QRgb PixelAt(const QImage& image, QPoint position) {
+    return image.pixel(position * static_cast<int>(image.devicePixelRatio()));
 }
 
 LogOnScreen::LogOnScreen() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QLineEdit>
 #include <QWidget>
 
@@ -38,6 +39,9 @@ class GridOnScreen {
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void Type(const std::string& text);
 
+    /// The grid's pixels at a scale.
+    [[nodiscard]] QImage Draw(int scale = 1);
+
     /// The open editor, null for none.
     [[nodiscard]] QLineEdit* Editor() const;
     [[nodiscard]] platform::GridPaneView* PaneView(int pane) const;
@@ -67,6 +71,9 @@ class GridOnScreen {
     void ListenToMouse();
     void ListenToEdits();
 };
+
+/// A pixel, at a position in pixels of scale 1.
+[[nodiscard]] QRgb PixelAt(const QImage& image, QPoint position);
 
 /// A log of draws: a pane for the date, which has a button, and one for ten picks of which six are used. Six of them
 /// are in view. 40 rows are in a place for 20.
