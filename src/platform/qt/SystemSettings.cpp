@@ -1,8 +1,8 @@
 #include "platform/qt/SystemSettings.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QLocale>
+#include <QString>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -31,6 +31,12 @@ std::string DateLocale() {
     return {};
 }
 #endif
+
+// Some locales put blanks or invisible marks of the writing direction beside their separators. Left there, they would
+// be taken for separators themselves, or for one of the letters.
+void TakeOutBlanksAndMarks(QString& pattern) {
+    pattern.removeIf([](QChar each) { return each.isSpace() || each.category() == QChar::Other_Format; });
+}
 
 }  // namespace
 
@@ -79,7 +85,9 @@ std::string ShortDatePatternOfLocale(const std::string& name) {
     if (language.empty() || language == "POSIX" || locale.language() == QLocale::C) {
         return {};
     }
-    return FromQString(locale.dateFormat(QLocale::ShortFormat));
+    QString pattern = locale.dateFormat(QLocale::ShortFormat);
+    TakeOutBlanksAndMarks(pattern);
+    return FromQString(pattern);
 }
 
 }  // namespace ballhaven::platform

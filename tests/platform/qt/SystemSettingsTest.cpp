@@ -1,7 +1,11 @@
 #include "platform/qt/SystemSettings.h"
 
+#include "state/DateText.h"
+
 #include <gtest/gtest.h>
 
+#include <QLocale>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
@@ -49,6 +53,24 @@ TEST(SystemSettings, AnAmericanDatePutsTheMonthFirst) {
 TEST(SystemSettings, AGermanDateHasPoints) {
     EXPECT_EQ(ShortDatePatternOfLocale("de_DE.UTF-8"), "dd.MM.yy");
     EXPECT_EQ(ShortDatePatternOfLocale("de_DE@euro"), "dd.MM.yy");
+}
+
+TEST(SystemSettings, BlanksAndInvisibleMarksBesideTheSeparatorsAreTakenOut) {
+    EXPECT_EQ(ShortDatePatternOfLocale("hu_HU.UTF-8"), "yyyy.MM.dd.");
+    EXPECT_EQ(ShortDatePatternOfLocale("ko_KR.UTF-8"), "yy.M.d.");
+    EXPECT_EQ(ShortDatePatternOfLocale("ar_EG.UTF-8"), "d/M/yyyy");
+}
+
+TEST(SystemSettings, EveryLocaleGivesAnOrderOfMonthDayAndYear) {
+    const auto locales = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+    ASSERT_GT(locales.size(), 100);
+    for (const QLocale& locale : locales) {
+        const std::string name = locale.name().toStdString();
+        const std::string order = NormalisedDatePattern(ShortDatePatternOfLocale(name));
+        std::string letters{order[0], order[2], order[4]};
+        std::ranges::sort(letters);
+        EXPECT_EQ(letters, "dmy") << name << " has " << order;
+    }
 }
 
 TEST(SystemSettings, ALocaleWithoutALanguageHasNoPattern) {
