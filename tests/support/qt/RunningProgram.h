@@ -106,7 +106,7 @@ class RunningProgram : public ::testing::Test {
     void ClickCell(const char* grid, int row, int column) const;
     [[nodiscard]] QColor CellColor(const char* grid, int row, int column) const;
 
-    /// Whether a cell shows a colour anywhere.
+    /// Whether a cell shows almost a colour anywhere, as thin letters do.
     [[nodiscard]] bool CellHasColor(const char* grid, int row, int column, const QColor& color) const;
 
     /// The place of a cell within its grid, in pixels, scrolled into view.
