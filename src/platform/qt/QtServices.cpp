@@ -27,9 +27,12 @@ void RaiseWindow(QWidget& window) {
     window.activateWindow();
 }
 
+// A desktop that guards its focus lets a window come to the front by the token of the process that was just started;
+// the toolkit looks for it in the environment.
 void ComeToFront(const QtToolkit& qtToolkit, const std::string& token) {
+    constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";
     if (!token.empty()) {
-        qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
+        qputenv(tokenVariable, QByteArray::fromStdString(token));
     }
     QWidget* const front = qtToolkit.FrontWindow();
     QWidget* const inCharge = WindowInCharge(qtToolkit);
@@ -39,6 +42,7 @@ void ComeToFront(const QtToolkit& qtToolkit, const std::string& token) {
     if (inCharge != nullptr && inCharge != front) {
         RaiseWindow(*inCharge);
     }
+    qunsetenv(tokenVariable);
 }
 
 }  // namespace

@@ -1,0 +1,47 @@
+#include "platform/qt/Appearance.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStyle>
+
+namespace ballhaven::platform {
+namespace {
+
+TEST(Appearance, EveryTextIsElevenPixelsHighMenusAndBoxesToo) {
+    QPushButton button;
+    QMenu menu;
+    QMessageBox box;
+    for (const QWidget* widget :
+         {static_cast<QWidget*>(&button), static_cast<QWidget*>(&menu), static_cast<QWidget*>(&box)}) {
+        EXPECT_EQ(widget->font().pixelSize(), 11) << widget->metaObject()->className();
+    }
+}
+
+TEST(Appearance, TheFontIsTheOneAskedForWhereItIsInstalled) {
+    const QString wanted = QStringLiteral("Liberation Sans");
+    if (!QFontDatabase::hasFamily(wanted)) {
+        GTEST_SKIP() << "the font is not installed here";
+    }
+    EXPECT_EQ(QApplication::font().family(), wanted);
+}
+
+TEST(Appearance, ListsDropDownBelowTheirBox) {
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_ComboBox_Popup), 0);
+}
+
+TEST(Appearance, TextStandsOutFromWhatItIsWrittenOn) {
+    const QPalette palette = QApplication::palette();
+
+    EXPECT_GT(palette.color(QPalette::Window).lightness() - palette.color(QPalette::WindowText).lightness(), 150);
+    EXPECT_GT(palette.color(QPalette::Base).lightness() - palette.color(QPalette::Text).lightness(), 150);
+    EXPECT_GT(palette.color(QPalette::HighlightedText).lightness() - palette.color(QPalette::Highlight).lightness(),
+              100);
+}
+
+}  // namespace
+}  // namespace ballhaven::platform
