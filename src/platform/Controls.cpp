@@ -14,14 +14,9 @@ void Raise(const Handler& handler) {
 
 }  // namespace
 
-void DropDownList::Clear() {
-    entries.clear();
+void DropDownList::Fill(std::vector<std::string> texts) {
+    entries = std::move(texts);
     selected = -1;
-    ShowChange();
-}
-
-void DropDownList::Add(std::string text) {
-    entries.push_back(std::move(text));
     ShowChange();
 }
 

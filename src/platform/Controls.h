@@ -32,9 +32,8 @@ class DropDownList : public Control {
   public:
     DropDownList() : Control(ControlKind::DropDownList) {}
 
-    /// Empties the list; nothing is selected then. Raises no notice.
-    void Clear();
-    void Add(std::string text);
+    /// Replaces the entries; nothing is selected then. Raises no notice.
+    void Fill(std::vector<std::string> texts);
     [[nodiscard]] const std::vector<std::string>& Entries() const { return entries; }
 
     /// Index of the selected entry from 0, -1 for none.

@@ -8,6 +8,8 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace ballhaven {
 
@@ -49,31 +51,27 @@ std::string_view PickHeading(bool pairs) {
 }  // namespace
 
 void ListGames() {
-    platform::DropDownList& games = frmMainForm.cboList[0];
-    games.Clear();
+    std::vector<std::string> names;
     for (int slot = 1; slot <= gameSlots; ++slot) {
-        games.Add(GameName(ReadGameRecord(slot)));
+        names.push_back(GameName(ReadGameRecord(slot)));
     }
-    games.Select(appState.currentGame - 1);
+    frmMainForm.cboList[0].Fill(std::move(names));
+    frmMainForm.cboList[0].Select(appState.currentGame - 1);
 }
 
 void LoadHistorySetList() {
-    platform::DropDownList& sets = frmMainForm.cboList[1];
-    sets.Clear();
+    std::vector<std::string> sets;
     for (int size = smallestHistorySet; size <= largestHistorySet; size += historySetStep) {
-        sets.Add("Last " + std::to_string(size) + " Games");
+        sets.push_back("Last " + std::to_string(size) + " Games");
     }
-    sets.Select(appState.historySetSize / historySetStep - 1);
+    frmMainForm.cboList[1].Fill(std::move(sets));
+    frmMainForm.cboList[1].Select(appState.historySetSize / historySetStep - 1);
 }
 
 void LoadComboHot() {
-    platform::DropDownList& tables = frmMainForm.cboList[2];
-    tables.Clear();
-    tables.Add(IsCardGame(appState.gameType) ? "Hot Cards" : "Hot Numbers");
-    for (const char* table : {"Hot Pairs", "Paired Once", "Repeaters", "No-Hitters"}) {
-        tables.Add(table);
-    }
-    tables.Select(0);
+    const char* const first = IsCardGame(appState.gameType) ? "Hot Cards" : "Hot Numbers";
+    frmMainForm.cboList[2].Fill({first, "Hot Pairs", "Paired Once", "Repeaters", "No-Hitters"});
+    frmMainForm.cboList[2].Select(0);
 }
 
 void ShowHotHeadings() {

@@ -18,9 +18,7 @@ class DropDownWidgetTest : public testing::Test {
         list.name = "cboList(0)";
         list.toolTip = "The game to show";
         list.bounds = Bounds{120, 280, 2055, 315};
-        for (const char* entry : {"Pick 3", "Pick 4", "Power Play"}) {
-            list.Add(entry);
-        }
+        list.Fill({"Pick 3", "Pick 4", "Evening Six"});
         list.Select(1);
         list.change = [this] { chosen.push_back(list.Selected()); };
         form.Show();
@@ -55,7 +53,7 @@ TEST_F(DropDownWidgetTest, TheChoiceIsInTheValueWhenTheHandlerRuns) {
     Pick(2);
 
     EXPECT_EQ(chosen, std::vector<int>{2});
-    EXPECT_EQ(list.Text(), "Power Play");
+    EXPECT_EQ(list.Text(), "Evening Six");
 }
 
 TEST_F(DropDownWidgetTest, ChoosingTheSelectedEntryAgainIsReportedToo) {
@@ -72,7 +70,9 @@ TEST_F(DropDownWidgetTest, TheArrowKeysChooseTheNextEntry) {
 }
 
 TEST_F(DropDownWidgetTest, TheFirstLetterOfAnEntryChoosesIt) {
-    list.Add("Wednesday");
+    list.Fill({"Pick 3", "Pick 4", "Evening Six", "Wednesday"});
+    list.Select(1);
+    chosen.clear();
     box->setFocus();
     QTest::keyClick(box, Qt::Key_W);
 
@@ -88,8 +88,7 @@ TEST_F(DropDownWidgetTest, ASelectionByTheProgramShowsAndIsReportedOnce) {
 }
 
 TEST_F(DropDownWidgetTest, FillingTheListAnewReportsNothing) {
-    list.Clear();
-    list.Add("Lotto 49");
+    list.Fill({"Lotto 49"});
 
     EXPECT_EQ(box->count(), 1);
     EXPECT_EQ(box->currentIndex(), -1);
@@ -100,8 +99,7 @@ TEST_F(DropDownWidgetTest, AHandlerMayFillItsOwnListAnew) {
     list.change = [this] {
         chosen.push_back(list.Selected());
         list.change = nullptr;
-        list.Clear();
-        list.Add("Lotto 49");
+        list.Fill({"Lotto 49"});
         list.Select(0);
     };
     Pick(2);
