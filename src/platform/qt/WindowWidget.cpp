@@ -99,8 +99,12 @@ void WindowWidget::FollowClientArea() {
     });
 }
 
+// The first activation comes before the first painting, so that what it loads is painted at once.
 void WindowWidget::Show() {
     show();
+    if (!everActive) {
+        BecomeActive();
+    }
 }
 
 void WindowWidget::ShowModal() {
