@@ -84,9 +84,8 @@ int LineOfPlay(int play) {
 }
 
 void PlaySlipLabel(int play, std::string& slipText, std::string& lineLetter) {
-    slipText = std::to_string(SlipOfPlay(play));
-    slipText += '.';
-    lineLetter = lineLetters.substr(static_cast<std::size_t>(LineOfPlay(play) - 1), 1);
+    slipText = std::to_string(SlipOfPlay(play)) + ".";
+    lineLetter.assign(1, lineLetters[static_cast<std::size_t>(LineOfPlay(play) - 1)]);
 }
 
 void RefreshPlayGrids() {
