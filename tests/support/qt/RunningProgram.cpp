@@ -89,7 +89,7 @@ std::string HistoryFileOf(const std::vector<Draw>& draws) {
     return historyFileFormat.File(records);
 }
 
-RunningProgram::RunningProgram() : before(platform::services) {
+RunningProgram::RunningProgram() : servicesBefore(platform::services) {
     ForgetMainForm();
     appState.programDirectory = directory.Path();
     platform::services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
@@ -113,7 +113,7 @@ RunningProgram::~RunningProgram() {
     Settle();
     ForgetMainForm();
     ResetState();
-    platform::services = before;
+    platform::services = servicesBefore;
     platform::fileSystem = platform::SystemFiles();
 }
 

@@ -136,7 +136,7 @@ class RunningProgram : public ::testing::Test {
     [[nodiscard]] QTableView& PaneOf(const char* grid, int column, int& columnInPane) const;
     [[nodiscard]] QImage CellImage(const char* grid, int row, int column) const;
 
-    const platform::Services before;
+    const platform::Services servicesBefore;
     QTimer modalWindows;
 
   protected:
