@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QTest>
 
+#include "platform/Toolkit.h"
+
 namespace ballhaven::support {
 
 using platform::Window;
@@ -20,6 +22,9 @@ TestWindow::TestWindow(std::initializer_list<platform::Control*> controls) : par
 TestWindow::~TestWindow() {
     window.unload = nullptr;
     window.Unload();
+    if (window.view != nullptr) {
+        platform::toolkit->TearDown(window);  // left by an `unload` that failed, which would have ended the process
+    }
     Settle();
 }
 
