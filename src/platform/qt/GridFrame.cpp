@@ -68,9 +68,9 @@ void DrawGridFrame(QPainter& painter, const Grid& grid, const GridMeasures& meas
                          PaletteColor(QPalette::Button));
     }
     for (const GridMeasures::PanePlace& pane : measures.panes) {
-        const int below = measures.rows.bottom() + 1;
         if (!pane.scrollBar.isEmpty()) {
-            painter.fillRect(QRect(0, below, size.width(), size.height() - below), PaletteColor(QPalette::Button));
+            painter.fillRect(QRect(0, pane.scrollBar.top(), size.width(), size.height()),
+                             PaletteColor(QPalette::Button));
         }
     }
     for (std::size_t pane = 1; pane < measures.panes.size(); ++pane) {

@@ -11,7 +11,7 @@ namespace ballhaven::platform {
 /// The rows that a grid shows at the moment.
 struct GridRowsInView {
     int first = 0;
-    int count = 0;  ///< with one that is cut off at the lower edge
+    int count = 0;
 };
 
 /// Draws what of a grid is not in its panes: the caption bar, the row-selector margin with its mark at the current

@@ -97,9 +97,11 @@ GridMeasures MeasureGrid(const Grid& grid, QSize size, int rowCount, int barExte
     }
     widths = PaneWidths(grid, measures.panes, area.width() - rightBar);
 
-    measures.rows = area.adjusted(0, heading, -rightBar, -lowerBar);
+    const QRect room = area.adjusted(0, heading, -rightBar, -lowerBar);
+    measures.rows = room;
+    measures.rows.setHeight(room.height() / RowPixels(grid) * RowPixels(grid));
     if (rightBar > 0) {
-        measures.scrollBar = QRect(area.right() + 1 - rightBar, measures.rows.top(), rightBar, measures.rows.height());
+        measures.scrollBar = QRect(room.right() + 1, room.top(), rightBar, room.height());
     }
     int left = area.left();
     for (std::size_t pane = 0; pane < widths.size(); ++pane) {
@@ -107,7 +109,7 @@ GridMeasures MeasureGrid(const Grid& grid, QSize size, int rowCount, int barExte
         place.place = QRect(left, area.top(), widths[pane], heading + measures.rows.height());
         const int missing = widths[pane] - Sum(place.columnWidths);
         if (missing < 0) {
-            place.scrollBar = QRect(left, measures.rows.bottom() + 1, widths[pane], lowerBar);
+            place.scrollBar = QRect(left, room.bottom() + 1, widths[pane], lowerBar);
         } else if (!place.columnWidths.empty()) {
             place.columnWidths.back() += missing;
         }

@@ -24,8 +24,10 @@ struct GridMeasures {
         std::vector<int> columnWidths;
     };
 
-    QRect caption;    ///< empty where the grid has none
-    QRect rows;       ///< the rows of all panes, without margin, headings and scroll bars
+    QRect caption;  ///< empty where the grid has none
+    /// The rows of all panes, without margin, headings and scroll bars; whole rows only. With a row cut off the
+    /// toolkit's table would put its last row to the lower edge, and no row would stand where a press looks for it.
+    QRect rows;
     QRect scrollBar;  ///< the vertical one, empty where all rows have room
     std::vector<PanePlace> panes;
 };

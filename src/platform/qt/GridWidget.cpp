@@ -229,9 +229,7 @@ GridPaneView* GridWidget::CurrentPaneView() const {
 
 void GridWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const int inView = (measures.rows.height() + RowPixels(grid) - 1) / RowPixels(grid);
-    const int first = FirstVisibleRow();
-    DrawGridFrame(painter, grid, measures, size(), {first, std::min(inView, model.rowCount() - first)});
+    DrawGridFrame(painter, grid, measures, size(), {FirstVisibleRow(), VisibleRows()});
 }
 
 void GridWidget::resizeEvent(QResizeEvent*) {

@@ -113,7 +113,7 @@ TEST_F(LogMeasures, TheVerticalBarTakesItsRoomFromThePaneThatTakesTheRest) {
 
     EXPECT_EQ(measures.panes[0].place.width(), 381 - 17 - 240 - 2 - bar);
     EXPECT_EQ(measures.panes[1].place.width(), 240);
-    EXPECT_EQ(measures.scrollBar, QRect(381 - 1 - bar, 15, bar, measures.rows.height()));
+    EXPECT_EQ(measures.scrollBar, QRect(381 - 1 - bar, 15, bar, 481 - 15 - bar - 1));
 }
 
 TEST_F(LogMeasures, ColumnsWithoutRoomAreReachedByABarBelowTheirPane) {
@@ -132,6 +132,11 @@ TEST_F(LogMeasures, APaneThatCountsMoreColumnsThanItHasIsAsWideAsAll) {
 
     EXPECT_EQ(Measure(10).panes[1].place.width(), 3 * 40);
     EXPECT_TRUE(Measure(10).panes[1].scrollBar.isEmpty());
+}
+
+TEST_F(LogMeasures, OnlyWholeRowsHaveRoom) {
+    // 481 pixels less 15 for the headings, 14 for the lower bar and 1 for the frame are 30 rows and a rest.
+    EXPECT_EQ(Measure(1000).rows.height(), 30 * 15);
 }
 
 TEST_F(LogMeasures, TooNarrowAGridCutsItsPanesOff) {

@@ -79,12 +79,23 @@ TEST_F(GridMouse, AClickBelowTheLastRowMovesNothing) {
 
 TEST_F(GridMouse, ThePlaceOfAPressTellsTheVisibleRow) {
     PaneView(0)->verticalScrollBar()->setValue(10);
-    for (const int line : {0, 1, 7, 19}) {
+    for (const int line : {0, 1, 7, 18}) {
         const QRect cell = PaneView(0)->CellPlace({0, 10 + line, 0});
         const int top = PaneView(0)->viewport()->mapTo(widget, cell.topLeft()).y();
         for (const int y : {top, top + cell.height() - 1}) {
             EXPECT_EQ(y * 15 / 225, line + 1);
         }
+    }
+}
+
+TEST_F(GridMouse, ThePlaceOfAPressTellsTheVisibleRowAtTheEndOfTheLogToo) {
+    PaneView(0)->verticalScrollBar()->setValue(PaneView(0)->verticalScrollBar()->maximum());
+
+    for (int row = grid.FirstVisibleRow(); row < 40; ++row) {
+        const QRect cell = PaneView(0)->CellPlace({0, row, 0});
+        const int top = PaneView(0)->viewport()->mapTo(widget, cell.topLeft()).y();
+        EXPECT_EQ(top, 15 * (row - grid.FirstVisibleRow() + 1));
+        EXPECT_EQ(grid.RowTop(row), top * 15);
     }
 }
 
