@@ -25,6 +25,9 @@ need_packages "${test_packages[@]}" || give_up "the tests need these packages"
 cmake --preset "$preset" >/dev/null || give_up "CMake cannot set up the build"
 cmake --build --preset "$preset" || give_up "the build failed"
 
+# The tests write thousands of small files and wait for each to reach the disk: in memory that takes a tenth of the time.
+[[ -w /dev/shm ]] && export TMPDIR=/dev/shm
+
 rm -f "$build/Testing/Temporary/LastTest.log"
 ctest --preset "$preset"
 verdict=$?
