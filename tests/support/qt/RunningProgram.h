@@ -34,7 +34,7 @@ struct StoredGame {
     int bonusHigh = 49;
     bool inOrder = false;
     std::string historySet = "100";
-    std::vector<Draw> draws;
+    std::vector<Draw> draws = {};
 };
 
 /// The bytes of a history file that holds these draws, of which blank picks are -1.
