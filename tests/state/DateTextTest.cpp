@@ -42,7 +42,7 @@ struct DateText : public ::testing::Test {
 };
 
 using QuirkDateColon1 = DateText;
-using QuirkDateBefore1984 = DateText;
+using QuirkDateBefore19841 = DateText;
 
 /// A day as month/day/year, by the standard library's calendar.
 std::string CalendarText(sys_days day) {
@@ -143,7 +143,7 @@ TEST_F(DateText, DaysBeyondTheMonthRunOnIntoTheNext) {
 }
 
 // Not a bug: DATE-BEFORE-1984-1 in docs/not-bugs.md.
-TEST_F(QuirkDateBefore1984, AnEarlierYearLeavesTheLastResults) {
+TEST_F(QuirkDateBefore19841, AnEarlierYearLeavesTheLastResults) {
     ASSERT_EQ(SerialOfText("09/27/1986"), 1000);
     std::string text = "12/31/1983";
     DateToSerial(text);
@@ -153,7 +153,7 @@ TEST_F(QuirkDateBefore1984, AnEarlierYearLeavesTheLastResults) {
 }
 
 // Not a bug: DATE-BEFORE-1984-1 in docs/not-bugs.md.
-TEST_F(QuirkDateBefore1984, AYearOfTwoDigitsIsAnEarlierYear) {
+TEST_F(QuirkDateBefore19841, AYearOfTwoDigitsIsAnEarlierYear) {
     ASSERT_EQ(SerialOfText("09/27/1986"), 1000);
     EXPECT_EQ(SerialOfText("10/01/86"), 1000);
     EXPECT_EQ(SerialOfText("1/1/5"), 1000);
