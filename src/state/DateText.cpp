@@ -5,6 +5,7 @@
 #include <functional>
 #include <string_view>
 
+#include "platform/Services.h"
 #include "state/AppState.h"
 #include "state/modUTILS.h"
 
@@ -26,10 +27,6 @@ constexpr std::string_view monthDayYear = "m/d/y";
 
 bool IsAsciiLetter(char character) {
     return ('A' <= character && character <= 'Z') || ('a' <= character && character <= 'z');
-}
-
-char LowerCase(char character) {
-    return 'A' <= character && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
 /// Place of the first character that is no ASCII letter, `npos` without one.
@@ -81,8 +78,12 @@ std::string NormalisedDatePattern(const std::string& systemPattern) {
     if (second == std::string::npos || second + 1 == systemPattern.size()) {
         return std::string(monthDayYear);
     }
-    return {LowerCase(systemPattern[first - 1]), separator, LowerCase(systemPattern[second - 1]), separator,
-            LowerCase(systemPattern[second + 1])};
+    return {modUTILS::LowerCase(systemPattern[first - 1]), separator, modUTILS::LowerCase(systemPattern[second - 1]),
+            separator, modUTILS::LowerCase(systemPattern[second + 1])};
+}
+
+std::string ProbeShortDate() {
+    return NormalisedDatePattern(platform::services.shortDatePattern(appState.windowsDirectory));
 }
 
 void DateToFileText(std::string& text) {

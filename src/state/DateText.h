@@ -10,6 +10,9 @@ namespace ballhaven {
 /// beside each of them.
 [[nodiscard]] std::string NormalisedDatePattern(const std::string& systemPattern);
 
+/// The pattern for `shortDateFormat` of the system whose settings stand in `windowsDirectory`.
+[[nodiscard]] std::string ProbeShortDate();
+
 /// Turns a screen date in the order of `shortDateFormat` into the neutral text: month and day in two digits and the
 /// year as it was typed, between hyphens. Any character but a digit and a colon separates the parts.
 void DateToFileText(std::string& text);

@@ -139,8 +139,8 @@ void DecodeGameRecord(const std::string& record) {
     appState.orderMatters = SaysYes(record, gameField::order);
     DecodeLimits(record);
 
-    const int bonusPicks = HasBonus(appState.gameType) ? appState.bonusPickCount : 0;
-    const int picks = appState.mainPickCount + bonusPicks;
+    const int bonusPicksDrawn = HasBonus(appState.gameType) ? appState.bonusPickCount : 0;
+    const int picks = appState.mainPickCount + bonusPicksDrawn;
     appState.totalPicks = modUTILS::ToInt16(picks == 0 ? 1 : picks);
 }
 

@@ -26,17 +26,9 @@ constexpr int firstBonusNumberCell = 108;
 constexpr int firstCardWordCell = 66;
 constexpr int firstBonusCardCell = 72;
 
-char LowerCase(char letter) {
-    return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-char UpperCase(char letter) {
-    return 'a' <= letter && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
 /// Rank of a letter of A, J, Q and K in either case; 0 for any other character.
 int RankOfLetter(char letter) {
-    switch (UpperCase(letter)) {
+    switch (modUTILS::UpperCase(letter)) {
         case 'A':
             return 1;
         case 'J':
@@ -120,10 +112,10 @@ std::int16_t TextToCard(std::string& text) {
     if (rank == 0) {
         rank = RankOfLetter(text.front());
         if (rank != 0) {
-            text.front() = UpperCase(text.front());
+            text.front() = modUTILS::UpperCase(text.front());
         }
     }
-    const std::size_t suit = suitLetters.find(LowerCase(text.back()));
+    const std::size_t suit = suitLetters.find(modUTILS::LowerCase(text.back()));
     if (suit != std::string_view::npos) {
         text.back() = suitLetters[suit];
     }

@@ -33,7 +33,7 @@ void StartProgram() {
         return;
     }
     appState.windowsDirectory = platform::WithSeparator(platform::services.systemDirectory());
-    appState.shortDateFormat = NormalisedDatePattern(platform::services.shortDatePattern(appState.windowsDirectory));
+    appState.shortDateFormat = ProbeShortDate();
     WireMainWindow();
     frmMainForm.window.Show();
     frmMainForm.window.RepaintNow();

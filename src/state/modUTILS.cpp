@@ -60,6 +60,14 @@ std::string Trimmed(std::string_view text) {
     return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
+char LowerCase(char character) {
+    return 'A' <= character && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+char UpperCase(char character) {
+    return 'a' <= character && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
+}
+
 std::string ZeroPadded(std::int64_t value, int width) {
     const auto columns = static_cast<std::size_t>(width);
     const std::string digits = std::string(columns - 1, '0') + std::to_string(value);

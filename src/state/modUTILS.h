@@ -28,6 +28,10 @@ namespace modUTILS {
 /// The text without the blanks at both of its ends.
 [[nodiscard]] std::string Trimmed(std::string_view text);
 
+/// An ASCII letter in small or in capital form; any other character as it is.
+[[nodiscard]] char LowerCase(char character);
+[[nodiscard]] char UpperCase(char character);
+
 /// The last `width` characters of `width` - 1 zeros followed by the number's decimal text: 7 in two is "07", 123 in two
 /// is "23".
 [[nodiscard]] std::string ZeroPadded(std::int64_t value, int width);

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include "platform/Services.h"
 #include "state/AppState.h"
 #include "state/RuntimeFailure.h"
 #include "support/Games.h"
@@ -252,6 +253,18 @@ TEST(NormalisedDatePattern, KeepsTheLettersBesideTheSeparators) {
     for (const PatternCase& pattern : patternCases) {
         EXPECT_EQ(NormalisedDatePattern(pattern.systemPattern), pattern.expected) << pattern.systemPattern;
     }
+}
+
+TEST(ProbeShortDate, NormalisesWhatTheSystemsFolderHas) {
+    appState.windowsDirectory = "settings/";
+    platform::services.shortDatePattern = [](const std::string& folder) {
+        return folder == "settings/" ? std::string("yyyy-MM-dd") : std::string();
+    };
+    EXPECT_EQ(ProbeShortDate(), "y-m-d");
+    appState.windowsDirectory = "elsewhere/";
+    EXPECT_EQ(ProbeShortDate(), "m/d/y");
+    platform::services = platform::Services();
+    support::ResetState();
 }
 
 RC_GTEST_PROP(NormalisedDatePattern, HasFiveCharactersWithOneSeparatorTwice, (const std::string& systemPattern)) {

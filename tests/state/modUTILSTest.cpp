@@ -128,6 +128,22 @@ TEST(Trimmed, TakesTheBlanksOffBothEndsOnly) {
     EXPECT_EQ(Trimmed(""), "");
 }
 
+TEST(LowerCase, ChangesTheLettersOfASCIIOnly) {
+    EXPECT_EQ(LowerCase('A'), 'a');
+    EXPECT_EQ(LowerCase('Z'), 'z');
+    for (const char kept : {'a', '@', '[', '0', ' ', '\xC4'}) {
+        EXPECT_EQ(LowerCase(kept), kept);
+    }
+}
+
+TEST(UpperCase, ChangesTheLettersOfASCIIOnly) {
+    EXPECT_EQ(UpperCase('a'), 'A');
+    EXPECT_EQ(UpperCase('z'), 'Z');
+    for (const char kept : {'A', '`', '{', '0', ' ', '\xE4'}) {
+        EXPECT_EQ(UpperCase(kept), kept);
+    }
+}
+
 TEST(ZeroPadded, PutsZerosInFront) {
     EXPECT_EQ(ZeroPadded(7, 2), "07");
     EXPECT_EQ(ZeroPadded(0, 3), "000");
