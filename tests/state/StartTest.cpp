@@ -7,6 +7,7 @@
 
 #include "platform/Application.h"
 #include "platform/Services.h"
+#include "platform/Toolkit.h"
 #include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "support/MainFormReset.h"
@@ -17,7 +18,8 @@ namespace {
 
 using platform::services;
 
-/// The start on a program directory of the test's own, without a toolkit.
+/// The start on a program directory of the test's own. Without a toolkit the window is never activated, so that nothing
+/// is loaded, also where the program directory is not the test's.
 class Starting : public testing::Test {
   protected:
     void SetUp() override {
@@ -29,9 +31,11 @@ class Starting : public testing::Test {
         services = platform::Services{};
         services.executableDirectory = [this] { return directory.Path(); };
         services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
+        platform::toolkit = nullptr;
     }
 
     void TearDown() override {
+        platform::toolkit = runningToolkit;
         services = platform::Services{};
         platform::SetApplicationTitle("Ballhaven");
         support::ResetMainForm();
@@ -39,6 +43,9 @@ class Starting : public testing::Test {
 
     support::TemporaryDirectory directory;
     std::vector<int> exitCodes;
+
+  private:
+    platform::Toolkit* const runningToolkit = platform::toolkit;
 };
 
 TEST_F(Starting, ASecondStartActivatesTheFirstInstanceAndTouchesNoFile) {
