@@ -1,5 +1,6 @@
 #include "platform/qt/MessageDialog.h"
 
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -23,6 +24,15 @@ QMessageBox::Icon IconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Takes an hourglass off for as long as it lives.
+class ArrowMeanwhile {
+  public:
+    ArrowMeanwhile() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~ArrowMeanwhile() { QGuiApplication::restoreOverrideCursor(); }
+    ArrowMeanwhile(const ArrowMeanwhile&) = delete;
+    ArrowMeanwhile& operator=(const ArrowMeanwhile&) = delete;
+};
+
 void NameButton(const QMessageBox& box, QMessageBox::StandardButton which, const char* name) {
     if (QAbstractButton* const button = box.button(which)) {
         button->setObjectName(QLatin1String(name));
@@ -45,6 +55,7 @@ BoxAnswer ShowMessageDialog(const MessageBoxRequest& request, QWidget* parent) {
     NameButton(box, QMessageBox::Ok, "ok");
     NameButton(box, QMessageBox::Yes, "yes");
     NameButton(box, QMessageBox::No, "no");
+    const ArrowMeanwhile arrow;
     const int pressed = box.exec();
     if (!asks) {
         return BoxAnswer::Ok;

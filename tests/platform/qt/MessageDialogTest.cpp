@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "platform/Pointer.h"
+
 namespace ballhaven::platform {
 namespace {
 
@@ -58,6 +60,19 @@ TEST(MessageDialog, ClosingAQuestionAnswersNoAndClosingANoticeOk) {
     EXPECT_EQ(AnswerBy(question, [](QMessageBox& box) { box.close(); }), BoxAnswer::No);
     EXPECT_EQ(AnswerBy(question, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }), BoxAnswer::No);
     EXPECT_EQ(AnswerBy(notice, [](QMessageBox& box) { box.close(); }), BoxAnswer::Ok);
+}
+
+TEST(MessageDialog, TakesTheHourglassOffForAsLongAsItIsOpen) {
+    ShowHourglass();
+    EXPECT_EQ(AnswerBy(notice,
+                       [](QMessageBox& box) {
+                           EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+                           Press(box, "ok");
+                       }),
+              BoxAnswer::Ok);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    ShowArrow();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST(MessageDialog, TakesTextForTextAndNotForMarkup) {
