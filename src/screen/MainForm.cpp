@@ -213,6 +213,7 @@ void SetUpButtonsAndPictures() {
 void SetUpGrids() {
     form.grdPlay.SetColumns(playColumns);
     form.grdPlay.AddPane(0, playColumns - 1);
+    form.grdPlay.Pane(0).locked = true;
     form.grdPlay.showsHeadings = false;
     form.grdPlay.rowHeight = playRowHeight;
 

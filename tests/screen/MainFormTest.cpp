@@ -202,6 +202,14 @@ TEST_F(TheMainForm, HasTheToolsAndHelpMenus) {
                                                     "mnuHelpArray(1) -", "mnuHelpArray(2) &About Ballhaven"}));
 }
 
+TEST_F(TheMainForm, LetsNothingBeTypedInThePlayBoardTheHotTableAndTheDates) {
+    for (platform::Grid* grid : {&frmMainForm.grdPlay, &frmMainForm.grdHot, &frmMainForm.grdHist}) {
+        grid->SetRowCount(1);
+        grid->GoTo(0, 0);
+        EXPECT_FALSE(grid->CanType(0)) << grid->name;
+    }
+}
+
 TEST_F(TheMainForm, ShowsTheLogInADatePaneAndAPickPane) {
     const platform::Grid& log = frmMainForm.grdHist;
     EXPECT_EQ(log.ColumnCount(), 11);
