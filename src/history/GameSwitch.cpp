@@ -48,7 +48,6 @@ void LoadDraws() {
     form.logLastColumn = appState.totalPicks;
     LoadHistory();
     BuildHistoryView();
-    form.grdHist.SetRowCount(form.logRowCount);
 }
 
 void ShowHotTableFromTheTop() {
