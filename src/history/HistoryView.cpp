@@ -91,4 +91,13 @@ void CompactHistory() {
     }
 }
 
+std::span<const std::int16_t> PicksOfDraw(int row) {
+    const Table& view = appState.historyView;
+    const int picks = std::min<int>(appState.totalPicks, view.Columns() - 1);
+    if (picks < 1 || !view.Has(0, row)) {
+        return {};
+    }
+    return view.Row(row).subspan(1, static_cast<std::size_t>(picks));
+}
+
 }  // namespace ballhaven

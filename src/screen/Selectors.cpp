@@ -15,6 +15,7 @@
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "statistics/HotNumbers.h"
+#include "statistics/HotTables.h"
 
 namespace ballhaven {
 
@@ -73,32 +74,12 @@ void SelectHistorySet() {
     ShowHotTableAnew();
 }
 
-/// Sets the caption of the chosen table and returns its last row.
-std::int16_t ShowCaptionOfChoice() {
-    switch (ShownHotTable()) {
-        case HotTable::HotNumbers:
-            ShowHotNumbersCaption();
-            return appState.hotNumberLast;
-        case HotTable::HotPairs:
-            ShowHotCaption("Hot Pairs");
-            return appState.hotPairLast;
-        case HotTable::PairedOnce:
-            ShowHotCaption("Paired once");
-            return appState.pairedOnceLast;
-        case HotTable::Repeaters:
-            ShowHotCaption("Hot Repeaters");
-            return appState.repeaterLast;
-        case HotTable::NoHitters:
-            ShowHotCaption("No Hitters");
-            return appState.noHitterLast;
-    }
-    return -1;
-}
-
 void SelectHotTable() {
     appState.hotTableChoice = modUTILS::ToInt16(form.cboList[2].Selected() + 1);
     ShowHotHeadings();
-    form.hotRowCount = modUTILS::ToInt16(ShowCaptionOfChoice() + 1);
+    ShowChosenHotCaption();
+    RefreshHotTable(ShownHotTable());
+    form.hotRowCount = modUTILS::ToInt16(LastRowOf(ShownHotTable()) + 1);
     form.grdHot.SetRowCount(form.hotRowCount);
     ShowHotTableAnew();
 }

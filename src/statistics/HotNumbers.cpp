@@ -1,6 +1,7 @@
 #include "statistics/HotNumbers.h"
 
 #include "screen/MainForm.h"
+#include "statistics/HotTables.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +14,7 @@ namespace ballhaven {
 namespace {
 
 /// Hits by pick value.
-using HitCounts = std::array<std::int16_t, 1001>;
+using HitCounts = std::array<std::int16_t, pickValues>;
 
 struct PickColumns {
     int first;
@@ -99,31 +100,27 @@ void CountHotNumbers() {
     }
 }
 
-/// Rebuilds the table on show from the new count, and gives the last row of it.
-int RebuildShownTable() {
-    switch (ShownHotTable()) {
-        case HotTable::HotNumbers:
-            ShowHotNumbersCaption();
-            return appState.hotNumberLast;
-        case HotTable::HotPairs:
-            return appState.hotPairLast;
-        case HotTable::PairedOnce:
-            return appState.pairedOnceLast;
-        case HotTable::Repeaters:
-            return appState.repeaterLast;
-        case HotTable::NoHitters:
-            return appState.noHitterLast;
+/// Builds the table on show from the new count.
+void RebuildShownTable() {
+    const HotTable shown = ShownHotTable();
+    if (shown == HotTable::HotNumbers) {
+        ShowHotNumbersCaption();
+    } else {
+        BuildHotTable(shown);
     }
-    return frmMainForm.hotRowCount - 1;
+    frmMainForm.hotRowCount = static_cast<std::int16_t>(LastRowOf(shown) + 1);
 }
 
 }  // namespace
 
 void ComputeHotTable() {
+    const bool isChosen = appState.hotTableChoice > 0;
     CountHotNumbers();
-    frmMainForm.hotRowCount = static_cast<std::int16_t>(RebuildShownTable() + 1);
+    if (isChosen) {
+        RebuildShownTable();
+    }
     frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
-    if (appState.hotTableChoice > 0) {
+    if (isChosen) {
         frmMainForm.grdHot.ReadAgain();
         frmMainForm.grdHot.GoTo(0, 2);
     }

@@ -7,6 +7,9 @@
 
 namespace ballhaven {
 
+/// Values that a pick can have: 0 to 1000.
+inline constexpr int pickValues = 1001;
+
 /// The five tables of `grdHot` by `hotTableChoice`.
 enum class HotTable : std::int16_t { HotNumbers = 1, HotPairs, PairedOnce, Repeaters, NoHitters };
 

@@ -8,6 +8,7 @@
 #include "platform/FileSystem.h"
 #include "screen/MainForm.h"
 #include "state/AppState.h"
+#include "statistics/HotNumbers.h"
 #include "support/qt/RunningProgram.h"
 
 namespace ballhaven {
@@ -320,6 +321,16 @@ TEST_F(Selectors, AClickOnAnOptionMarksEveryOtherTableAsToBeRebuilt) {
     EXPECT_TRUE(appState.hotPairStale && appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
 }
 
+TEST_F(Selectors, AClickOnAnOptionRebuildsTheTableOnShowAndLeavesTheOthersStale) {
+    ChooseEntry("cboList(2)", 2);
+    ChooseEntry("cboList(2)", 1);
+    EXPECT_EQ(HotRows(), (Texts{"1, 5: 10", "1, 2: 9", "1, 3: 9", "2, 3: 9", "2, 5: 9", "3, 5: 9"}));
+    ClickAt("optHot(0)", {6, 6});
+    EXPECT_EQ(HotRows(), (Texts{"1, 2: 9", "1, 3: 9", "2, 3: 9"}));
+    EXPECT_FALSE(appState.hotPairStale);
+    EXPECT_TRUE(appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
+}
+
 TEST_F(Selectors, AGameWithoutBonusHasNoOptions) {
     ChooseEntry("cboList(0)", 1);
     for (const char* option : {"optHot(0)", "optHot(1)", "optHot(2)"}) {
@@ -393,6 +404,107 @@ TEST_F(SelectorsOfALongHotTable, ChoosingATableScrollsItToItsTop) {
     Usable<QScrollBar>("grdHot.rows").setValue(17);
     ChooseEntry("cboList(2)", 0);
     EXPECT_EQ(frmMainForm.grdHot.FirstVisibleRow(), 0);
+}
+
+/// Twelve games of two numbers from 1 to 5: 1 and 2 in the first two, 3 and 4 in the ten that follow.
+class SelectorsOfTheHotTables : public support::RunningProgram {
+  protected:
+    void SetUp() override {
+        std::vector<Draw> draws;
+        for (int day = 1; day <= 12; ++day) {
+            draws.push_back({January(day), day <= 2 ? std::vector{1, 2} : std::vector{3, 4}});
+        }
+        Store({.mainPicks = 2, .high = 5, .draws = draws});
+        Start();
+    }
+
+    void Choose(HotTable table) const { ChooseEntry("cboList(2)", static_cast<int>(table) - 1); }
+    void ChooseLastTenGames() const { ChooseEntry("cboList(1)", 0); }
+
+    [[nodiscard]] std::string Caption() const { return *frmMainForm.grdHot.caption; }
+
+    /// All four columns of all rows that the hot table shows.
+    [[nodiscard]] Texts Rows() const {
+        Texts rows;
+        for (int row = 0; row < RowsShown("grdHot"); ++row) {
+            rows.push_back(CellText("grdHot", row, 0));
+            for (int column = 1; column < 4; ++column) {
+                const std::string text = CellText("grdHot", row, column);
+                rows.back() += text.empty() ? "" : " | " + text;
+            }
+        }
+        return rows;
+    }
+};
+
+TEST_F(SelectorsOfTheHotTables, EachTableIsShownWithItsRowsAndItsCaption) {
+    EXPECT_EQ(Rows(), (Texts{"3 | 10 | 83 | 1.2", "4 | 10 | 83 | 1.2", "1 | 2 | 16 | 6.0", "2 | 2 | 16 | 6.0"}));
+    Choose(HotTable::HotPairs);
+    EXPECT_EQ(Caption(), "Hot Pairs in last 12 games");
+    EXPECT_EQ(Rows(), (Texts{"3, 4 | 10 | 83 | 1.2", "1, 2 | 2 | 16 | 6.0"}));
+    Choose(HotTable::PairedOnce);
+    EXPECT_EQ(Caption(), "Paired once (none found)");
+    EXPECT_EQ(Rows(), Texts());
+    Choose(HotTable::Repeaters);
+    EXPECT_EQ(Caption(), "Hot Repeaters in last 12 games");
+    EXPECT_EQ(Rows(), (Texts{"3 | 9 | 75 | 1.3", "4 | 9 | 75 | 1.3", "1 | 1 | 8 | 12.0", "2 | 1 | 8 | 12.0"}));
+    Choose(HotTable::NoHitters);
+    EXPECT_EQ(Caption(), "No Hitters in last 12 games");
+    EXPECT_EQ(Rows(), (Texts{"5"}));
+}
+
+TEST_F(SelectorsOfTheHotTables, SwitchingToHotPairsAwayAndBackWithNothingChangedDoesNotRebuild) {
+    Choose(HotTable::HotPairs);
+    appState.hotPairTable(3, 0) = 11;  // a trace that a rebuild would wipe out
+    Choose(HotTable::HotNumbers);
+    Choose(HotTable::HotPairs);
+    EXPECT_EQ(CellText("grdHot", 0, 1), "11");
+}
+
+TEST_F(SelectorsOfTheHotTables, AStaleTableIsRebuiltWhenItIsChosenAndNotBefore) {
+    Choose(HotTable::HotPairs);
+    Choose(HotTable::HotNumbers);
+    ChooseLastTenGames();
+    EXPECT_TRUE(appState.hotPairStale);
+    EXPECT_EQ(appState.hotPairLast, 1);
+    Choose(HotTable::HotPairs);
+    EXPECT_FALSE(appState.hotPairStale);
+    EXPECT_EQ(Rows(), (Texts{"3, 4 | 10 | 100 | 1.0"}));
+}
+
+TEST_F(SelectorsOfTheHotTables, AnEmptyTableSaysSoWhenItIsBuiltAndTellsItsGamesWhenItIsChosenAgain) {
+    Choose(HotTable::PairedOnce);
+    EXPECT_EQ(Caption(), "Paired once (none found)");
+    Choose(HotTable::HotNumbers);
+    Choose(HotTable::PairedOnce);
+    EXPECT_EQ(Caption(), "Paired once in last 12 games");
+}
+
+TEST_F(SelectorsOfTheHotTables, WithHotPairsOnShowAnotherSetChangesTheRowsAndTheCaption) {
+    Choose(HotTable::HotPairs);
+    ChooseLastTenGames();
+    EXPECT_EQ(Rows(), (Texts{"3, 4 | 10 | 100 | 1.0"}));
+    EXPECT_EQ(Caption(), "Hot Pairs in last 10 games");
+}
+
+// Not a bug: REPEATERS-CAPTION-1 in docs/not-bugs.md.
+TEST_F(SelectorsOfTheHotTables, WithRepeatersOnShowAnotherSetChangesTheRowsAndLeavesTheCaption) {
+    Choose(HotTable::Repeaters);
+    ChooseLastTenGames();
+    EXPECT_EQ(Rows(), (Texts{"3 | 9 | 90 | 1.1", "4 | 9 | 90 | 1.1"}));
+    EXPECT_EQ(Caption(), "Hot Repeaters in last 12 games");
+    Choose(HotTable::Repeaters);
+    EXPECT_EQ(Caption(), "Hot Repeaters in last 10 games");
+}
+
+// Not a bug: NO-HITTERS-CAPTION-1 in docs/not-bugs.md.
+TEST_F(SelectorsOfTheHotTables, WithNoHittersOnShowAnotherSetChangesTheRowsAndLeavesTheCaption) {
+    Choose(HotTable::NoHitters);
+    ChooseLastTenGames();
+    EXPECT_EQ(Rows(), (Texts{"1", "2", "5"}));
+    EXPECT_EQ(Caption(), "No Hitters in last 12 games");
+    Choose(HotTable::NoHitters);
+    EXPECT_EQ(Caption(), "No Hitters in last 10 games");
 }
 
 }  // namespace

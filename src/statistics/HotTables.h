@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+#include "statistics/HotNumbers.h"
+
+namespace ballhaven {
+
+/// Builds a table anew from `hotNumberTable` and the view, and clears its stale flag. Hot Numbers, from which the
+/// others come, stays as `ComputeHotTable` left it. Raises the failures of the table's own routine.
+void BuildHotTable(HotTable table);
+
+/// Builds a table anew if it is stale. One that is not stays as it is, without looking at a single draw.
+void RefreshHotTable(HotTable table);
+
+/// The last row of a table, -1 where it has none.
+[[nodiscard]] std::int16_t LastRowOf(HotTable table);
+
+}  // namespace ballhaven
