@@ -32,8 +32,8 @@ std::vector<HotPair> FindHotPairs() {
             if (hits < fewestHits) {
                 continue;
             }
-            // QUIRK PAIR-LIMIT-1: one pair more than the work table takes ends the program. It is meant: the size is part
-            // of the table's design, and a list that was cut off there would pass for a whole one.
+            // QUIRK PAIR-LIMIT-1: one pair more than the work table takes ends the program. It is meant: the size is
+            // part of the table's design, and a list that was cut off there would pass for a whole one.
             if (std::ssize(pairs) == mostPairs) {
                 throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
             }

@@ -3,6 +3,7 @@
 #include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "support/MainFormReset.h"
+#include "support/MainScreen.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -315,6 +316,31 @@ TEST(CompactHistory, AFullHistoryStaysWhole) {
 
     EXPECT_EQ(appState.historyLast, historyRows - 1);
     EXPECT_EQ(appState.HistoryTable(1, historyRows - 1), historyRows - 1);
+}
+
+std::vector<int> PicksOf(int row) {
+    const auto picks = PicksOfDraw(row);
+    return {picks.begin(), picks.end()};
+}
+
+TEST(PicksOfDraw, AreTheColumnsOfARowBehindItsDate) {
+    support::StartWith(support::NumberGame().Picks(3).OldestFirst());
+    support::ShowDraws({{1, 2, 3}, {4, -1, 6}});
+
+    EXPECT_EQ(PicksOf(0), (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(PicksOf(1), (std::vector<int>{4, -1, 6}));
+}
+
+TEST(PicksOfDraw, EndWhereTheGameOrTheViewEnds) {
+    support::StartWith(support::NumberGame().Picks(3).OldestFirst());
+    support::ShowDraws({{1, 2, 3}});
+
+    appState.totalPicks = 2;
+    EXPECT_EQ(PicksOf(0), (std::vector<int>{1, 2}));
+    appState.totalPicks = 9;
+    EXPECT_EQ(PicksOf(0), (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(PicksOf(-1), std::vector<int>());
+    EXPECT_EQ(PicksOf(1000), std::vector<int>());
 }
 
 }  // namespace

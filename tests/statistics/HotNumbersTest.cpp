@@ -260,6 +260,40 @@ TEST(ComputeHotTable, HotNumbersAreCountedWhileAnotherTableIsOnShow) {
     EXPECT_NE(Caption(), "Hot Numbers in last 1 games");
 }
 
+TEST(ComputeHotTable, RebuildsTheShownTableWhetherItIsStaleOrNotAndNoOther) {
+    StartWith(NumberGame().Picks(2));
+    ShowDraws({{1, 2}, {1, 2}, {3, 4}});
+    MarkHotTablesStale();
+    Show(HotTable::HotPairs);
+
+    ComputeHotTable();
+    EXPECT_EQ(frmMainForm.hotRowCount, 1);
+    EXPECT_EQ(frmMainForm.grdHot.RowCount(), 1);
+    EXPECT_EQ(Caption(), "Hot Pairs in last 3 games");
+    EXPECT_FALSE(appState.hotPairStale);
+    EXPECT_TRUE(appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
+
+    appState.hotPairTable(1, 0) = 77;
+    ComputeHotTable();
+    EXPECT_EQ(appState.hotPairTable(1, 0), 1);
+}
+
+TEST(ComputeHotTable, GivesTheGridTheRowsOfWhicheverTableIsOnShow) {
+    StartWith(NumberGame().Picks(2).To(9));
+    ShowDraws({{1, 2}, {1, 2}, {3, 4}});
+    const std::vector<std::pair<HotTable, int>> rowCounts{{HotTable::HotNumbers, 4},
+                                                          {HotTable::HotPairs, 1},
+                                                          {HotTable::PairedOnce, 1},
+                                                          {HotTable::Repeaters, 2},
+                                                          {HotTable::NoHitters, 5}};
+    for (const auto& [table, rows] : rowCounts) {
+        Show(table);
+        ComputeHotTable();
+        EXPECT_EQ(frmMainForm.hotRowCount, rows) << static_cast<int>(table);
+        EXPECT_EQ(frmMainForm.grdHot.RowCount(), rows) << static_cast<int>(table);
+    }
+}
+
 TEST(ComputeHotTable, BeforeAnyTableIsChosenTheGridKeepsItsRowsAndItsPlace) {
     StartWith(NumberGame().Picks(2));
     ShowDraws({{1, 2}});
