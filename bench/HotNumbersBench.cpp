@@ -3,13 +3,11 @@
 #include "statistics/HotNumbers.h"
 
 #include <map>
-#include <memory>
-#include <stdexcept>
 
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
 
 #include "bench/BenchGames.h"
+#include "bench/PickDatabase.h"
 #include "state/AppState.h"
 
 namespace ballhaven::bench {
@@ -18,66 +16,7 @@ namespace {
 
 using HitsByPick = std::map<int, int>;
 
-/// The picks of `historyView` in a database in memory, with an index from which SQLite can count them in order.
-class PickDatabase {
-  public:
-    PickDatabase() {
-        sqlite3* opened = nullptr;
-        Check(sqlite3_open(":memory:", &opened));
-        connection.reset(opened);
-        Run("CREATE TABLE picks (draw INTEGER, pick INTEGER)");
-        Insert();
-        Run("CREATE INDEX pick_index ON picks (pick)");
-        count = Prepared("SELECT pick, COUNT(*) FROM picks GROUP BY pick");
-    }
-
-    /// Hands each pick with its hits to `take`.
-    template <typename Take>
-    void ForEachPick(const Take& take) {
-        while (sqlite3_step(count.get()) == SQLITE_ROW) {
-            take(sqlite3_column_int(count.get(), 0), sqlite3_column_int(count.get(), 1));
-        }
-        Check(sqlite3_reset(count.get()));
-    }
-
-  private:
-    struct Close {
-        void operator()(sqlite3* database) const { sqlite3_close(database); }
-        void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-    };
-    using Statement = std::unique_ptr<sqlite3_stmt, Close>;
-
-    static void Check(int result) {
-        if (result != SQLITE_OK) {
-            throw std::runtime_error(sqlite3_errstr(result));
-        }
-    }
-
-    void Run(const char* words) { Check(sqlite3_exec(connection.get(), words, nullptr, nullptr, nullptr)); }
-
-    [[nodiscard]] Statement Prepared(const char* words) {
-        sqlite3_stmt* statement = nullptr;
-        Check(sqlite3_prepare_v2(connection.get(), words, -1, &statement, nullptr));
-        return Statement(statement);
-    }
-
-    void Insert() {
-        Run("BEGIN");
-        const Statement insert = Prepared("INSERT INTO picks VALUES (?, ?)");
-        for (int draw = 0; draw <= appState.historyViewLast; ++draw) {
-            for (int column = 1; column <= appState.totalPicks; ++column) {
-                Check(sqlite3_bind_int(insert.get(), 1, draw));
-                Check(sqlite3_bind_int(insert.get(), 2, appState.historyView(column, draw)));
-                sqlite3_step(insert.get());
-                Check(sqlite3_reset(insert.get()));
-            }
-        }
-        Run("COMMIT");
-    }
-
-    std::unique_ptr<sqlite3, Close> connection;
-    Statement count;
-};
+constexpr const char* groupedCount = "SELECT pick, COUNT(*) FROM picks GROUP BY pick";
 
 HitsByPick CountOfTable() {
     HitsByPick hits;
@@ -89,7 +28,7 @@ HitsByPick CountOfTable() {
 
 HitsByPick CountOfDatabase(PickDatabase& database) {
     HitsByPick hits;
-    database.ForEachPick([&hits](int pick, int count) { hits[pick] = count; });
+    database.ForEachRow([&hits](const PickDatabase::Row& row) { hits[row[0]] = row[1]; });
     return hits;
 }
 
@@ -103,16 +42,13 @@ void Ours(benchmark::State& state) {
 
 void Rival(benchmark::State& state) {
     SwitchTo(firstGame);
-    PickDatabase database;
+    PickDatabase database(groupedCount);
     if (CountOfTable().empty() || CountOfTable() != CountOfDatabase(database)) {
         state.SkipWithError("The two counts differ");
         return;
     }
     for ([[maybe_unused]] const auto turn : state) {
-        database.ForEachPick([](int pick, int count) {
-            benchmark::DoNotOptimize(pick);
-            benchmark::DoNotOptimize(count);
-        });
+        database.ForEachRow([](PickDatabase::Row row) { benchmark::DoNotOptimize(row); });
     }
 }
 

@@ -3,6 +3,10 @@
 
 def works: [
     {name: "HotNumbers", time: 50,   text: "50 µs"},
+    {name: "HotPairs",   time: 1000, text: "1 ms"},
+    {name: "PairedOnce", time: 1000, text: "1 ms"},
+    {name: "Repeaters",  time: 1000, text: "1 ms"},
+    {name: "NoHitters",  time: 1000, text: "1 ms"},
     {name: "GameSwitch", time: 10,   text: "10 ms beside the flushes"},
     {name: "SavePlays",  ratio: 1.3, text: "1.3 times the rival"},
     {name: "Start",      ratio: 1.5, text: "1.5 times the rival"}
@@ -30,6 +34,11 @@ def time: "\(.real_time | shown) \(unit)";
          | "| `\(.name)` | \(.text) | \($ours | time) | \($rival | time) | \($ratio | shown)"
            + " | \(if $held then "yes" else "no" end) |"
      end),
+  (["HotPairs", "PairedOnce", "Repeaters", "NoHitters"]
+   | map($medians["\(.)/walk"] as $walk | select($walk) | "`\(.)` \($walk | time)")
+   | if length > 0 then "", "The plain walks: \(join(", "))." else empty end),
+  ($medians["HotPairs/beyond"] // empty
+   | "", "`HotPairs` where there are more pairs than it takes, up to the failure: \(time)."),
   ($medians["GameSwitch/ours"].flushes_ms // empty
    | "", "The flushes of the slot that a switch stores, which are not in its time: \(shown) ms."),
   ($medians["Start/text"] // empty
