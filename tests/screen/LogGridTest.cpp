@@ -427,6 +427,37 @@ TEST_F(LogGridOfABonusGame, ChecksABonusPickAgainstItsOwnPool) {
     ExpectCursor(datePane, 0, 0);
 }
 
+/// Ten numbers of 1 to 49, more than the pane of the picks is wide.
+class LogGridOfTenPicks : public LogGrid {
+  protected:
+    void SetUp() override {
+        Store({.mainPicks = 10, .draws = {{January(1), {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}}}});
+        Start();
+    }
+
+    /// Whether the whole cell that is being typed in is in sight.
+    [[nodiscard]] bool EditorIsInSight() const {
+        const auto& editor = Usable<QLineEdit>("grdHist.editor");
+        return editor.visibleRegion().boundingRect() == editor.rect();
+    }
+};
+
+TEST_F(LogGridOfTenPicks, AWholeDrawIsTypedWithTabsOnlyAndScrollsIntoSight) {
+    for (const char* pick : {"11", "12", "13", "14", "15", "16", "17", "18", "19", "20"}) {
+        Type(pick);
+        EXPECT_TRUE(EditorIsInSight()) << pick;
+        Press(Qt::Key_Tab);
+    }
+    ExpectCursor(datePane, 0, 0);
+    for (int column = 1; column <= 10; ++column) {
+        EXPECT_EQ(CellText("grdHist", 0, column), std::to_string(10 + column));
+    }
+    Press(Qt::Key_Tab);
+    Type("21");
+    ExpectCursor(pickPane, 0, 1);
+    EXPECT_TRUE(EditorIsInSight());
+}
+
 /// Two cards: the ace of hearts (1), the two of clubs (15), the three of diamonds (29) and the four of spades (43).
 class LogGridOfCards : public LogGrid {
   protected:
