@@ -39,7 +39,7 @@ void FindRows(std::span<const std::int16_t> picks, const RowsByPick& rows, std::
         }
     }
     std::ranges::sort(found);
-    found.erase(std::ranges::unique(found).begin(), found.end());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
 }
 
 }  // namespace
