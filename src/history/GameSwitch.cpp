@@ -135,14 +135,15 @@ void SwitchGame() {
 
 void RefreshHistory(std::int16_t date) {
     form.cmdColorHist.visible = false;
-    if (appState.historyDirty) {
-        SaveHistory(0);
-    }
-    MarkHotTablesStale();
     const bool isEmpty = appState.historyLast < 0;
     {
-        // The log does not report these moves: they would end the winners' display, which is for the user's own.
+        // A pick that is still being typed is taken now, and saved. The log does not report the moves: they would end
+        // the winners' display, which is for the user's own.
         const platform::GridPause pause(form.grdHist);
+        if (appState.historyDirty) {
+            SaveHistory(0);
+        }
+        MarkHotTablesStale();
         BuildHistoryView();
         ComputeHotTable();
         if (isEmpty) {
@@ -162,6 +163,7 @@ void RefreshHistory(std::int16_t date) {
 }
 
 void SaveWhatIsDirty() {
+    form.grdHist.EndEdit();
     if (appState.historyDirty) {
         SaveHistory(0);
     }

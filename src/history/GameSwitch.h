@@ -14,7 +14,7 @@ void SwitchGame();
 /// newest draw. Says so where the draw is not in the set, unless a new draw's date is being chosen.
 void RefreshHistory(std::int16_t date);
 
-/// Saves the history if it is dirty, then the plays if they are, under the current game.
+/// Ends an edit in the log, and saves the history if it is dirty, then the plays if they are, under the current game.
 void SaveWhatIsDirty();
 
 }  // namespace ballhaven

@@ -194,6 +194,28 @@ TEST_F(MainMenu, ANewOrderSavesTheChangedHistory) {
         << "the file keeps the order of its draws";
 }
 
+TEST_F(MainMenu, ANewOrderSavesAPickThatIsStillBeingTyped) {
+    ClickCell("grdHist", 0, 1);
+    Type("49");
+    ChooseFromMenu("mnuView", "mnuViewArray(1)");
+    EXPECT_EQ(CellText("grdHist", 2, 1), "49");
+    Close();
+    std::vector<Draw> draws = threeDraws;
+    draws[0].picks[0] = 49;
+    EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf(draws), directory.Read("GAME01.CDB")));
+}
+
+TEST_F(MainMenu, ANewOrderDropsARefusedPickThatIsStillBeingTyped) {
+    ClickCell("grdHist", 0, 1);
+    Type("50");
+    boxes.Expect("Ballhaven", "Number out of range for this lottery game", BoxButtons::Ok, BoxIcon::None);
+    ChooseFromMenu("mnuView", "mnuViewArray(1)");
+    EXPECT_EQ(boxes.Answered(), 1U);
+    EXPECT_EQ(EditorText("grdHist"), std::nullopt);
+    ExpectOrder("0", descending);
+    EXPECT_EQ(CellText("grdHist", 2, 1), "1");
+}
+
 TEST_F(MainMenu, TheOrderLastsUntilTheNextStart) {
     Click("cmdButton(5)");
     Close();
