@@ -53,8 +53,12 @@ void Load() {
 
 void Activate() {
     if (form.windowStarting || appState.gameDialogMode != 0) {
-        SaveWhatIsDirty();
-        SwitchGame();
+        {
+            // A pick that is still being typed must not reach the other game.
+            const platform::GridPause pause(form.grdHist);
+            SaveWhatIsDirty();
+            SwitchGame();
+        }
         AskToSetUpGame();
     }
     form.windowStarting = false;
@@ -79,7 +83,6 @@ void FollowHeight() {
 }
 
 void CloseDown() {
-    form.grdHist.EndEdit();
     SaveWhatIsDirty();
     platform::EndProcess();
 }

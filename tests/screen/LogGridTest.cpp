@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QWindow>
 
+#include "platform/Application.h"
 #include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
@@ -60,6 +61,20 @@ class LogGrid : public support::RunningProgram {
     }
 
     void ExpectRefusal() { boxes.Expect("Ballhaven", outOfRange, BoxButtons::Ok, BoxIcon::None); }
+
+    /// The game dialog has gone with another slot in the list of games, which is to be loaded.
+    void LoadSlotByActivation(int slot) {
+        frmMainForm.gameLoading = true;
+        frmMainForm.cboList[0].Select(slot - 1);
+        frmMainForm.gameLoading = false;
+        appState.gameDialogMode = 2;
+        boxes.Expect(
+            "Ballhaven",
+            "You need to configure game number " + std::to_string(slot) + ".\nWould you like to set up the game now?",
+            BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::No);
+        frmMainForm.window.activate();
+        platform::ProcessPendingEvents();
+    }
 
     void ExpectFile(const std::vector<Draw>& expected) const {
         EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf(expected), directory.Read("GAME01.CDB")));
@@ -277,6 +292,27 @@ TEST_F(LogGrid, ARefusedPickThatIsStillBeingTypedIsNotSavedAtTheEnd) {
     Close();
     EXPECT_EQ(boxes.Answered(), 1U);
     EXPECT_EQ(exitCodes, std::vector<int>{0});
+    ExpectFile(Days(5));
+}
+
+TEST_F(LogGrid, APickThatIsStillBeingTypedStaysInItsGameWhenAnotherOneIsLoaded) {
+    ClickCell("grdHist", 1, 3);
+    Type("44");
+    LoadSlotByActivation(2);
+    EXPECT_EQ(RowsShown("grdHist"), 0);
+    EXPECT_EQ(EditorText("grdHist"), std::nullopt);
+    std::vector<Draw> expected = Days(5);
+    expected[1].picks[2] = 44;
+    ExpectFile(expected);
+}
+
+TEST_F(LogGrid, ARefusedPickThatIsStillBeingTypedIsDroppedWhenAnotherGameIsLoaded) {
+    ClickCell("grdHist", 1, 3);
+    Type("99");
+    ExpectRefusal();
+    LoadSlotByActivation(2);
+    EXPECT_EQ(boxes.Answered(), 2U);
+    EXPECT_EQ(EditorText("grdHist"), std::nullopt);
     ExpectFile(Days(5));
 }
 
