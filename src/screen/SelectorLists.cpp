@@ -15,10 +15,6 @@ namespace ballhaven {
 
 namespace {
 
-constexpr int smallestHistorySet = 10;
-constexpr int largestHistorySet = 1000;
-constexpr int historySetStep = 10;
-
 /// How `grdHot` presents a table.
 struct HotTableHead {
     std::string_view captionWords;

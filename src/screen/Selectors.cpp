@@ -23,9 +23,6 @@ namespace {
 
 MainForm& form = frmMainForm;
 
-constexpr int historySetStep = 10;
-constexpr int allDraws = 1000;
-
 bool IsFilling() {
     return form.windowStarting || form.gameLoading;
 }
@@ -57,7 +54,7 @@ void SelectGame() {
 
 void StoreHistorySet() {
     const int size = appState.historySetSize;
-    SetFieldValue(appState.gameRecord, gameField::historySet, size >= allDraws ? 0 : size);
+    SetFieldValue(appState.gameRecord, gameField::historySet, size >= largestHistorySet ? 0 : size);
     SaveGameRecord(appState.currentGame);
 }
 

@@ -11,6 +11,12 @@ namespace ballhaven {
 
 inline constexpr int gameSlots = 20;
 inline constexpr int historyRows = 1000;
+
+/// The history sets that can be chosen: 10, 20, and so on to 1000, which stands for all draws.
+inline constexpr int smallestHistorySet = 10;
+inline constexpr int largestHistorySet = 1000;
+inline constexpr int historySetStep = 10;
+
 inline constexpr int playCount = 5000;
 inline constexpr int picksPerPlay = 10;
 inline constexpr int chosenPicks = 100;
@@ -58,7 +64,7 @@ struct AppState {
     std::int16_t bonusHigh = 0;
     bool duplicatesAllowed = false;
     bool orderMatters = false;
-    std::int16_t historySetSize = 0;    ///< 1000 stands for all
+    std::int16_t historySetSize = 0;    ///< `largestHistorySet` stands for all
     std::int16_t historySortOrder = 0;  ///< 0 the newest draw first, else the oldest
     std::int16_t slipColumns = 0;       ///< of a pick grid: 9 in a number game, 6 in a card game
     std::int16_t gameDialogMode = 0;    ///< 0 none, 1 adding a game, 2 altering one

@@ -15,8 +15,6 @@ constexpr int gameTableRecords = 1 + gameSlots;
 constexpr int systemRecordNumber = 1;
 constexpr std::string_view createdSystemRecord = "01/1/1/000000";
 
-constexpr int smallestHistorySet = 10;
-constexpr int largestHistorySet = 1000;
 constexpr int lowestCard = 1;
 constexpr int highestCard = 52;
 
