@@ -30,7 +30,6 @@ struct QtApplication::Parts {
 QtApplication::QtApplication(int& argc, char** argv) : parts(std::make_unique<Parts>(argc, argv)) {
     TakePictures();
     QApplication::setApplicationName(ToQString(ApplicationTitle()));
-    QApplication::setApplicationDisplayName(ToQString(ApplicationTitle()));
     QApplication::setDesktopFileName(QStringLiteral("ballhaven"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/application.svg")));
     InstallAppearance(parts->application);

@@ -12,7 +12,13 @@ void QtToolkit::Build(Window& window) {
 }
 
 void QtToolkit::TearDown(Window& window) {
-    static_cast<WindowWidget*>(window.view)->TearDown();
+    auto* const widget = static_cast<WindowWidget*>(window.view);
+    widget->TearDown();
+    if (processing) {
+        tornDown.push_back(widget);
+    } else {
+        widget->deleteLater();
+    }
 }
 
 void QtToolkit::ShowHourglass(bool shown) {
@@ -27,8 +33,18 @@ void QtToolkit::ShowHourglass(bool shown) {
     }
 }
 
+// A window that is torn down meanwhile is not deleted yet: the handler that lets the events run may be one of its own.
 void QtToolkit::ProcessPendingEvents() {
+    const bool outermost = !processing;
+    processing = true;
     QCoreApplication::processEvents();
+    if (outermost) {
+        processing = false;
+        for (QObject* widget : tornDown) {
+            widget->deleteLater();
+        }
+        tornDown.clear();
+    }
 }
 
 }  // namespace ballhaven::platform

@@ -3,6 +3,10 @@
 #include "platform/Toolkit.h"
 #include "platform/qt/ActivationOrder.h"
 
+#include <vector>
+
+class QObject;
+
 namespace ballhaven::platform {
 
 /// The toolkit over Qt's widgets.
@@ -19,6 +23,8 @@ class QtToolkit final : public Toolkit {
   private:
     ActivationOrder activations;
     bool hourglassShown = false;
+    bool processing = false;         ///< pending events are being handled
+    std::vector<QObject*> tornDown;  ///< the widgets of windows that went meanwhile
 };
 
 }  // namespace ballhaven::platform

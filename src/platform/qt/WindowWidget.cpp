@@ -108,6 +108,7 @@ void WindowWidget::Show() {
 }
 
 void WindowWidget::ShowModal() {
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setWindowModality(Qt::ApplicationModal);
     if (QWidget* const front = activations.Front()) {
         winId();
@@ -150,7 +151,6 @@ void WindowWidget::TearDown() {
     if (QWidget* const next = activations.Front(); next != nullptr && wasActive) {
         next->activateWindow();
     }
-    deleteLater();
 }
 
 // The window goes when the program has unloaded it, not before.

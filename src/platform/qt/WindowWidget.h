@@ -22,8 +22,8 @@ class WindowWidget final : public QMainWindow, public WindowView {
     void ShowInFront() override;
     void RepaintNow() override;
 
-    /// Parts the window and its controls from their widgets, hides the widget and lets it be deleted when nothing of
-    /// it runs any more. Ends a modal showing.
+    /// Parts the window and its controls from their widgets and hides the widget, whose deletion is the caller's: one
+    /// of its handlers may be running. Ends a modal showing.
     void TearDown();
 
   protected:
