@@ -88,6 +88,9 @@ class TextBox : public Control {
     Property<int> maxLength{*this, 0};  ///< in characters; 0 for no limit
     Property<bool> locked{*this, false};
     Property<PointerShape> pointer{*this, PointerShape::Default};
+
+    /// A character key going down, '\r' for Enter; true when it has been served and the box does nothing with it.
+    std::function<bool(char key)> keyPress;
 };
 
 /// A button with a caption, a picture or both.

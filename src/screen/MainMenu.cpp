@@ -1,5 +1,6 @@
 #include "screen/MainMenu.h"
 
+#include "games/GameSlots.h"
 #include "history/GameSwitch.h"
 #include "platform/MessageBox.h"
 #include "platform/Pointer.h"
@@ -61,6 +62,9 @@ void RunFromToolbar(const platform::MenuItem& entry) {
 
 void WireMainMenu() {
     form.mnuFileArray[2].click = [] { form.window.Unload(); };
+    form.mnuEditArray[0].click = AddGame;
+    form.mnuEditArray[1].click = DeleteGame;
+    form.mnuEditArray[2].click = AlterGame;
     form.mnuEditArray[7].click = EraseAllPlaySlips;
     form.mnuViewArray[0].click = [] { OrderLog(1); };
     form.mnuViewArray[1].click = [] { OrderLog(0); };

@@ -3,6 +3,7 @@
 #include <exception>
 #include <string>
 
+#include "games/GameSlots.h"
 #include "history/GameSwitch.h"
 #include "platform/Application.h"
 #include "platform/Pointer.h"

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "games/GameSlots.h"
 #include "history/GameSwitch.h"
 #include "platform/Application.h"
-#include "platform/MessageBox.h"
 #include "platform/Pointer.h"
 #include "screen/GamePresentation.h"
 #include "screen/MainForm.h"
@@ -108,20 +108,6 @@ void WireSelectors() {
     form.cboList[2].change = [] { Answer(SelectHotTable); };
     for (std::size_t i = 0; i < form.optHot.size(); ++i) {
         form.optHot[i].click = [i] { ChoosePicksToCount(static_cast<int>(i)); };
-    }
-}
-
-void AskToSetUpGame() {
-    if (modUTILS::Trimmed(form.cboList[0].Text()) != undefinedGameName) {
-        return;
-    }
-    const std::string slot = std::to_string(form.cboList[0].Selected() + 1);
-    const std::string question =
-        "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
-    if (platform::ShowMessageBox(question, platform::BoxButtons::YesNo, platform::BoxIcon::Question, "Ballhaven") ==
-        platform::BoxAnswer::Yes) {
-        appState.gameDialogMode = 1;
-        appState.gameDialogSlot = appState.currentGame;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "games/GameDialog.h"
 #include "platform/Application.h"
 #include "platform/Pointer.h"
 #include "platform/Services.h"
@@ -35,6 +36,7 @@ void StartProgram() {
     appState.windowsDirectory = platform::WithSeparator(platform::services.systemDirectory());
     appState.shortDateFormat = ProbeShortDate();
     WireMainWindow();
+    WireGameDialog();
     frmMainForm.window.Show();
     frmMainForm.window.RepaintNow();
     platform::ShowArrow();

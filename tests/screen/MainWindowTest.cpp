@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "games/NewGameForm.h"
 #include "history/HistoryFile.h"
 #include "platform/FileSystem.h"
 #include "platform/Services.h"
@@ -87,8 +88,14 @@ TEST_F(MainWindow, ItsFirstActivationLoadsTheGameAndOnlyThenAsksToSetItUp) {
     EXPECT_EQ(appState.gameDialogMode, 0);
 }
 
-TEST_F(MainWindow, YesToTheQuestionMakesTheDialogDueForTheGame) {
+TEST_F(MainWindow, YesToTheQuestionOpensTheDialogForTheGame) {
+    frmNewGame.window.activate = [] { frmNewGame.window.Unload(); };
+    bool opened = false;
+    frmNewGame.window.load = [&opened] { opened = true; };
     Activate(BoxAnswer::Yes);
+    frmNewGame.window.activate = nullptr;
+    frmNewGame.window.load = nullptr;
+    EXPECT_TRUE(opened);
     EXPECT_EQ(appState.gameDialogMode, 1);
     EXPECT_EQ(appState.gameDialogSlot, 1);
 }

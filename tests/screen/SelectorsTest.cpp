@@ -169,12 +169,16 @@ TEST_F(Selectors, ANeverUsedSlotIsShownFirstAndOnlyThenAskedAboutAndNoLeavesItCu
     EXPECT_EQ(RecordColumns(0, 1, 2), "03");
 }
 
-TEST_F(Selectors, YesMakesTheDialogDueForTheSlot) {
+TEST_F(Selectors, YesOpensTheDialogForTheSlot) {
     boxes.Expect("Ballhaven", setUpSlot3, BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::Yes);
+    InGameDialog([this] {
+        EXPECT_EQ(appState.currentGame, 3);
+        EXPECT_EQ(appState.gameDialogMode, 1);
+        EXPECT_EQ(appState.gameDialogSlot, 3);
+        ClickToClose("cmdNewGame(0)");
+    });
     ChooseEntry("cboList(0)", 2);
     EXPECT_EQ(appState.currentGame, 3);
-    EXPECT_EQ(appState.gameDialogMode, 1);
-    EXPECT_EQ(appState.gameDialogSlot, 3);
 }
 
 TEST_F(Selectors, ASetOf1000IsStoredAsThreeZerosAndOneOf50WithALeadingZero) {

@@ -1,5 +1,7 @@
 #include "platform/qt/TextBoxWidget.h"
 
+#include <QKeyEvent>
+
 #include "platform/qt/Conversions.h"
 
 namespace ballhaven::platform {
@@ -35,6 +37,17 @@ void TextBoxWidget::Refresh() {
         const int position = cursorPosition();
         setText(wanted);
         setCursorPosition(position);
+    }
+}
+
+void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
+    const std::string key = FromQString(event->text());
+    bool served = false;
+    if (box.keyPress && key.size() == 1) {
+        Report([&] { served = box.keyPress(key.front()); });
+    }
+    if (!served) {
+        ControlWidget::keyPressEvent(event);
     }
 }
 

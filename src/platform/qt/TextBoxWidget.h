@@ -13,6 +13,9 @@ class TextBoxWidget final : public ControlWidget<QLineEdit> {
     TextBoxWidget(TextBox& shownBox, QWidget* parent);
     void Refresh() override;
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     TextBox& box;
 };

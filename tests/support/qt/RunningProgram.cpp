@@ -8,7 +8,11 @@
 #include <QTest>
 #include <QWindow>
 #include <cstdlib>
+#include <exception>
+#include <memory>
+#include <utility>
 
+#include "games/NewGameForm.h"
 #include "history/HistoryFile.h"
 #include "platform/Application.h"
 #include "platform/FileSystem.h"
@@ -37,6 +41,14 @@ void ForgetMainForm() {
     frmMainForm.window.controls.clear();
     frmMainForm.window.menus.clear();
     frmMainForm.window.timers.clear();
+}
+
+/// The game dialog as it is when the process starts.
+void ForgetNewGameForm() {
+    frmNewGame.window.unload = nullptr;
+    frmNewGame.window.Unload();
+    std::destroy_at(&frmNewGame);
+    std::construct_at(&frmNewGame);
 }
 
 void PressWindow(const QWidget& widget, QPoint place) {
@@ -91,6 +103,7 @@ std::string HistoryFileOf(const std::vector<Draw>& draws) {
 
 RunningProgram::RunningProgram() : servicesBefore(platform::services) {
     ForgetMainForm();
+    ForgetNewGameForm();
     appState.programDirectory = directory.Path();
     platform::services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
     platform::services.executableDirectory = [this] { return directory.Path(); };
@@ -98,16 +111,13 @@ RunningProgram::RunningProgram() : servicesBefore(platform::services) {
     platform::services.shortDatePattern = [](const std::string&) { return std::string("M/d/yyyy"); };
     platform::services.earlierInstanceRuns = [] { return false; };
     platform::fileSystem.flush = [](int) { return 0; };  // waiting for the disk takes most of the time
-    QObject::connect(&modalWindows, &QTimer::timeout, [] {
-        if (QWidget* const window = QApplication::activeModalWidget()) {
-            ADD_FAILURE() << "A modal window: " << window->objectName().toStdString();
-            window->close();
-        }
-    });
+    QObject::connect(&modalWindows, &QTimer::timeout, [this] { ServeModalWindow(); });
     modalWindows.start(modalWindowInterval);
 }
 
 RunningProgram::~RunningProgram() {
+    EXPECT_TRUE(dialogActs.empty()) << "The game dialog did not open.";
+    ForgetNewGameForm();
     frmMainForm.window.unload = nullptr;
     frmMainForm.window.Unload();
     Settle();
@@ -161,6 +171,57 @@ void RunningProgram::Close() {
     Settle();
 }
 
+void RunningProgram::ServeModalWindow() {
+    QWidget* const window = QApplication::activeModalWidget();
+    if (window == nullptr || acting) {
+        return;
+    }
+    if (window == dynamic_cast<QWidget*>(frmNewGame.window.view)) {
+        if (frmNewGame.filling) {
+            return;  // not activated yet
+        }
+        if (!dialogActs.empty()) {
+            ActInGameDialog(*window);
+            return;
+        }
+    }
+    ADD_FAILURE() << "A modal window: " << window->objectName().toStdString();
+    window->close();
+}
+
+void RunningProgram::ActInGameDialog(QWidget& dialog) {
+    const std::function<void()> acts = std::move(dialogActs.front());
+    dialogActs.pop_front();
+    acting = true;
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    try {
+        acts();
+    } catch (const std::exception& missing) {
+        ADD_FAILURE() << missing.what();  // it must not travel through the toolkit
+    }
+    acting = false;
+}
+
+void RunningProgram::InGameDialog(std::function<void()> acts) {
+    dialogActs.push_back(std::move(acts));
+}
+
+QWidget& RunningProgram::GameDialog() const {
+    auto* const window = dynamic_cast<QWidget*>(frmNewGame.window.view);
+    if (window == nullptr) {
+        throw std::runtime_error("the game dialog is not open");
+    }
+    return *window;
+}
+
+std::vector<QWidget*> RunningProgram::OpenWindows() const {
+    std::vector<QWidget*> windows = {&MainWindow()};
+    if (frmNewGame.window.view != nullptr) {
+        windows.push_back(&GameDialog());
+    }
+    return windows;
+}
+
 QWidget& RunningProgram::MainWindow() const {
     auto* const window = dynamic_cast<QWidget*>(frmMainForm.window.view);
     if (window == nullptr) {
@@ -175,6 +236,11 @@ void RunningProgram::Click(const char* name) const {
 
 void RunningProgram::ClickAt(const char* name, QPoint place) const {
     PressWindow(Usable(name), place);
+}
+
+// Without handling events meanwhile: those that come of the closing are for the loop in which the window was opened.
+void RunningProgram::ClickToClose(const char* button) const {
+    QTest::mouseClick(&Usable(button), Qt::LeftButton);
 }
 
 void RunningProgram::ChooseEntry(const char* list, int entry) const {

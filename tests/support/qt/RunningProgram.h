@@ -8,6 +8,8 @@
 #include <QTableView>
 #include <QTimer>
 #include <QWidget>
+#include <deque>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -43,8 +45,8 @@ struct StoredGame {
 extern const RecordFormat historyFileFormat;
 
 /// The program on a directory of its own, used as a person uses it: every widget is found by its name, must be in sight
-/// and switched on, and is then clicked at its place in the window, or typed into. A modal window fails the test and is
-/// closed, so that nothing hangs.
+/// and switched on, and is then clicked at its place in the window, or typed into. A modal window that the test does
+/// not expect, or that it leaves open, fails the test and is closed, so that nothing hangs.
 class RunningProgram : public ::testing::Test {
   protected:
     RunningProgram();
@@ -64,14 +66,22 @@ class RunningProgram : public ::testing::Test {
 
     [[nodiscard]] QWidget& MainWindow() const;
 
-    /// The widget of a name, which must be there; a hidden one too.
+    /// What the user does in the game dialog when it opens next, up to its closing. A dialog without such acts is one
+    /// that the test does not expect; acts for which none has opened fail the test at its end.
+    void InGameDialog(std::function<void()> acts);
+
+    /// The game dialog, which must be open.
+    [[nodiscard]] QWidget& GameDialog() const;
+
+    /// The widget of a name in an open window, which must be there; a hidden one too.
     template <typename Widget = QWidget>
     [[nodiscard]] Widget& Find(const char* name) const {
-        auto* const found = MainWindow().findChild<Widget*>(QString::fromLatin1(name));
-        if (found == nullptr) {
-            throw std::runtime_error(std::string("no such widget: ") + name);
+        for (const QWidget* window : OpenWindows()) {
+            if (auto* const found = window->findChild<Widget*>(QString::fromLatin1(name))) {
+                return *found;
+            }
         }
-        return *found;
+        throw std::runtime_error(std::string("no such widget: ") + name);
     }
 
     /// The widget of a name, which must be in sight and switched on.
@@ -86,6 +96,9 @@ class RunningProgram : public ::testing::Test {
     /// Clicks a widget in its middle, or at a place of it.
     void Click(const char* name) const;
     void ClickAt(const char* name, QPoint place) const;
+
+    /// Clicks the button that closes a modal window, as the last thing done in it.
+    void ClickToClose(const char* button) const;
 
     /// Opens a drop-down list and clicks an entry.
     void ChooseEntry(const char* list, int entry) const;
@@ -133,11 +146,16 @@ class RunningProgram : public ::testing::Test {
     std::vector<std::string> saved;
 
   private:
+    [[nodiscard]] std::vector<QWidget*> OpenWindows() const;
+    void ServeModalWindow();
+    void ActInGameDialog(QWidget& dialog);
     [[nodiscard]] QTableView& PaneOf(const char* grid, int column, int& columnInPane) const;
     [[nodiscard]] QImage CellImage(const char* grid, int row, int column) const;
 
     const platform::Services servicesBefore;
     QTimer modalWindows;
+    std::deque<std::function<void()>> dialogActs;
+    bool acting = false;
 
   protected:
     MessageScript boxes;

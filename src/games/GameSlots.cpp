@@ -1,0 +1,139 @@
+#include "games/GameSlots.h"
+
+#include <algorithm>
+#include <string>
+
+#include "games/NewGameForm.h"
+#include "history/GameSwitch.h"
+#include "history/HistoryFile.h"
+#include "platform/MessageBox.h"
+#include "platform/Pointer.h"
+#include "plays/PlayFile.h"
+#include "plays/PlayMethodCode.h"
+#include "screen/MainForm.h"
+#include "screen/SelectorLists.h"
+#include "state/AppState.h"
+#include "state/GameRecordColumns.h"
+#include "state/GameTable.h"
+#include "state/modUTILS.h"
+#include "wheels/ShuffleFile.h"
+
+namespace ballhaven {
+
+namespace {
+
+constexpr int addingGame = 1;
+constexpr int alteringGame = 2;
+
+bool IsCurrentGameUndefined() {
+    return modUTILS::Trimmed(frmMainForm.cboList[0].Text()) == undefinedGameName;
+}
+
+/// The first slot without a game, 0 if there is none.
+int FirstFreeSlot() {
+    // QUIRK UNDEFINED-NAME-1: a game whose name begins with "un-defined" counts as a free slot, and its name is not
+    // offered for alteration. It is meant: the name alone tells a free slot, so that a slot is freed by its name.
+    // Comparing all 20 columns would keep such games, but would take slots freed by hand for games.
+    for (int slot = 1; slot <= gameSlots; ++slot) {
+        if (GameName(ReadGameRecord(slot)).starts_with(undefinedGameName)) {
+            return slot;
+        }
+    }
+    return 0;
+}
+
+/// Opens the dialog on a slot; the dialog's load goes over the game variables, so what is dirty is saved before it.
+void OpenGameDialog(int slot, int mode) {
+    SaveWhatIsDirty();
+    appState.gameDialogSlot = modUTILS::ToInt16(slot);
+    appState.gameDialogMode = modUTILS::ToInt16(mode);
+    frmNewGame.window.ShowModal();
+}
+
+// QUIRK DELETE-GAME-1: plays are wiped in the slots of the game's picks only, and of the chosen picks only the main
+// list. Picks from a time when the game had more of them, and the chosen bonus picks, come back when a game with so
+// many picks, or with a bonus, is set up in the slot. It is meant: a game wipes what it can show, and what it cannot
+// show belongs to rules that may be set up again.
+void WipePlays() {
+    const int slots = std::min<int>(appState.totalPicks, picksPerPlay);
+    for (int play = 1; play <= playCount; ++play) {
+        for (int slot = 1; slot <= slots; ++slot) {
+            appState.PlayTable(mainPicks, play, slot) = -1;
+            appState.PlayTable(bonusPicks, play, slot) = -1;
+        }
+        appState.PlayTable(mainPicks, play, 0) = byHand;
+    }
+}
+
+void WipeChosenPicks() {
+    for (int slot = 1; slot <= chosenPicks; ++slot) {
+        appState.ShuffleTable(mainPicks, slot) = -1;
+    }
+}
+
+void WipeGame() {
+    appState.HistoryTable = Table(appState.totalPicks + 1, historyRows, -1);
+    SaveHistory(1);
+    WipePlays();
+    appState.playsDirty = false;
+    SavePlayFile();
+    WipeChosenPicks();
+    SaveShuffleFile();
+    appState.gameRecord = BuildDefaultGameRecord(appState.currentGame, 0);
+    SaveGameRecord(appState.currentGame);
+}
+
+}  // namespace
+
+void AddGame() {
+    if (IsCurrentGameUndefined()) {
+        OpenGameDialog(appState.currentGame, addingGame);
+        return;
+    }
+    const int slot = FirstFreeSlot();
+    if (slot == 0) {
+        platform::ShowMessageBox("You already have 20 games configured.\nYou must first delete an existing game.",
+                                 platform::BoxButtons::Ok, platform::BoxIcon::None, "Ballhaven");
+        return;
+    }
+    OpenGameDialog(slot, addingGame);
+}
+
+// QUIRK GAME-FEWER-PICKS-1: an alteration touches no draws. With fewer picks the file keeps the columns that the game
+// no longer has until the draws are next saved, and loses them then. It is meant: until that save a wrong alteration
+// can be taken back. Writing the draws here would lose their last picks at once.
+void AlterGame() {
+    OpenGameDialog(appState.currentGame, alteringGame);
+}
+
+void DeleteGame() {
+    platform::ShowArrow();
+    if (platform::ShowMessageBox("Delete This Game?\n\nAll data will be ERASED!", platform::BoxButtons::YesNo,
+                                 platform::BoxIcon::Critical, "Ballhaven") == platform::BoxAnswer::No) {
+        return;
+    }
+    platform::ShowHourglass();
+    {
+        // A pick that is still being typed must not reach the emptied game.
+        const platform::GridPause pause(frmMainForm.grdHist);
+        WipeGame();
+        SwitchGame();
+    }
+    ListGames();
+    platform::ShowArrow();
+}
+
+void AskToSetUpGame() {
+    if (!IsCurrentGameUndefined()) {
+        return;
+    }
+    const std::string slot = std::to_string(frmMainForm.cboList[0].Selected() + 1);
+    const std::string question =
+        "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
+    if (platform::ShowMessageBox(question, platform::BoxButtons::YesNo, platform::BoxIcon::Question, "Ballhaven") ==
+        platform::BoxAnswer::Yes) {
+        OpenGameDialog(appState.currentGame, addingGame);
+    }
+}
+
+}  // namespace ballhaven

@@ -1,0 +1,85 @@
+#include "support/RulesDialog.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "games/GameRules.h"
+#include "platform/FileSystem.h"
+#include "state/GameTable.h"
+
+namespace ballhaven::support {
+
+namespace {
+
+constexpr int gameRecordBytes = 64;
+
+void ForgetDialog() {
+    std::destroy_at(&frmNewGame);
+    std::construct_at(&frmNewGame);
+}
+
+void Answer(GameList list, void (*change)()) {
+    ListOf(list).change = [change] {
+        if (!frmNewGame.filling) {
+            change();
+        }
+    };
+}
+
+}  // namespace
+
+void Choose(GameList list, int entry) {
+    ListOf(list).SelectByUser(entry);
+}
+
+void ChooseText(GameList list, const char* text) {
+    const auto& entries = ListOf(list).Entries();
+    const auto entry = std::ranges::find(entries, text);
+    ASSERT_NE(entry, entries.end()) << "no entry " << text << " in list " << list;
+    Choose(list, static_cast<int>(entry - entries.begin()));
+}
+
+void TypeName(const char* name) {
+    frmNewGame.txtNewGame[0].text = std::string(name);
+}
+
+std::string SavedRecord() {
+    TakeGameRules();
+    SaveGameRecord(appState.gameDialogSlot);
+    return appState.gameRecord;
+}
+
+RulesDialog::RulesDialog() {
+    platform::fileSystem.flush = [](int) { return 0; };  // waiting for the disk takes most of the time
+    ForgetDialog();
+    Answer(gameTypeList, ChangeGameType);
+    Answer(mainCountList, ChangeMainCount);
+    Answer(bonusCountList, ChangeBonusCount);
+    Answer(duplicatesList, RefreshHighestLists);
+    Answer(mainLowList, RefreshHighestLists);
+}
+
+RulesDialog::~RulesDialog() {
+    ForgetDialog();
+    platform::fileSystem = platform::SystemFiles();
+}
+
+void RulesDialog::Open(const std::string& record) {
+    OpenGameTable();
+    appState.currentGame = 1;
+    appState.gameDialogSlot = 1;
+    appState.gameRecord = record;
+    SaveGameRecord(1);
+    LayOutNewGameForm();
+    LoadGameRecord(1);
+    frmNewGame.loading = true;
+    FillGameDialog();
+    frmNewGame.loading = false;
+    frmNewGame.filling = false;
+}
+
+std::string RulesDialog::Stored(int slot) const {
+    return directory.Read("LOTTOSYS").substr(static_cast<std::size_t>(slot * gameRecordBytes), gameRecordBytes);
+}
+
+}  // namespace ballhaven::support
