@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -27,6 +28,11 @@ struct Services {
     /// there is none.
     std::function<std::string(const std::string& systemDirectory)> shortDatePattern = [](const std::string&) {
         return std::string();
+    };
+
+    /// The current date where the user is.
+    std::function<std::chrono::year_month_day()> today = [] {
+        return std::chrono::year{1984} / std::chrono::January / 1;
     };
 
     /// Whether an earlier instance of the program works on the same program folder.

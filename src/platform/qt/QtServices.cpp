@@ -56,6 +56,7 @@ void InstallQtServices(QtToolkit& qtToolkit, ProgramInstance& instance) {
     services.executableDirectory = ExecutableDirectory;
     services.systemDirectory = SystemDirectory;
     services.shortDatePattern = ShortDatePattern;
+    services.today = CurrentDate;
     services.earlierInstanceRuns = [&instance] { return !instance.BecomeFirst(ExecutableDirectory()); };
     services.activateApplication = [&instance](const std::string& title) { instance.ActivateFirst(title); };
 }

@@ -1,6 +1,7 @@
 #include "platform/qt/SystemSettings.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QLocale>
 #include <QString>
 #include <cstdlib>
@@ -88,6 +89,11 @@ std::string ShortDatePatternOfLocale(const std::string& name) {
     QString pattern = locale.dateFormat(QLocale::ShortFormat);
     TakeOutBlanksAndMarks(pattern);
     return FromQString(pattern);
+}
+
+std::chrono::year_month_day CurrentDate() {
+    const QDate current = QDate::currentDate();
+    return std::chrono::year{current.year()} / current.month() / current.day();
 }
 
 }  // namespace ballhaven::platform

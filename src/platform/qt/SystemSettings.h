@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace ballhaven::platform {
@@ -16,5 +17,8 @@ namespace ballhaven::platform {
 /// The short-date pattern of a locale such as "de_DE.UTF-8", without the blanks in it: "yyyy. MM. dd." comes as
 /// "yyyy.MM.dd.". Empty for "C", "POSIX" and the empty name.
 [[nodiscard]] std::string ShortDatePatternOfLocale(const std::string& name);
+
+/// The current date in the user's time zone.
+[[nodiscard]] std::chrono::year_month_day CurrentDate();
 
 }  // namespace ballhaven::platform

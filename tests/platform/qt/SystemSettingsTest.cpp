@@ -6,7 +6,9 @@
 
 #include <QLocale>
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -100,6 +102,19 @@ TEST(SystemSettings, TheExecutablesFolderCanBeOpened) {
 
 TEST(SystemSettings, TheSystemsFolderEndsInItsSeparator) {
     EXPECT_EQ(SystemDirectory(), "/");
+}
+
+/// The date in the user's time zone by the standard library.
+std::chrono::year_month_day LocalDate() {
+    const std::time_t now = std::time(nullptr);
+    const std::tm local = *std::localtime(&now);
+    return std::chrono::year{local.tm_year + 1900} / (local.tm_mon + 1) / local.tm_mday;
+}
+
+TEST(SystemSettings, TheCurrentDateIsTheOneOfTheUsersTimeZone) {
+    const std::chrono::year_month_day before = LocalDate();
+    const std::chrono::year_month_day current = CurrentDate();
+    EXPECT_TRUE(current == before || current == LocalDate()) << "at midnight the date changes meanwhile";
 }
 
 }  // namespace
