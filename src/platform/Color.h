@@ -8,7 +8,7 @@ namespace ballhaven::platform {
 /// the same looks and takes its value only when it is drawn.
 class Color {
   public:
-    enum class Source : std::uint8_t { Fixed, Window, WindowText, ButtonFace };
+    enum class Source : std::uint8_t { Fixed, Window, WindowText, ButtonFace, ButtonShadow };
 
     constexpr Color() = default;
     constexpr Color(int redValue, int greenValue, int blueValue)
@@ -32,5 +32,6 @@ inline constexpr Color blue{0, 0, 255};
 inline constexpr Color windowColor{Color::Source::Window};
 inline constexpr Color windowTextColor{Color::Source::WindowText};
 inline constexpr Color buttonFaceColor{Color::Source::ButtonFace};
+inline constexpr Color buttonShadowColor{Color::Source::ButtonShadow};
 
 }  // namespace ballhaven::platform

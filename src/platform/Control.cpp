@@ -30,4 +30,8 @@ void Control::BringToFront() {
     }
 }
 
+std::optional<Bounds> Control::ScreenPlace() const {
+    return view != nullptr ? std::optional(static_cast<ControlView*>(view)->ScreenPlace()) : std::nullopt;
+}
+
 }  // namespace ballhaven::platform

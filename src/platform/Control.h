@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/Geometry.h"
@@ -7,13 +8,27 @@
 
 namespace ballhaven::platform {
 
-enum class ControlKind { Button, DropDownList, Grid, Label, Line, OptionButton, Panel, Picture, TextBox };
+enum class ControlKind {
+    Button,
+    DrawingSurface,
+    DropDownList,
+    Grid,
+    Label,
+    Line,
+    OptionButton,
+    Panel,
+    Picture,
+    TextBox
+};
 
 /// What every control's widget can do besides showing the control.
 class ControlView : public View {
   public:
     virtual void TakeFocus() = 0;
     virtual void BringToFront() = 0;
+
+    /// The control's place on the screen, in twips.
+    [[nodiscard]] virtual Bounds ScreenPlace() const = 0;
 };
 
 /// What all controls have in common. A control is a value that works without a window: logic sets and reads it, and a
@@ -33,6 +48,9 @@ class Control : public Shown {
 
     /// Puts the control before its siblings. Without a window nothing happens.
     void BringToFront();
+
+    /// The control's place on the screen, in twips; none without a window.
+    [[nodiscard]] std::optional<Bounds> ScreenPlace() const;
 
     const ControlKind kind;
 

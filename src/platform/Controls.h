@@ -76,6 +76,9 @@ class OptionButton : public Control {
     bool chosen = false;
 };
 
+/// A button of the mouse.
+enum class MouseButton { Left, Right, Other };
+
 /// The shape of the mouse pointer over a control.
 enum class PointerShape { Default, IBeam, Cross };
 
@@ -102,7 +105,13 @@ class Button : public Control {
 
     /// Name of the picture among the program's resources, such as "print"; empty for none.
     Property<std::string> picture{*this};
+
+    /// Whether the keyboard reaches the button and presses it.
+    Property<bool> answersKeys{*this, true};
     Handler click;
+
+    /// The release over the button of a mouse button that went down there.
+    std::function<void(MouseButton mouseButton)> mouseUp;
 };
 
 /// A panel that carries other controls.

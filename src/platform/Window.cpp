@@ -73,6 +73,20 @@ void Window::Resize(int width, int height) {
     }
 }
 
+void Window::MoveTo(int left, int top) {
+    if (view != nullptr) {
+        Widgets()->MoveTo(left, top);
+    }
+}
+
+int Window::Left() const {
+    return view != nullptr ? Widgets()->Left() : 0;
+}
+
+int Window::Top() const {
+    return view != nullptr ? Widgets()->Top() : 0;
+}
+
 void Window::ResizeByUser(int width, int height) {
     outerWidth.SetQuietly(width);
     outerHeight.SetQuietly(height);

@@ -24,6 +24,11 @@ class WindowView : public View {
 
     /// Draws at once what waits to be drawn.
     virtual void RepaintNow() = 0;
+
+    /// Moves the window's left top corner to a place of the screen, in twips.
+    virtual void MoveTo(int left, int top) = 0;
+    [[nodiscard]] virtual int Left() const = 0;
+    [[nodiscard]] virtual int Top() const = 0;
 };
 
 /// A window: a title, menus, controls and handlers. Loading it runs the layout, builds its widgets if there is a
@@ -55,6 +60,12 @@ class Window : public Shown {
     /// The outer size as it is, in twips.
     [[nodiscard]] int Width() const { return *outerWidth; }
     [[nodiscard]] int Height() const { return *outerHeight; }
+
+    /// Moves the left top corner to a place of the screen, in twips. A window that is not loaded has none: it stays at
+    /// 0, 0.
+    void MoveTo(int left, int top);
+    [[nodiscard]] int Left() const;
+    [[nodiscard]] int Top() const;
 
     /// The user's change of the outer size, in twips, for the widget. Raises `resize`.
     void ResizeByUser(int width, int height);

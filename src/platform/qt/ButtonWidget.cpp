@@ -1,5 +1,6 @@
 #include "platform/qt/ButtonWidget.h"
 
+#include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -33,6 +34,10 @@ ButtonWidget::ButtonWidget(Button& shownButton, QWidget* parent)
 void ButtonWidget::Refresh() {
     ShowCommon(button, *this, *button.caption);
     setText(ToQString(*button.caption));
+    if (!*button.answersKeys) {
+        setFocusPolicy(Qt::NoFocus);
+        setShortcut(QKeySequence());  // the caption keeps its underlined letter
+    }
     picture.SetName(*button.picture);
     update();
 }
@@ -55,6 +60,23 @@ void ButtonWidget::paintEvent(QPaintEvent*) {
         focus.initFrom(this);
         focus.rect = rect().adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin);
         painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    }
+}
+
+void ButtonWidget::mousePressEvent(QMouseEvent* event) {
+    QPushButton::mousePressEvent(event);
+    event->accept();  // so that the release of any mouse button comes here too
+}
+
+void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
+    QPushButton::mouseReleaseEvent(event);
+    event->accept();
+    if (rect().contains(event->position().toPoint())) {
+        Report([this, event] {
+            if (button.mouseUp) {
+                button.mouseUp(ToMouseButton(event->button()));
+            }
+        });
     }
 }
 

@@ -16,6 +16,8 @@ class ButtonWidget final : public ControlWidget<QPushButton> {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     [[nodiscard]] QRectF PicturePlace() const;

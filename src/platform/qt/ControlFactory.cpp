@@ -1,7 +1,9 @@
 #include "platform/qt/ControlFactory.h"
 
+#include "platform/DrawingSurface.h"
 #include "platform/Grid.h"
 #include "platform/qt/ButtonWidget.h"
+#include "platform/qt/DrawingSurfaceWidget.h"
 #include "platform/qt/DropDownWidget.h"
 #include "platform/qt/GridWidget.h"
 #include "platform/qt/LabelWidget.h"
@@ -27,6 +29,8 @@ void BuildControl(Control& control, QWidget& clientArea) {
     switch (control.kind) {
         case ControlKind::Button:
             return Build<ButtonWidget, Button>(control, parent);
+        case ControlKind::DrawingSurface:
+            return Build<DrawingSurfaceWidget, DrawingSurface>(control, parent);
         case ControlKind::DropDownList:
             return Build<DropDownWidget, DropDownList>(control, parent);
         case ControlKind::Grid:

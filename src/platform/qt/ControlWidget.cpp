@@ -32,4 +32,9 @@ void ShowCommon(const Control& control, QWidget& widget, const std::string& ownT
     widget.setVisible(*control.visible);
 }
 
+Bounds ScreenPlaceOf(const QWidget& widget) {
+    const QPoint corner = widget.mapToGlobal(QPoint(0, 0));
+    return {ToTwips(corner.x()), ToTwips(corner.y()), ToTwips(widget.width()), ToTwips(widget.height())};
+}
+
 }  // namespace ballhaven::platform

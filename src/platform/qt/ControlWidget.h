@@ -13,14 +13,19 @@ namespace ballhaven::platform {
 /// accessible name of its own is called by its text if that holds a letter or a digit, else by its tool tip.
 void ShowCommon(const Control& control, QWidget& widget, const std::string& ownText = {});
 
-/// A widget that shows a control: `Widget` is the toolkit's class for its kind. Ends with its parent widget.
-template <typename Widget>
-class ControlWidget : public Widget, public ControlView {
+/// A widget's place on the screen, in twips.
+[[nodiscard]] Bounds ScreenPlaceOf(const QWidget& widget);
+
+/// A widget that shows a control: `Widget` is the toolkit's class for its kind, and `ShownView` what it can do.
+/// Ends with its parent widget.
+template <typename Widget, typename ShownView = ControlView>
+class ControlWidget : public Widget, public ShownView {
   public:
     ControlWidget(Control& shownControl, QWidget* parent) : Widget(parent), shown(shownControl) { shown.view = this; }
 
     void TakeFocus() override { this->setFocus(Qt::OtherFocusReason); }
     void BringToFront() override { this->raise(); }
+    [[nodiscard]] Bounds ScreenPlace() const override { return ScreenPlaceOf(*this); }
 
   protected:
     /// Runs what the user's act leads to, under the guard. A widget whose window is torn down already leads to nothing.

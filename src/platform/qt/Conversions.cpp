@@ -30,6 +30,17 @@ QRect ToQRect(const Bounds& bounds) {
     return {left, top, ToPixels(bounds.left + bounds.width) - left, ToPixels(bounds.top + bounds.height) - top};
 }
 
+MouseButton ToMouseButton(Qt::MouseButton button) {
+    switch (button) {
+        case Qt::LeftButton:
+            return MouseButton::Left;
+        case Qt::RightButton:
+            return MouseButton::Right;
+        default:
+            return MouseButton::Other;
+    }
+}
+
 QColor ToQColor(const Color& color) {
     const QPalette palette = QGuiApplication::palette();
     switch (color.source) {
@@ -39,6 +50,8 @@ QColor ToQColor(const Color& color) {
             return palette.color(QPalette::WindowText);
         case Color::Source::ButtonFace:
             return palette.color(QPalette::Window);
+        case Color::Source::ButtonShadow:
+            return palette.color(QPalette::Dark);
         case Color::Source::Fixed:
             break;
     }

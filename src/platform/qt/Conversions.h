@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/Color.h"
+#include "platform/Controls.h"
 #include "platform/Geometry.h"
 
 namespace ballhaven::platform {
@@ -23,6 +24,8 @@ namespace ballhaven::platform {
 
 /// A place in pixels. Edges that meet in twips meet in pixels too.
 [[nodiscard]] QRect ToQRect(const Bounds& bounds);
+
+[[nodiscard]] MouseButton ToMouseButton(Qt::MouseButton button);
 
 /// The colour as it is drawn; the system's own colours are those of the palette.
 [[nodiscard]] QColor ToQColor(const Color& color);

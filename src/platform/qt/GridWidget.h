@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/Grid.h"
+#include "platform/qt/ControlWidget.h"
 #include "platform/qt/GridCellEditor.h"
 #include "platform/qt/GridMeasures.h"
 #include "platform/qt/GridModel.h"
@@ -27,6 +28,7 @@ class GridWidget : public QWidget, public GridView {
     void Refresh() override;
     void TakeFocus() override;
     void BringToFront() override { raise(); }
+    [[nodiscard]] Bounds ScreenPlace() const override { return ScreenPlaceOf(*this); }
 
     void ReadAgain() override;
     void Repaint() override;

@@ -131,6 +131,18 @@ void WindowWidget::RepaintNow() {
     repaint();
 }
 
+void WindowWidget::MoveTo(int left, int top) {
+    move(ToPixels(left), ToPixels(top));
+}
+
+int WindowWidget::Left() const {
+    return ToTwips(x());
+}
+
+int WindowWidget::Top() const {
+    return ToTwips(y());
+}
+
 void WindowWidget::TearDown() {
     window.view = nullptr;
     for (Control* control : window.controls) {

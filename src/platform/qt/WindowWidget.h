@@ -21,6 +21,9 @@ class WindowWidget final : public QMainWindow, public WindowView {
     void ShowModal() override;
     void ShowInFront() override;
     void RepaintNow() override;
+    void MoveTo(int left, int top) override;
+    [[nodiscard]] int Left() const override;
+    [[nodiscard]] int Top() const override;
 
     /// Parts the window and its controls from their widgets and hides the widget, whose deletion is the caller's: one
     /// of its handlers may be running. Ends a modal showing.
