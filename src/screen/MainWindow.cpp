@@ -60,9 +60,11 @@ void Activate() {
             SaveWhatIsDirty();
             SwitchGame();
         }
+        // The dialog behind the question brings this window to the front again when it closes; a cancelled one must not
+        // find the start still going on and be asked about once more.
+        form.windowStarting = false;
         AskToSetUpGame();
     }
-    form.windowStarting = false;
     platform::ShowArrow();
 }
 
