@@ -1,5 +1,6 @@
 #include "platform/qt/WindowWidget.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QMenuBar>
@@ -194,8 +195,10 @@ bool WindowWidget::event(QEvent* event) {
     return served;
 }
 
+// A window behind a modal one is not active, even where the desktop reports so late that it was.
 void WindowWidget::BecomeActive() {
-    if (window.view != this) {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    if (window.view != this || (modal != nullptr && modal != this)) {
         return;
     }
     everActive = true;

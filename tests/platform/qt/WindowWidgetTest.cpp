@@ -275,6 +275,41 @@ TEST_F(WindowWidgetTest, AModalShowingReturnsWhenTheWindowHasClosed) {
     EXPECT_FALSE(dialog.window.IsLoaded());
 }
 
+TEST_F(WindowWidgetTest, ALateReportOfTheDesktopDoesNotActivateTheWindowBehindAModalOne) {
+    form.Show();
+    int activations = 0;
+    form.window.activate = [&] { ++activations; };
+    int activationsBehind = -1;
+    support::TestWindow dialog({});
+    QTimer::singleShot(0, [&] {
+        Settle();
+        QEvent late(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(form.Widget(), &late);
+        activationsBehind = activations;
+        dialog.window.Unload();
+    });
+    dialog.window.ShowModal();
+    EXPECT_EQ(activationsBehind, 0);
+
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.Widget()));
+    Settle();
+    EXPECT_EQ(activations, 1) << "when the modal window has closed";
+}
+
+TEST_F(WindowWidgetTest, AModalWindowHasItsOwnTitleAndACloseBoxOnly) {
+    form.Show();
+    support::TestWindow dialog({});
+    dialog.window.title = "A question";
+    QTimer::singleShot(0, [&] {
+        EXPECT_EQ(dialog.Widget()->windowTitle(), QStringLiteral("A question"));
+        EXPECT_EQ(dialog.Widget()->windowType(), Qt::Dialog);
+        EXPECT_TRUE(dialog.Widget()->windowFlags().testFlag(Qt::WindowCloseButtonHint));
+        EXPECT_FALSE(dialog.Widget()->windowFlags().testFlag(Qt::WindowMinMaxButtonsHint));
+        dialog.window.Unload();
+    });
+    dialog.window.ShowModal();
+}
+
 TEST_F(WindowWidgetTest, ShowingInFrontRestoresAMinimisedWindow) {
     form.Show();
     form.Widget()->showMinimized();
