@@ -248,6 +248,55 @@ TEST_F(QuirkGameCancel1, AfterACancelledAddTheWindowStillShowsTheOldGame) {
     EXPECT_EQ(appState.totalPicks, 6);
 }
 
+TEST_F(QuirkGameCancel1, AfterACancelledAddEveryTableSetAndOrderCanStillBeChosen) {
+    Start();
+    InDialogOf(addGame, [this] { ClickToClose(cancel); });
+    for (const char* dateOrder : {"mnuViewArray(1)", "mnuViewArray(0)"}) {
+        ChooseFromMenu("mnuView", dateOrder);
+        for (const int set : {99, 0}) {
+            ChooseEntry("cboList(1)", set);
+            EXPECT_EQ(RowsShown("grdHist"), 2);
+            for (int table = 4; table >= 0; --table) {
+                ChooseEntry("cboList(2)", table);
+                EXPECT_FALSE(MainWindow().grab().isNull());
+            }
+        }
+    }
+    EXPECT_TRUE(exitCodes.empty());
+}
+
+/// A game whose picks are of all kinds: the lowest, the highest, and empty ones.
+class AGameOfAllPicks : public GameSlots, public testing::WithParamInterface<int> {
+  protected:
+    void SetUp() override {
+        Store({.name = "All picks",
+               .gameType = 0,
+               .mainPicks = 10,
+               .low = 0,
+               .high = 99,
+               .draws = {{"01/05/1990", {0, 99, 53, 52, -1, 10, 20, 30, 40, 50}},
+                         {"01/12/1990", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}}}});
+        StorePlay(1, {0, 99, 53});
+        Start();
+    }
+};
+
+TEST_P(AGameOfAllPicks, CanBeDrawnBetweenTheSaveOfAnotherKindAndTheSwitchToIt) {
+    for (const int table : {0, 1, 4}) {
+        ChooseEntry("cboList(2)", table);
+        InDialogOf(alterGame, [this] {
+            ChooseEntry("cboCombo(0)", GetParam());
+            ClickToClose(save);
+            EXPECT_EQ(appState.gameType, GetParam());
+            EXPECT_FALSE(MainWindow().grab().isNull());
+        });
+        EXPECT_FALSE(MainWindow().grab().isNull());
+        EXPECT_TRUE(exitCodes.empty());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(GameSlots, AGameOfAllPicks, testing::Range(0, 6));
+
 // Not a bug: UNDEFINED-NAME-1 in docs/not-bugs.md.
 TEST_F(QuirkUndefinedName1, AGameWhoseNameBeginsWithUndefinedCountsAsAFreeSlot) {
     Store({.slot = 2, .name = "un-defined too", .draws = {}});

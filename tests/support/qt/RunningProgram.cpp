@@ -193,7 +193,10 @@ void RunningProgram::ActInGameDialog(QWidget& dialog) {
     const std::function<void()> acts = std::move(dialogActs.front());
     dialogActs.pop_front();
     acting = true;
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    Settle();
+    dialog.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&dialog] { return dialog.isActiveWindow() && dialog.isAncestorOf(QApplication::focusWidget()); }));
     try {
         acts();
     } catch (const std::exception& missing) {
