@@ -235,6 +235,7 @@ class StubbornView : public GridView {
     void Refresh() override {}
     void TakeFocus() override {}
     void BringToFront() override {}
+    [[nodiscard]] Bounds ScreenPlace() const override { return {}; }
     void ReadAgain() override { ++readings; }
     void Repaint() override { ++repaints; }
     void ShowCurrentCell() override { ++shown; }
