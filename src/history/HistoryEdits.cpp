@@ -1,9 +1,15 @@
 #include "history/HistoryEdits.h"
 
+#include "history/GameSwitch.h"
+#include "history/HistoryView.h"
+#include "platform/MessageBox.h"
+#include "platform/Pointer.h"
 #include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 #include "state/modUTILS.h"
+
+#include <string>
 
 namespace ballhaven {
 
@@ -16,6 +22,36 @@ void StorePick(Table& table, int last, std::int16_t date, int column, std::int16
             table(column, row) = pick;
         }
     }
+}
+
+/// The first row from 0 to `last` with a date, -1 if there is none.
+int FindDate(const Table& table, int last, std::int16_t date) {
+    for (int row = 0; row <= last; ++row) {
+        if (table.PickAt(0, row) == date) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+/// The date of the draw to go to when the one in a row of the view has gone: that of the row behind it, else of the row
+/// before it; 0 if it is the only one.
+std::int16_t DateBeside(int row) {
+    const int neighbour = row < appState.historyViewLast ? row + 1 : row - 1;
+    return row < 0 || neighbour < 0 ? std::int16_t{0} : appState.historyView.PickAt(0, neighbour);
+}
+
+void TakeOutOfTable(std::int16_t date) {
+    if (const int row = FindDate(appState.HistoryTable, appState.historyLast, date); row >= 0) {
+        appState.HistoryTable(0, row) = 0;
+        appState.historyDirty = true;
+        CompactHistory();
+    }
+}
+
+bool AsksToDelete(std::int16_t date) {
+    return platform::ShowMessageBox("Delete record for " + SerialToDate(date) + "?", platform::BoxButtons::YesNo,
+                                    platform::BoxIcon::Critical, "Ballhaven") == platform::BoxAnswer::Yes;
 }
 
 }  // namespace
@@ -42,6 +78,25 @@ void PostLogEdit(int column) {
     StorePick(appState.historyView, appState.historyViewLast, appState.dateSerial, column, pick);
     StorePick(appState.HistoryTable, appState.historyLast, appState.dateSerial, column, pick);
     MarkHotTablesStale();
+}
+
+void DeleteDraw() {
+    if (appState.historyViewLast < 0) {
+        return;
+    }
+    frmMainForm.cmdColorHist.visible = false;
+    std::string text = frmMainForm.grdHist.Text(0);
+    DateToSerial(text);
+    platform::ShowArrow();
+    const std::int16_t date = appState.dateSerial;
+    if (date < 1 || !AsksToDelete(date)) {
+        return;
+    }
+    platform::ShowHourglass();
+    const std::int16_t next = DateBeside(FindDate(appState.historyView, appState.historyViewLast, date));
+    TakeOutOfTable(date);
+    RefreshHistory(next < 1 ? std::int16_t{-1} : next);
+    platform::ShowArrow();
 }
 
 }  // namespace ballhaven

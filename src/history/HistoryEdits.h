@@ -12,4 +12,9 @@ namespace ballhaven {
 /// history as dirty: a press of the mouse on the log does.
 void PostLogEdit(int column);
 
+/// Asks whether the draw of the log's current row is to go and, on Yes, takes the first draw of its date out of
+/// `HistoryTable`, saves, and goes to the draw in the row behind it, else to the one before it. A log without draws
+/// asks nothing. Raises the file failure.
+void DeleteDraw();
+
 }  // namespace ballhaven

@@ -5,6 +5,7 @@
 
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
+#include "history/HistoryEditing.h"
 #include "platform/Application.h"
 #include "platform/Pointer.h"
 #include "platform/Services.h"
@@ -103,6 +104,7 @@ void WireMainWindow() {
     WireSinglePlay();
     WireHotGrid();
     WireLogGrid();
+    WireHistoryEditing();
 }
 
 }  // namespace ballhaven

@@ -6,15 +6,20 @@
 #include <gtest/gtest.h>
 
 #include "history/HistoryView.h"
+#include "platform/MessageBox.h"
 #include "screen/LogCells.h"
 #include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "support/Games.h"
+#include "support/HistoryLog.h"
 #include "support/MainFormReset.h"
 
 namespace ballhaven {
 namespace {
 
+using platform::BoxAnswer;
+using platform::BoxButtons;
+using platform::BoxIcon;
 using support::BonusPool;
 using support::CardGame;
 using support::NumberGame;
@@ -135,6 +140,127 @@ TEST(QuirkLogDirty1, TypingAloneLeavesTheHistoryAsCleanAsItWas) {
     EXPECT_TRUE(frmMainForm.grdHist.Edit(1, "9"));
     EXPECT_EQ(appState.HistoryTable(1, 0), 9);
     EXPECT_FALSE(appState.historyDirty);
+}
+
+using Texts = std::vector<std::string>;
+
+class DeletingADraw : public support::HistoryLogTest {
+  protected:
+    static support::Game ThreeOfNine() { return NumberGame().Picks(3).From(1).To(9).OldestFirst().HistorySet(10); }
+
+    void ExpectQuestion(const std::string& date, BoxAnswer answer) {
+        boxes.Expect("Ballhaven", "Delete record for " + date + "?", BoxButtons::YesNo, BoxIcon::Critical, answer);
+    }
+};
+
+TEST_F(DeletingADraw, TakesTheDrawOutOfLogTableAndFileOnYes) {
+    ShowLog(ThreeOfNine(), support::DailyDraws(4));
+    GoToDate("01/02/1990");
+    ExpectQuestion("01/02/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(ShownDates(), (Texts{"01/01/1990", "01/03/1990", "01/04/1990"}));
+    EXPECT_EQ(appState.historyLast, 2);
+    EXPECT_TRUE(FileHolds({{"01/01/1990", {1, 2, 3}}, {"01/03/1990", {3, 4, 5}}, {"01/04/1990", {4, 5, 6}}}));
+    EXPECT_FALSE(appState.historyDirty);
+}
+
+TEST_F(DeletingADraw, ChangesNothingOnNo) {
+    ShowLog(ThreeOfNine(), support::DailyDraws(4));
+    const std::string before = directory.Read("GAME01.CDB");
+    GoToDate("01/02/1990");
+    ExpectQuestion("01/02/1990", BoxAnswer::No);
+    DeleteDraw();
+    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/02/1990");
+    EXPECT_EQ(appState.historyLast, 3);
+    EXPECT_FALSE(appState.historyDirty);
+    EXPECT_EQ(directory.Read("GAME01.CDB"), before);
+}
+
+TEST_F(DeletingADraw, GoesToTheRowBehindIt) {
+    ShowLog(ThreeOfNine(), support::DailyDraws(4));
+    GoToDate("01/02/1990");
+    ExpectQuestion("01/02/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(CurrentRow(), (Texts{"01/03/1990", "3", "4", "5"}));
+    EXPECT_EQ(frmMainForm.grdHist.CurrentColumn(), 0);
+}
+
+TEST_F(DeletingADraw, GoesToTheRowBeforeItFromTheLastRowOfTheView) {
+    ShowLog(ThreeOfNine(), support::DailyDraws(4));
+    GoToDate("01/04/1990");
+    ExpectQuestion("01/04/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(CurrentRow(), (Texts{"01/03/1990", "3", "4", "5"}));
+}
+
+TEST_F(DeletingADraw, FollowsTheOrderOfTheScreen) {
+    ShowLog(ThreeOfNine().NewestFirst(), support::DailyDraws(4));
+    GoToDate("01/03/1990");
+    ExpectQuestion("01/03/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(CurrentRow(), (Texts{"01/02/1990", "2", "3", "4"}));
+    GoToDate("01/01/1990");
+    ExpectQuestion("01/01/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(CurrentRow(), (Texts{"01/02/1990", "2", "3", "4"}));
+}
+
+TEST_F(DeletingADraw, TheOnlyRowLeavesAnEmptyHistoryEmptyTablesAndTheSameSet) {
+    ShowLog(ThreeOfNine(), support::DailyDraws(1));
+    ExpectQuestion("01/01/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(appState.historyLast, -1);
+    EXPECT_EQ(appState.historyViewLast, -1);
+    EXPECT_EQ(appState.hotNumberLast, -1);
+    EXPECT_EQ(appState.historySetSize, 10);
+    EXPECT_EQ(frmMainForm.grdHist.RowCount(), 0);
+    EXPECT_TRUE(FileHolds({}));
+}
+
+TEST_F(DeletingADraw, AsksNothingInALogWithoutDraws) {
+    ShowLog(ThreeOfNine(), {});
+    DeleteDraw();
+    EXPECT_EQ(boxes.Answered(), 0U);
+    EXPECT_EQ(appState.historyLast, -1);
+}
+
+TEST_F(DeletingADraw, AnOlderDrawComesIntoTheSet) {
+    ShowLog(ThreeOfNine(), support::DailyDraws(12));
+    GoToDate("01/08/1990");
+    ExpectQuestion("01/08/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(ShownDates().size(), 10U);
+    EXPECT_EQ(ShownDates().front(), "01/02/1990");
+}
+
+TEST_F(DeletingADraw, OfTwoDrawsOfOneDateTheFirstGoes) {
+    ShowLog(ThreeOfNine(), {{"01/01/1990", {1, 2, 3}}, {"01/01/1990", {4, 5, 6}}, {"01/02/1990", {7, 8, 9}}});
+    GoToDate("01/01/1990");
+    ExpectQuestion("01/01/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_TRUE(FileHolds({{"01/01/1990", {4, 5, 6}}, {"01/02/1990", {7, 8, 9}}}));
+    EXPECT_EQ(CurrentRow(), (Texts{"01/01/1990", "4", "5", "6"}));
+}
+
+TEST_F(DeletingADraw, SavesWhatWasTypedBeforeItToo) {
+    ShowLog(ThreeOfNine(), support::DailyDraws(2));
+    GoToDate("01/01/1990");
+    EXPECT_TRUE(TypePick(2, "9"));
+    GoToDate("01/02/1990");
+    ExpectQuestion("01/02/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_TRUE(FileHolds({{"01/01/1990", {1, 9, 3}}}));
+}
+
+TEST_F(DeletingADraw, MarksTheTablesStaleAndCountsAgain) {
+    ShowLog(ThreeOfNine(), {{"01/01/1990", {1, 2, 3}}, {"01/02/1990", {7, 8, 9}}});
+    EXPECT_EQ(appState.hotNumberLast, 5);
+    appState.hotPairStale = appState.pairedOnceStale = appState.repeaterStale = appState.noHitterStale = false;
+    GoToDate("01/02/1990");
+    ExpectQuestion("01/02/1990", BoxAnswer::Yes);
+    DeleteDraw();
+    EXPECT_EQ(appState.hotNumberLast, 2);
+    EXPECT_TRUE(appState.hotPairStale && appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -39,9 +40,16 @@ void WindowWidget::StartTimers() {
     for (const Timer* timer : window.timers) {
         auto* const ticking = new QTimer(this);
         ticking->setObjectName(ToQString(timer->name));
-        connect(ticking, &QTimer::timeout, this, [this, timer] {
-            if (window.view == this && timer->tick) {
-                RunGuarded(timer->tick);
+        connect(ticking, &QTimer::timeout, this, [this, timer, ticking] {
+            if (window.view != this || !timer->tick) {
+                return;
+            }
+            // The next tick waits for the end of this one, which may show a message box and let events run meanwhile.
+            ticking->stop();
+            const QPointer<QTimer> waiting(ticking);
+            RunGuarded(timer->tick);
+            if (waiting) {
+                waiting->start();
             }
         });
         ticking->start(timer->interval);

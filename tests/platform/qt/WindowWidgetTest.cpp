@@ -341,6 +341,29 @@ TEST_F(WindowWidgetTest, TimersTickWhileTheWindowIsLoaded) {
     EXPECT_EQ(ticks, 3);
 }
 
+TEST_F(WindowWidgetTest, ATickWaitsForTheEndOfTheOneBefore) {
+    Timer timer;
+    timer.name = "tmrMessage";
+    timer.interval = 1;
+    int running = 0;
+    int ticks = 0;
+    timer.tick = [&] {
+        EXPECT_EQ(++running, 1);
+        QTest::qWait(20 * timer.interval);
+        --running;
+        ++ticks;
+    };
+    const Handler layout = form.window.layout;
+    form.window.layout = [this, layout, &timer] {
+        layout();
+        form.window.timers = {&timer};
+    };
+    form.Show();
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 2; }));
+    form.window.Unload();
+}
+
 TEST_F(WindowWidgetTest, TheTabKeyFollowsTheOrderOfTheControls) {
     TextBox first;
     first.name = "txtFirst";

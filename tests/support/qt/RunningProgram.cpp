@@ -73,34 +73,6 @@ std::string GameRecordOf(const StoredGame& game) {
 
 }  // namespace
 
-const RecordFormat historyFileFormat{64,
-                                     1001,
-                                     {{"date", 1, 4},
-                                      {"pick 1", 6, 2},
-                                      {"pick 2", 9, 2},
-                                      {"pick 3", 12, 2},
-                                      {"pick 4", 15, 2},
-                                      {"pick 5", 18, 2},
-                                      {"pick 6", 21, 2},
-                                      {"pick 7", 24, 2},
-                                      {"pick 8", 27, 2},
-                                      {"pick 9", 30, 2},
-                                      {"pick 10", 33, 2}}};
-
-std::string HistoryFileOf(const std::vector<Draw>& draws) {
-    std::map<int, std::string> records = {{1, "10-26-2002"}};
-    int number = 2;
-    for (const Draw& draw : draws) {
-        std::string record = Padded(std::to_string(SerialOf(draw.date)), 5);
-        for (const int pick : draw.picks) {
-            const std::string digits = pick < 0 ? "" : std::to_string(pick);
-            record += std::string(2 - digits.size(), ' ') + digits + ' ';
-        }
-        records[number++] = record;
-    }
-    return historyFileFormat.File(records);
-}
-
 RunningProgram::RunningProgram() : servicesBefore(platform::services) {
     ForgetMainForm();
     ForgetNewGameForm();

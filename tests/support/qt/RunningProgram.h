@@ -17,6 +17,7 @@
 
 #include "platform/Services.h"
 #include "support/Games.h"
+#include "support/HistoryLog.h"
 #include "support/MessageScript.h"
 #include "support/RecordBytes.h"
 #include "support/TemporaryDirectory.h"
@@ -38,11 +39,6 @@ struct StoredGame {
     std::string historySet = "100";
     std::vector<Draw> draws = {};
 };
-
-/// The bytes of a history file that holds these draws, of which blank picks are -1.
-[[nodiscard]] std::string HistoryFileOf(const std::vector<Draw>& draws);
-
-extern const RecordFormat historyFileFormat;
 
 /// The program on a directory of its own, used as a person uses it: every widget is found by its name, must be in sight
 /// and switched on, and is then clicked at its place in the window, or typed into. A modal window that the test does
