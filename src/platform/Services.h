@@ -8,6 +8,9 @@
 
 namespace ballhaven::platform {
 
+[[nodiscard]] std::string EnglishMonthName(std::chrono::month month);
+[[nodiscard]] std::string EnglishShortDayName(std::chrono::weekday day);
+
 /// The surroundings that tests replace. The program sets all of them at its start; before that they answer as a
 /// machine without a screen would: boxes are answered with Ok or No, and nothing is known of the system.
 struct Services {
@@ -34,6 +37,13 @@ struct Services {
     std::function<std::chrono::year_month_day()> today = [] {
         return std::chrono::year{1984} / std::chrono::January / 1;
     };
+
+    /// The day with which the user's week begins.
+    std::function<std::chrono::weekday()> firstDayOfWeek = [] { return std::chrono::Sunday; };
+
+    /// The names of months, such as "March", and the short ones of days, such as "Mon", in the user's language.
+    std::function<std::string(std::chrono::month)> monthName = EnglishMonthName;
+    std::function<std::string(std::chrono::weekday)> shortDayName = EnglishShortDayName;
 
     /// Whether an earlier instance of the program works on the same program folder.
     std::function<bool()> earlierInstanceRuns = [] { return false; };

@@ -3,6 +3,7 @@
 #include <exception>
 #include <string>
 
+#include "calendar/CalendarForm.h"
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryEditing.h"
@@ -88,6 +89,7 @@ void FollowHeight() {
 
 void CloseDown() {
     SaveWhatIsDirty();
+    ahcCalendar.Terminate();
     platform::EndProcess();
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "calendar/Calendar.h"
 #include "games/GameDialog.h"
 #include "platform/Application.h"
 #include "platform/Pointer.h"
@@ -37,6 +38,7 @@ void StartProgram() {
     appState.shortDateFormat = ProbeShortDate();
     WireMainWindow();
     WireGameDialog();
+    WireCalendar();
     frmMainForm.window.Show();
     frmMainForm.window.RepaintNow();
     platform::ShowArrow();

@@ -11,8 +11,8 @@ namespace ballhaven::platform {
 
 namespace {
 
-/// The painter as the program's canvas. Lines and pixels are filled, so that they cover whole pixels of scale 1 at every
-/// scale.
+/// The painter as the program's canvas. Lines and pixels are filled, so that they cover whole pixels of scale 1 at
+/// every scale.
 class PainterCanvas final : public Canvas {
   public:
     explicit PainterCanvas(QPainter& surfacePainter) : painter(surfacePainter) {}

@@ -57,6 +57,9 @@ void InstallQtServices(QtToolkit& qtToolkit, ProgramInstance& instance) {
     services.systemDirectory = SystemDirectory;
     services.shortDatePattern = ShortDatePattern;
     services.today = CurrentDate;
+    services.firstDayOfWeek = FirstDayOfWeek;
+    services.monthName = MonthName;
+    services.shortDayName = ShortDayName;
     services.earlierInstanceRuns = [&instance] { return !instance.BecomeFirst(ExecutableDirectory()); };
     services.activateApplication = [&instance](const std::string& title) { instance.ActivateFirst(title); };
 }

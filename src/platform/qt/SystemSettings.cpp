@@ -96,4 +96,17 @@ std::chrono::year_month_day CurrentDate() {
     return std::chrono::year{current.year()} / current.month() / current.day();
 }
 
+std::chrono::weekday FirstDayOfWeek() {
+    return std::chrono::weekday{static_cast<unsigned>(QLocale::system().firstDayOfWeek())};
+}
+
+std::string MonthName(std::chrono::month month) {
+    const auto number = static_cast<int>(static_cast<unsigned>(month));
+    return FromQString(QLocale::system().standaloneMonthName(number));
+}
+
+std::string ShortDayName(std::chrono::weekday day) {
+    return FromQString(QLocale::system().dayName(static_cast<int>(day.iso_encoding()), QLocale::ShortFormat));
+}
+
 }  // namespace ballhaven::platform

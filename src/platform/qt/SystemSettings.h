@@ -21,4 +21,9 @@ namespace ballhaven::platform {
 /// The current date in the user's time zone.
 [[nodiscard]] std::chrono::year_month_day CurrentDate();
 
+/// The day with which the week of the user's locale begins, and its names of months and short names of days.
+[[nodiscard]] std::chrono::weekday FirstDayOfWeek();
+[[nodiscard]] std::string MonthName(std::chrono::month month);
+[[nodiscard]] std::string ShortDayName(std::chrono::weekday day);
+
 }  // namespace ballhaven::platform

@@ -38,6 +38,29 @@ TEST_F(ButtonWidgetTest, ClicksByMouseSpaceAndEnterAreReported) {
     EXPECT_EQ(clicks, 3);
 }
 
+TEST_F(ButtonWidgetTest, AButtonForTheMouseAloneAnswersNoKeyAndTakesNoFocus) {
+    button.caption = "&Save";
+    button.answersKeys = false;
+    QTest::keyClick(form.Widget(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(widget->focusPolicy(), Qt::NoFocus);
+    EXPECT_TRUE(widget->shortcut().isEmpty());
+    EXPECT_EQ(clicks, 0);
+
+    QTest::mouseClick(widget, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ButtonWidgetTest, TheReleaseOfEachMouseButtonOverItIsReported) {
+    std::vector<MouseButton> released;
+    button.mouseUp = [&released](MouseButton mouseButton) { released.push_back(mouseButton); };
+    QTest::mouseClick(widget, Qt::LeftButton);
+    QTest::mouseClick(widget, Qt::RightButton);
+    QTest::mouseClick(widget, Qt::MiddleButton);
+    QTest::mousePress(widget, Qt::LeftButton);
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(-1, 3));
+    EXPECT_EQ(released, (std::vector{MouseButton::Left, MouseButton::Right, MouseButton::Other}));
+}
+
 TEST_F(ButtonWidgetTest, AButtonThatIsOffReportsNothing) {
     button.enabled = false;
     QTest::mouseClick(widget, Qt::LeftButton);

@@ -117,5 +117,12 @@ TEST(SystemSettings, TheCurrentDateIsTheOneOfTheUsersTimeZone) {
     EXPECT_TRUE(current == before || current == LocalDate()) << "at midnight the date changes meanwhile";
 }
 
+TEST(SystemSettings, MonthsDaysAndTheFirstDayOfTheWeekComeFromTheUsersLocale) {
+    const QLocale locale = QLocale::system();
+    EXPECT_EQ(QString::fromStdString(MonthName(std::chrono::May)), locale.standaloneMonthName(5));
+    EXPECT_EQ(QString::fromStdString(ShortDayName(std::chrono::Sunday)), locale.dayName(7, QLocale::ShortFormat));
+    EXPECT_EQ(static_cast<int>(FirstDayOfWeek().iso_encoding()), static_cast<int>(locale.firstDayOfWeek()));
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

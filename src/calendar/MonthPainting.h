@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/DrawingSurface.h"
+
+namespace ballhaven {
+
+/// Draws the calendar: the arrow buttons, the title, the letters of the week and the cells of the month on show.
+void PaintCalendar(platform::Canvas& canvas);
+
+}  // namespace ballhaven
