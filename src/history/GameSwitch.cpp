@@ -68,16 +68,6 @@ void EmptyTables() {
     appState.repeaterTable = Table(3, 1);
 }
 
-/// Row of the view with a date, -1 if it has none.
-int RowOfDate(std::int16_t date) {
-    for (int row = 0; row <= appState.historyViewLast; ++row) {
-        if (appState.historyView(0, row) == date) {
-            return row;
-        }
-    }
-    return -1;
-}
-
 void GoToNewestDraw() {
     form.grdHist.GoToRow(appState.historySortOrder != 0 ? appState.historyViewLast : 0);
 }
@@ -124,6 +114,7 @@ void SwitchGame() {
     ArrangeLogColumns();
     ArrangeHiLiteBoxes();
     ArrangeHotOptions();
+    HideCards();
     RefreshHistory(-1);
     ShowHotTableFromTheTop();
     ListGames();

@@ -16,12 +16,21 @@ namespace ballhaven {
 namespace {
 
 /// Puts a pick into the column of every row from 0 to `last` that has the date.
-void StorePick(Table& table, int last, std::int16_t date, int column, std::int16_t pick) {
+void StoreInTable(Table& table, int last, std::int16_t date, int column, std::int16_t pick) {
     for (int row = 0; row <= last; ++row) {
         if (table.Has(column, row) && table(0, row) == date) {
             table(column, row) = pick;
         }
     }
+}
+
+/// Puts a pick into the column of every draw that has the date of the log's current row.
+void StorePick(int column, std::int16_t pick) {
+    std::string date = frmMainForm.grdHist.Text(0);
+    DateToSerial(date);
+    StoreInTable(appState.historyView, appState.historyViewLast, appState.dateSerial, column, pick);
+    StoreInTable(appState.HistoryTable, appState.historyLast, appState.dateSerial, column, pick);
+    MarkHotTablesStale();
 }
 
 /// The first row from 0 to `last` with a date, -1 if there is none.
@@ -72,12 +81,14 @@ bool IsPickInRange(int column) {
 
 void PostLogEdit(int column) {
     const std::string text = modUTILS::Trimmed(frmMainForm.grdHist.Text(column));
-    const std::int16_t pick = text.empty() ? std::int16_t{-1} : modUTILS::ValueOf16(text);
-    std::string date = frmMainForm.grdHist.Text(0);
-    DateToSerial(date);
-    StorePick(appState.historyView, appState.historyViewLast, appState.dateSerial, column, pick);
-    StorePick(appState.HistoryTable, appState.historyLast, appState.dateSerial, column, pick);
-    MarkHotTablesStale();
+    StorePick(column, text.empty() ? std::int16_t{-1} : modUTILS::ValueOf16(text));
+}
+
+void SetLogCard(std::int16_t code) {
+    const int column = frmMainForm.grdHist.CurrentColumn();
+    if (column >= 1 && column <= appState.totalPicks) {
+        StorePick(column, code);
+    }
 }
 
 void DeleteDraw() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 namespace ballhaven {
 
 /// Whether the text in a column of the log's current row can be taken as a pick of a number game: empty, or a value
@@ -11,6 +13,10 @@ namespace ballhaven {
 /// row of `historyView` and `HistoryTable` that has the row's date, and marks the tables stale. It does not mark the
 /// history as dirty: a press of the mouse on the log does.
 void PostLogEdit(int column);
+
+/// Stores a card (1 to 52) in the log's current column, in every row of `historyView` and `HistoryTable` that has the
+/// date of the log's current row, and marks the tables stale. On the date, or behind the last pick, nothing happens.
+void SetLogCard(std::int16_t code);
 
 /// Asks whether the draw of the log's current row is to go and, on Yes, takes the first draw of its date out of
 /// `HistoryTable`, saves, and goes to the draw in the row behind it, else to the one before it. A log without draws

@@ -91,6 +91,15 @@ void CompactHistory() {
     }
 }
 
+int RowOfDate(std::int16_t date) {
+    for (int row = 0; row <= appState.historyViewLast; ++row) {
+        if (appState.historyView.Has(dateColumn, row) && appState.historyView(dateColumn, row) == date) {
+            return row;
+        }
+    }
+    return -1;
+}
+
 std::span<const std::int16_t> PicksOfDraw(int row) {
     const Table& view = appState.historyView;
     const int picks = std::min<int>(appState.totalPicks, view.Columns() - 1);

@@ -94,6 +94,9 @@ class TextBox : public Control {
 
     /// A character key going down, '\r' for Enter; true when it has been served and the box does nothing with it.
     std::function<bool(char key)> keyPress;
+
+    /// A click of the left mouse button, in a locked box too.
+    Handler click;
 };
 
 /// A button with a caption, a picture or both.
@@ -139,6 +142,10 @@ class Picture : public Control {
 
     /// Name of the picture among the program's resources; empty for none.
     Property<std::string> picture{*this};
+
+    /// A click of the left mouse button, with the place of its release in twips from the picture's top left corner. On
+    /// finely scaled screens a place can be a fraction of a twip.
+    std::function<void(double x, double y)> click;
 };
 
 /// Ticks for as long as its window is loaded.

@@ -107,6 +107,18 @@ void ClearHiLiteBoxes() {
     form.hiLiteCode.fill("");
 }
 
+void RepaintHiLites() {
+    form.grdHist.Repaint();
+    form.grdHot.Repaint();
+}
+
+void HideCards() {
+    for (platform::Picture& cards : form.picCards) {
+        cards.visible = false;
+    }
+    form.cardClicked = false;
+}
+
 void PlaceHiLiteDrawingButton() {
     const platform::Grid& log = form.grdHist;
     const std::optional<int> rowTop = log.RowTop(log.CurrentRow());

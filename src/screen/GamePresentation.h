@@ -25,6 +25,12 @@ void ArrangeHiLiteBoxes();
 /// Empties both texts of all ten hi-lite boxes.
 void ClearHiLiteBoxes();
 
+/// Draws the cells of the log and of the Hot table again in the colours of the boxes, without reading their rows again.
+void RepaintHiLites();
+
+/// Hides both pictures of the cards, and forgets a click that would open one.
+void HideCards();
+
 /// Puts `cmdColorHist` on the row-selector margin of the log's current row, or hides it when there is none in view.
 void PlaceHiLiteDrawingButton();
 

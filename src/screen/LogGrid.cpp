@@ -3,6 +3,7 @@
 #include "history/HistoryEdits.h"
 #include "platform/MessageBox.h"
 #include "plays/PlayFile.h"
+#include "screen/CardPicker.h"
 #include "screen/GamePresentation.h"
 #include "screen/LogCells.h"
 #include "screen/MainForm.h"
@@ -76,11 +77,22 @@ void ServePress(int x, int y) {
     SelectRowByMargin(x, y);
 }
 
+void ServeClick() {
+    if (IsCardGame(appState.gameType)) {
+        frmMainForm.cardClicked = true;
+    }
+}
+
 void EndWinnersDisplay() {
     if (appState.hiLiteWinners) {
         appState.hiLiteWinners = false;
         RefreshPlayGrids();
     }
+}
+
+void ServeMove() {
+    ServeLogCards();
+    EndWinnersDisplay();
 }
 
 }  // namespace
@@ -92,8 +104,9 @@ void WireLogGrid() {
     log.edited = TakePick;
     log.keyDown = ServeKey;
     log.mousePress = ServePress;
+    log.click = ServeClick;
     log.dropDown = [](int) { log.GoToPane(datePane); };
-    log.currentCellChanged = EndWinnersDisplay;
+    log.currentCellChanged = ServeMove;
     log.painted = PlaceHiLiteDrawingButton;
 }
 

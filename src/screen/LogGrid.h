@@ -3,7 +3,7 @@
 namespace ballhaven {
 
 /// Hangs the handlers onto the Historical Log: its cells, typing with the range check, keys, mouse, the date button,
-/// and what a move of the current cell ends.
+/// and what a move of the current cell opens and ends.
 void WireLogGrid();
 
 }  // namespace ballhaven

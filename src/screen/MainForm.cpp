@@ -205,6 +205,8 @@ void SetUpButtonsAndPictures() {
     form.cmdColorHist.toolTip = "Hi-lite this drawing";
     form.cmdColorHist.visible = false;
     form.Picture1.picture = "haven-picture";
+    form.picCards[0].picture = "cards-log";
+    form.picCards[1].picture = "cards-hilite";
     for (platform::Picture& cards : form.picCards) {
         cards.visible = false;
     }

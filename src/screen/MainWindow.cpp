@@ -11,6 +11,8 @@
 #include "platform/Pointer.h"
 #include "platform/Services.h"
 #include "plays/SinglePlay.h"
+#include "screen/CardPicker.h"
+#include "screen/ColorToolbar.h"
 #include "screen/HotGrid.h"
 #include "screen/LogGrid.h"
 #include "screen/MainForm.h"
@@ -106,6 +108,8 @@ void WireMainWindow() {
     WireSinglePlay();
     WireHotGrid();
     WireLogGrid();
+    WireCardPicker();
+    WireColorToolbar();
     WireHistoryEditing();
 }
 

@@ -127,6 +127,41 @@ TEST_F(HistoryEdits, StoringAPickMarksTheFourTablesStale) {
     EXPECT_TRUE(appState.hotPairStale && appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
 }
 
+TEST_F(HistoryEdits, ACardGoesToTheCurrentColumnOfTheDrawInBothTables) {
+    ShowDraws(CardGame().Picks(3).NewestFirst(), twoDraws);
+    frmMainForm.grdHist.GoToColumn(2);
+    SetLogCard(52);
+    EXPECT_EQ(appState.historyView(2, 0), 52);
+    EXPECT_EQ(appState.HistoryTable(2, 1), 52);
+    EXPECT_EQ(appState.HistoryTable(2, 0), 2);
+    EXPECT_TRUE(appState.hotPairStale && appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
+    EXPECT_FALSE(appState.historyDirty);
+}
+
+TEST_F(HistoryEdits, ACardGoesToBothRowsOfOneDate) {
+    ShowDraws(CardGame().Picks(2), {{"01/01/1990", {1, 2}}, {"01/01/1990", {3, 4}}, {"01/02/1990", {5, 6}}});
+    frmMainForm.grdHist.GoTo(1, 1);
+    SetLogCard(40);
+    for (const Table* table : {&appState.HistoryTable, &appState.historyView}) {
+        EXPECT_EQ((*table)(1, 0), 40);
+        EXPECT_EQ((*table)(1, 1), 40);
+        EXPECT_EQ((*table)(1, 2), 5);
+    }
+}
+
+TEST_F(HistoryEdits, ACardIsStoredOnlyInTheColumnsOfThePicks) {
+    ShowDraws(CardGame().Picks(2), twoDraws);
+    const Table before = appState.HistoryTable;
+    appState.noHitterStale = false;
+    for (const int column : {0, 3, 10}) {
+        frmMainForm.grdHist.GoToColumn(column);
+        ASSERT_EQ(frmMainForm.grdHist.CurrentColumn(), column);
+        SetLogCard(40);
+        EXPECT_EQ(appState.HistoryTable, before) << column;
+        EXPECT_FALSE(appState.noHitterStale) << column;
+    }
+}
+
 // Not a bug: LOG-DIRTY-1 in docs/not-bugs.md.
 TEST(QuirkLogDirty1, TypingAloneLeavesTheHistoryAsCleanAsItWas) {
     support::ResetMainForm();

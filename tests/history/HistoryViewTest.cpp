@@ -318,6 +318,26 @@ TEST(CompactHistory, AFullHistoryStaysWhole) {
     EXPECT_EQ(appState.HistoryTable(1, historyRows - 1), historyRows - 1);
 }
 
+TEST(RowOfDate, IsTheFirstRowOfTheViewWithTheDate) {
+    SetUpHistory(4);
+    SetDates({1000, 1007, 1007, 1010});
+    appState.historySortOrder = 1;
+    BuildHistoryView();
+
+    EXPECT_EQ(RowOfDate(1000), 0);
+    EXPECT_EQ(RowOfDate(1007), 1);
+    EXPECT_EQ(RowOfDate(1010), 3);
+    EXPECT_EQ(RowOfDate(1008), -1);
+}
+
+TEST(RowOfDate, LooksAtNoRowThatTheViewDoesNotHave) {
+    SetUpHistory(2);
+    BuildHistoryView();
+    appState.historyViewLast = 9;
+
+    EXPECT_EQ(RowOfDate(2000), -1);
+}
+
 std::vector<int> PicksOf(int row) {
     const auto picks = PicksOfDraw(row);
     return {picks.begin(), picks.end()};

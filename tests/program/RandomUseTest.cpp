@@ -111,12 +111,14 @@ class RandomUse : public support::RunningProgram {
         }
     }
 
-    /// Clicks a cell of the log, unless a window of little height cuts it off.
+    /// Clicks a cell of the log, unless a window of little height cuts it off. Cards that cover it are closed instead.
     void ClickAnyCell() {
         const int row = Roll(0, RowsShown("grdHist") - 1);
         const int column = Roll(0, 10);
         const QPoint place = Find("grdHist").mapTo(&MainWindow(), CellPlace("grdHist", row, column).center());
-        if (MainWindow().rect().contains(place)) {
+        if (MainWindow().childAt(place) == &Find("picCards(0)")) {
+            ClickAt("picCards(0)", {75, 8});
+        } else if (MainWindow().rect().contains(place)) {
             ClickCell("grdHist", row, column);
             dirty = true;
         }

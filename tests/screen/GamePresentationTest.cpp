@@ -234,6 +234,15 @@ TEST_F(GamePresentation, ClearingTheBoxesEmptiesBothOfTheirTexts) {
     EXPECT_EQ(frmMainForm.hiLiteCode[3], "");
 }
 
+TEST_F(GamePresentation, HidingTheCardsForgetsAClickThatWouldOpenThem) {
+    frmMainForm.cardClicked = true;
+    for (platform::Picture& cards : frmMainForm.picCards) {
+        cards.visible = true;
+    }
+    HideCards();
+    EXPECT_FALSE(*frmMainForm.picCards[0].visible || *frmMainForm.picCards[1].visible || frmMainForm.cardClicked);
+}
+
 TEST_F(GamePresentation, WithoutACurrentRowTheHiLiteButtonOfTheLogIsHidden) {
     frmMainForm.cmdColorHist.visible = true;
     PlaceHiLiteDrawingButton();

@@ -37,4 +37,10 @@ Bounds ScreenPlaceOf(const QWidget& widget) {
     return {ToTwips(corner.x()), ToTwips(corner.y()), ToTwips(widget.width()), ToTwips(widget.height())};
 }
 
+bool IsClick(const QMouseEvent& release, const QWidget& widget) {
+    const QPointF place = release.position();
+    return release.button() == Qt::LeftButton && 0 <= place.x() && place.x() < widget.width() && 0 <= place.y() &&
+           place.y() < widget.height();
+}
+
 }  // namespace ballhaven::platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMouseEvent>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -12,6 +13,9 @@ namespace ballhaven::platform {
 /// Shows in a widget what all controls have in common: place, visibility, tool tip and names. A control without an
 /// accessible name of its own is called by its text if that holds a letter or a digit, else by its tool tip.
 void ShowCommon(const Control& control, QWidget& widget, const std::string& ownText = {});
+
+/// Whether the release of a mouse button over a widget ends a click of it: the left button's, within the widget.
+[[nodiscard]] bool IsClick(const QMouseEvent& release, const QWidget& widget);
 
 /// A widget's place on the screen, in twips.
 [[nodiscard]] Bounds ScreenPlaceOf(const QWidget& widget);

@@ -82,4 +82,16 @@ void PictureWidget::paintEvent(QPaintEvent*) {
     }
 }
 
+// A press that is not accepted would take its release to the window.
+void PictureWidget::mousePressEvent(QMouseEvent* event) {
+    event->setAccepted(picture.click != nullptr);
+}
+
+void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (picture.click && IsClick(*event, *this)) {
+        const QPointF place = event->position() * twipsPerPixel;
+        Report([&] { picture.click(place.x(), place.y()); });
+    }
+}
+
 }  // namespace ballhaven::platform

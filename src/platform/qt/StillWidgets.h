@@ -34,7 +34,7 @@ class LineWidget final : public ControlWidget<QWidget> {
     const Line& line;
 };
 
-/// Shows a picture at its own size in the middle of its place.
+/// Shows a picture at its own size in the middle of its place, and tells where it is clicked.
 class PictureWidget final : public ControlWidget<QWidget> {
   public:
     PictureWidget(Picture& shownPicture, QWidget* parent);
@@ -42,6 +42,8 @@ class PictureWidget final : public ControlWidget<QWidget> {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     const Picture& picture;

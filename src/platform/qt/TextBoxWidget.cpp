@@ -1,6 +1,7 @@
 #include "platform/qt/TextBoxWidget.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 #include "platform/qt/Conversions.h"
 
@@ -48,6 +49,13 @@ void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
     }
     if (!served) {
         ControlWidget::keyPressEvent(event);
+    }
+}
+
+void TextBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
+    ControlWidget::mouseReleaseEvent(event);
+    if (box.click && IsClick(*event, *this)) {
+        Report(box.click);
     }
 }
 

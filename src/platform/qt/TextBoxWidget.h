@@ -15,6 +15,7 @@ class TextBoxWidget final : public ControlWidget<QLineEdit> {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     TextBox& box;

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <utility>
+#include <vector>
 
 #include "support/qt/TestWindow.h"
 
@@ -65,6 +67,38 @@ TEST(PictureWidget, APictureThatThereIsNotLeavesItsPlaceEmpty) {
 
     const QImage drawn = form.Find("Picture1")->grab().toImage();
     EXPECT_EQ(drawn.pixelColor(10, 10), form.Widget()->palette().color(QPalette::Window));
+}
+
+class PictureClicks : public testing::Test {
+  protected:
+    void SetUp() override {
+        picture.name = "picCards(0)";
+        picture.bounds = Bounds{600, 300, 1290, 3030};
+        picture.click = [this](double x, double y) { places.emplace_back(x, y); };
+        form.Show();
+        widget = form.Find("picCards(0)");
+        ASSERT_NE(widget, nullptr);
+    }
+
+    Picture picture;
+    TestWindow form{&picture};
+    QWidget* widget = nullptr;
+    std::vector<std::pair<double, double>> places;
+};
+
+TEST_F(PictureClicks, AreToldInTwipsFromTheTopLeftCorner) {
+    for (const QPoint& place : {QPoint(0, 0), QPoint(27, 36), QPoint(85, 201)}) {
+        QTest::mouseClick(form.Widget()->windowHandle(), Qt::LeftButton, {}, widget->pos() + place);
+    }
+    EXPECT_EQ(places, (std::vector<std::pair<double, double>>{{0, 0}, {405, 540}, {1275, 3015}}));
+}
+
+TEST_F(PictureClicks, ArriveFromTheLeftButtonReleasedWithinThePicture) {
+    QTest::mouseClick(widget, Qt::RightButton, {}, QPoint(5, 5));
+    QTest::mousePress(widget, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_TRUE(places.empty()) << "not before the release";
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(86, 5));
+    EXPECT_TRUE(places.empty());
 }
 
 }  // namespace

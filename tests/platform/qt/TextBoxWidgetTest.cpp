@@ -56,6 +56,38 @@ TEST_F(TextBoxWidgetTest, ALockedBoxTakesNoKeysAndShowsWhatTheProgramSets) {
     EXPECT_EQ(edit->text(), QStringLiteral("Ks"));
 }
 
+TEST_F(TextBoxWidgetTest, AClickIsReportedByALockedBoxToo) {
+    int clicks = 0;
+    box.click = [&clicks] { ++clicks; };
+    QTest::mouseClick(edit, Qt::LeftButton, {}, edit->rect().center());
+    EXPECT_EQ(clicks, 1);
+
+    box.locked = true;
+    QTest::mouseClick(edit, Qt::LeftButton, {}, edit->rect().center());
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(TextBoxWidgetTest, TheRightButtonAndAReleaseBesideTheBoxAreNoClicks) {
+    int clicks = 0;
+    box.click = [&clicks] { ++clicks; };
+    QTest::mouseClick(edit, Qt::RightButton, {}, edit->rect().center());
+    QTest::mousePress(edit, Qt::LeftButton, {}, edit->rect().center());
+    QTest::mouseRelease(edit, Qt::LeftButton, {}, edit->rect().bottomRight() + QPoint(1, 0));
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(TextBoxWidgetTest, ALockedBoxReportsItsKeys) {
+    std::string keys;
+    box.keyPress = [&keys](char key) {
+        keys += key;
+        return true;
+    };
+    box.locked = true;
+    QTest::keyClicks(edit, "7x");
+    QTest::keyClick(edit, Qt::Key_Return);
+    EXPECT_EQ(keys, "7x\r");
+}
+
 TEST_F(TextBoxWidgetTest, ACharacterWithoutAByteShowsAsTheQuestionMarkThatItBecame) {
     QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, QString::fromUtf8("\xC5\x82"), Qt::NoModifier);
 

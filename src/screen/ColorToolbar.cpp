@@ -1,0 +1,82 @@
+#include "screen/ColorToolbar.h"
+
+#include <string>
+
+#include "screen/CardPicker.h"
+#include "screen/DrawingHiLite.h"
+#include "screen/GamePresentation.h"
+#include "screen/MainForm.h"
+#include "state/AppState.h"
+#include "state/modUTILS.h"
+
+namespace ballhaven {
+
+namespace {
+
+MainForm& form = frmMainForm;
+
+constexpr char enterKey = '\r';
+
+void ApplyHiLites() {
+    appState.colorMode = 1;
+    RepaintHiLites();
+}
+
+void ClearHiLites() {
+    appState.colorMode = 0;
+    ClearHiLiteBoxes();
+    RepaintHiLites();
+}
+
+// QUIRK HILITE-CODE-1: the stored code takes the digits as they are typed, each behind the box's text, and knows
+// nothing of corrections. It is meant: only the button that hi-lites a drawing compares it, and a box that was
+// corrected by hand is no copy of a drawing any more. Taking the code from the text would let that button clear what
+// the user typed.
+void NoteDigit(std::size_t box, char digit) {
+    form.hiLiteCode[box] = modUTILS::Trimmed(*form.txtHiLite[box].text + digit);
+}
+
+void LeaveByEnter(std::size_t box) {
+    const bool isLast = box + 1 >= static_cast<std::size_t>(appState.totalPicks) || box + 1 >= form.txtHiLite.size();
+    if (isLast) {
+        form.cmdColor[0].TakeFocus();
+    } else {
+        form.txtHiLite[box + 1].TakeFocus();
+    }
+    form.cmdColor[0].click();
+}
+
+bool ServeKey(std::size_t box, char key) {
+    if (IsCardGame(appState.gameType)) {
+        OpenHiLiteCards(static_cast<std::int16_t>(box));
+        return true;
+    }
+    if (key == enterKey) {
+        LeaveByEnter(box);
+        return true;
+    }
+    if (key >= '0' && key <= '9') {
+        NoteDigit(box, key);
+    }
+    return false;
+}
+
+void ServeClick(std::size_t box) {
+    if (IsCardGame(appState.gameType)) {
+        OpenHiLiteCards(static_cast<std::int16_t>(box));
+    }
+}
+
+}  // namespace
+
+void WireColorToolbar() {
+    form.cmdColor[0].click = ApplyHiLites;
+    form.cmdColor[1].click = ClearHiLites;
+    form.cmdColorHist.click = HiLiteDrawing;
+    for (std::size_t box = 0; box < form.txtHiLite.size(); ++box) {
+        form.txtHiLite[box].keyPress = [box](char key) { return ServeKey(box, key); };
+        form.txtHiLite[box].click = [box] { ServeClick(box); };
+    }
+}
+
+}  // namespace ballhaven
