@@ -53,10 +53,14 @@ std::vector<Draw> DailyDraws(int count) {
 }
 
 HistoryLogTest::HistoryLogTest() : servicesBefore(platform::services) {
-    ResetMainForm();
-    appState.programDirectory = directory.Path();
     platform::services.today = [] { return std::chrono::year{1990} / std::chrono::March / 5; };
     platform::fileSystem.flush = [](int) { return 0; };  // waiting for the disk takes most of the time
+    StartAgain();
+}
+
+void HistoryLogTest::StartAgain() const {
+    ResetMainForm();
+    appState.programDirectory = directory.Path();
     frmMainForm.grdHist.cellText = LogCellValue;
     frmMainForm.grdHist.acceptEdit = IsPickInRange;
     frmMainForm.grdHist.edited = [](int column) {

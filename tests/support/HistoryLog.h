@@ -28,6 +28,9 @@ class HistoryLogTest : public ::testing::Test {
     HistoryLogTest();
     ~HistoryLogTest() override;
 
+    /// Puts the program back to its start, before a game is current; the files stay.
+    void StartAgain() const;
+
     /// Stores draws as those of a game, and makes the game current.
     void ShowLog(const Game& game, const std::vector<Draw>& draws) const;
 
