@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -22,12 +21,8 @@ TEST(Appearance, EveryTextIsElevenPixelsHighMenusAndBoxesToo) {
     }
 }
 
-TEST(Appearance, TheFontIsTheOneAskedForWhereItIsInstalled) {
-    const QString wanted = QStringLiteral("Liberation Sans");
-    if (!QFontDatabase::hasFamily(wanted)) {
-        GTEST_SKIP() << "the font is not installed here";
-    }
-    EXPECT_EQ(QApplication::font().family(), wanted);
+TEST(Appearance, TheFontIsTheOneThatTheProgramAsksFor) {
+    EXPECT_EQ(QApplication::font().family(), QStringLiteral("Liberation Sans"));
 }
 
 TEST(Appearance, ListsDropDownBelowTheirBox) {
