@@ -1,5 +1,6 @@
 #include "history/DrawDates.h"
 
+#include "calendar/DateMask.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
 #include "history/HistoryView.h"
@@ -51,7 +52,7 @@ void GoToDraw(const std::string& date) {
 std::chrono::year_month_day DateToOffer() {
     const std::chrono::year_month_day today = platform::services.today();
     if (appState.nextLogDate == 0) {
-        appState.nextLogDate = SerialOfText(DateToText(today));
+        appState.nextLogDate = SerialOfText(FormatDate(today, DateMaskOf(appState.shortDateFormat)));
         return today;
     }
     // QUIRK OFFERED-DATE-1: the day after the last draw is offered only where there are two draws and it is not the

@@ -105,7 +105,6 @@ void WireLogGrid() {
     log.keyDown = ServeKey;
     log.mousePress = ServePress;
     log.click = ServeClick;
-    log.dropDown = [](int) { log.GoToPane(datePane); };
     log.currentCellChanged = ServeMove;
     log.painted = PlaceHiLiteDrawingButton;
 }

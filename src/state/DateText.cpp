@@ -61,23 +61,6 @@ bool StaysInDate(char character) {
     return '0' <= character && character <= ':';
 }
 
-/// The screen text of a date in the order of `shortDateFormat`.
-std::string ScreenText(int year, std::int64_t month, int day) {
-    const auto part = [&](int place) {
-        switch (PatternLetter(place)) {
-            case 'm':
-                return modUTILS::ZeroPadded(month, 2);
-            case 'd':
-                return modUTILS::ZeroPadded(day, 2);
-            default:
-                return modUTILS::ZeroPadded(year, 4);
-        }
-    };
-    const std::size_t separatorPlace = FindSeparator(appState.shortDateFormat);
-    const std::string separator = appState.shortDateFormat.substr(separatorPlace, 1);
-    return part(0) + separator + part(1) + separator + part(2);
-}
-
 int FloorDivide(int dividend, int divisor) {
     const int quotient = dividend / divisor;
     return dividend % divisor < 0 ? quotient - 1 : quotient;
@@ -161,12 +144,19 @@ std::string SerialToDate(std::int16_t serial) {
         limit = appState.monthDays[month] + (leapYear && month == february ? 1 : 0);
     }
 
-    return ScreenText(firstYear + yearsPassed, static_cast<std::int64_t>(month), day);
-}
-
-std::string DateToText(std::chrono::year_month_day date) {
-    return ScreenText(static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-                      static_cast<int>(static_cast<unsigned>(date.day())));
+    const auto part = [&](int place) {
+        switch (PatternLetter(place)) {
+            case 'm':
+                return modUTILS::ZeroPadded(static_cast<std::int64_t>(month), 2);
+            case 'd':
+                return modUTILS::ZeroPadded(day, 2);
+            default:
+                return modUTILS::ZeroPadded(firstYear + yearsPassed, 4);
+        }
+    };
+    const std::size_t separatorPlace = FindSeparator(appState.shortDateFormat);
+    const std::string separator = appState.shortDateFormat.substr(separatorPlace, 1);
+    return part(0) + separator + part(1) + separator + part(2);
 }
 
 std::optional<std::chrono::year_month_day> TextToDate(std::string text) {

@@ -27,8 +27,7 @@ void DateToSerial(std::string& text);
 /// The screen text of a serial in the order of `shortDateFormat`. Fills `monthDays`.
 [[nodiscard]] std::string SerialToDate(std::int16_t serial);
 
-/// The screen text of a calendar date, and the calendar date of a screen text; none where the text is no date.
-[[nodiscard]] std::string DateToText(std::chrono::year_month_day date);
+/// The calendar date of a screen text in the order of `shortDateFormat`; none where the text is no date.
 [[nodiscard]] std::optional<std::chrono::year_month_day> TextToDate(std::string text);
 
 }  // namespace ballhaven

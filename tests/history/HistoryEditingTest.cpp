@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTest>
 
+#include "calendar/CalendarForm.h"
 #include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
@@ -41,9 +42,32 @@ class HistoryEditing : public support::RunningProgram {
         EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf(expected), directory.Read("GAME01.CDB")));
     }
 
+    /// A click on a day of the month that the calendar shows.
+    static void ClickDay(int day) {
+        const auto first = std::chrono::sys_days{ahcCalendar.Today.year() / ahcCalendar.Today.month() / 1};
+        const int cell = static_cast<int>(std::chrono::weekday{first}.iso_encoding()) - 1 + day - 1;
+        const QPoint place(5 + cell % 7 * ahcCalendar.cellWidth + ahcCalendar.cellWidth / 2,
+                           (cell / 7 + 2) * ahcCalendar.rowHeight + ahcCalendar.rowHeight / 2);
+        QTest::mouseClick(&dynamic_cast<QWidget&>(*ahcCalendar.surface.view), Qt::LeftButton, {}, place);
+    }
+
+    /// A click on a date, and on the drop-down button that the current row has at its right end.
+    void ClickDateButton(int row) const {
+        ClickCell("grdHist", row, 0);
+        const QRect place = CellPlace("grdHist", row, 0);
+        ClickAt("grdHist", {place.right() - 5, place.center().y()});
+    }
+
+    void ExpectDateExists() {
+        boxes.Expect("Ballhaven", "Date already exists,\nplease select another date.", BoxButtons::Ok,
+                     BoxIcon::Information);
+    }
+
     /// Waits until the timer has brought in the draw that waits for it.
-    static void WaitForTick() {
+    void WaitForTick() const {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&MainWindow()));
         EXPECT_TRUE(QTest::qWaitFor([] { return appState.pendingLogDate == 0; }));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
     }
 
     const std::vector<Draw> draws = {
@@ -115,6 +139,67 @@ TEST_F(HistoryEditing, TheTimerSortsTheDrawsAndGoesToTheOneWhoseDateWasTaken) {
     EXPECT_EQ(frmMainForm.grdHist.Text(0), "02/01/1990");
     EXPECT_EQ(frmMainForm.grdHist.CurrentColumn(), 1) << "typing can begin at the first pick";
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(HistoryEditing, ADrawIsAddedThroughTheCalendarAndItsPicksAreTyped) {
+    platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 20; };
+    InCalendar([this] {
+        EXPECT_EQ(ahcCalendar.Today, std::chrono::year{1990} / std::chrono::January / 20);
+        EXPECT_EQ(appState.pendingLogDate, -1);
+        ClickDay(9);
+        ClickToClose("cmdCal(1)");
+    });
+    Click("cmdButton(2)");
+    ExpectFile({draws[0], draws[1], draws[2], {"01/09/1990", {}}});
+    WaitForTick();
+    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/09/1990");
+    EXPECT_EQ(frmMainForm.grdHist.CurrentColumn(), 1);
+    for (const char* pick : {"11", "12", "13", "14", "15", "16"}) {
+        Type(pick);
+        Press(Qt::Key_Tab);
+    }
+    ClickCell("grdHist", 0, 1);
+    Close();
+    ExpectFile({draws[0], draws[1], draws[2], {"01/09/1990", {11, 12, 13, 14, 15, 16}}});
+}
+
+TEST_F(HistoryEditing, ADateThatExistsKeepsTheCalendarOpenForAnother) {
+    platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 2; };
+    ExpectDateExists();
+    InCalendar([this] {
+        Click("cmdCal(1)");
+        EXPECT_EQ(boxes.Answered(), 1U);
+        EXPECT_TRUE(ahcCalendar.Loaded());
+        ClickDay(10);
+        ClickToClose("cmdCal(1)");
+    });
+    Click("cmdButton(2)");
+    WaitForTick();
+    EXPECT_EQ(Dates(), (Texts{"01/01/1990", "01/02/1990", "01/03/1990", "01/10/1990"}));
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(HistoryEditing, ACancelledCalendarAddsNothingAndLeavesNothingPending) {
+    InCalendar([this] { ClickToClose("cmdCal(0)"); });
+    Click("cmdButton(2)");
+    EXPECT_EQ(appState.pendingLogDate, 0);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    ExpectFile(draws);
+}
+
+TEST_F(HistoryEditing, TheDateButtonChangesTheDateOfItsRow) {
+    boxes.Expect("Ballhaven", "Are you sure you want to change this date?", BoxButtons::YesNo, BoxIcon::None,
+                 BoxAnswer::Yes);
+    InCalendar([this] {
+        EXPECT_EQ(ahcCalendar.Today, std::chrono::year{1990} / std::chrono::January / 2);
+        ClickDay(31);
+        ClickToClose("cmdCal(1)");
+    });
+    ClickDateButton(1);
+    WaitForTick();
+    EXPECT_EQ(Dates(), (Texts{"01/01/1990", "01/03/1990", "01/31/1990"}));
+    EXPECT_EQ(CellText("grdHist", 2, 1), "2") << "the picks go with the date";
+    ExpectFile({draws[0], {"01/31/1990", draws[1].picks}, draws[2]});
 }
 
 }  // namespace

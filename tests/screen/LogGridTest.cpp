@@ -420,6 +420,7 @@ TEST_F(LogGrid, MovingTheCurrentCellEndsTheWinnersDisplay) {
 
 TEST_F(LogGrid, AClickOnTheDatesButtonMakesTheDatePaneCurrent) {
     const QRect cell = CellPlace("grdHist", 4, 0);
+    InCalendar([this] { ClickToClose("cmdCal(0)"); });
     ClickLog(cell.right() - 8, cell.center().y());
     ExpectCursor(datePane, 4, 0);
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -271,6 +272,16 @@ RC_GTEST_PROP(NormalisedDatePattern, HasFiveCharactersWithOneSeparatorTwice, (co
     const std::string pattern = NormalisedDatePattern(systemPattern);
     RC_ASSERT(pattern.size() == 5U);
     RC_ASSERT(pattern[1] == pattern[3]);
+}
+
+TEST(TextToDate, ReadsADateInTheUsersOrderAndNothingElse) {
+    support::ResetState();
+    EXPECT_EQ(TextToDate("02/29/1992"), std::chrono::year{1992} / 2 / 29);
+    EXPECT_EQ(TextToDate("02/30/1992"), std::nullopt);
+    EXPECT_EQ(TextToDate(""), std::nullopt);
+    appState.shortDateFormat = "d.m.y";
+    EXPECT_EQ(TextToDate("29.02.1992"), std::chrono::year{1992} / 2 / 29);
+    support::ResetState();
 }
 
 }  // namespace

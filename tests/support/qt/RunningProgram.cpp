@@ -12,6 +12,7 @@
 #include <memory>
 #include <utility>
 
+#include "calendar/CalendarForm.h"
 #include "games/NewGameForm.h"
 #include "history/HistoryFile.h"
 #include "platform/Application.h"
@@ -89,6 +90,8 @@ RunningProgram::RunningProgram() : servicesBefore(platform::services) {
 
 RunningProgram::~RunningProgram() {
     EXPECT_TRUE(dialogActs.empty()) << "The game dialog did not open.";
+    EXPECT_TRUE(calendarActs.empty()) << "The calendar did not open.";
+    ahcCalendar.Terminate();
     ForgetNewGameForm();
     frmMainForm.window.unload = nullptr;
     frmMainForm.window.Unload();
@@ -157,6 +160,10 @@ void RunningProgram::ServeModalWindow() {
             return;
         }
     }
+    if (window == dynamic_cast<QWidget*>(ahcCalendar.window.view) && !calendarActs.empty()) {
+        ActInCalendar(*window);
+        return;
+    }
     ADD_FAILURE() << "A modal window: " << window->objectName().toStdString();
     window->close();
 }
@@ -177,6 +184,23 @@ void RunningProgram::ActInGameDialog(QWidget& dialog) {
     acting = false;
 }
 
+void RunningProgram::ActInCalendar(QWidget& calendar) {
+    const std::function<void()> acts = std::move(calendarActs.front());
+    calendarActs.pop_front();
+    acting = true;
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&calendar));
+    try {
+        acts();
+    } catch (const std::exception& missing) {
+        ADD_FAILURE() << missing.what();  // it must not travel through the toolkit
+    }
+    acting = false;
+}
+
+void RunningProgram::InCalendar(std::function<void()> acts) {
+    calendarActs.push_back(std::move(acts));
+}
+
 void RunningProgram::InGameDialog(std::function<void()> acts) {
     dialogActs.push_back(std::move(acts));
 }
@@ -193,6 +217,9 @@ std::vector<QWidget*> RunningProgram::OpenWindows() const {
     std::vector<QWidget*> windows = {&MainWindow()};
     if (frmNewGame.window.view != nullptr) {
         windows.push_back(&GameDialog());
+    }
+    if (auto* const calendar = dynamic_cast<QWidget*>(ahcCalendar.window.view)) {
+        windows.push_back(calendar);
     }
     return windows;
 }

@@ -69,6 +69,9 @@ class RunningProgram : public ::testing::Test {
     /// The game dialog, which must be open.
     [[nodiscard]] QWidget& GameDialog() const;
 
+    /// What the user does in the calendar when it opens next, up to its closing; as for the game dialog.
+    void InCalendar(std::function<void()> acts);
+
     /// The widget of a name in an open window, which must be there; a hidden one too.
     template <typename Widget = QWidget>
     [[nodiscard]] Widget& Find(const char* name) const {
@@ -145,12 +148,14 @@ class RunningProgram : public ::testing::Test {
     [[nodiscard]] std::vector<QWidget*> OpenWindows() const;
     void ServeModalWindow();
     void ActInGameDialog(QWidget& dialog);
+    void ActInCalendar(QWidget& calendar);
     [[nodiscard]] QTableView& PaneOf(const char* grid, int column, int& columnInPane) const;
     [[nodiscard]] QImage CellImage(const char* grid, int row, int column) const;
 
     const platform::Services servicesBefore;
     QTimer modalWindows;
     std::deque<std::function<void()>> dialogActs;
+    std::deque<std::function<void()>> calendarActs;
     bool acting = false;
 
   protected:
