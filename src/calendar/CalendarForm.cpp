@@ -49,11 +49,13 @@ void CalendarForm::SetToday(std::chrono::year_month_day date) {
 
 void CalendarForm::SetBorderLeft(std::int16_t left) {
     BorderLeft = left;
+    window.Load();  // whose opening would move it elsewhere
     window.MoveTo(left, window.Top());
 }
 
 void CalendarForm::SetBorderTop(std::int16_t top) {
     BorderTop = top;
+    window.Load();
     window.MoveTo(window.Left(), top);
 }
 

@@ -33,7 +33,7 @@ struct CalendarForm {
     /// Selects a date; what is no date of the calendar leaves the one before.
     void SetToday(std::chrono::year_month_day date);
 
-    /// Remember a place of the window on the screen, in twips, and move the window there.
+    /// Remember a place of the window on the screen, in twips, and move the window there, which loads it.
     void SetBorderLeft(std::int16_t left);
     void SetBorderTop(std::int16_t top);
 

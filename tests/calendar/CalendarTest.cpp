@@ -427,6 +427,12 @@ TEST_F(Calendar, ItsRememberedPlaceMovesIt) {
     EXPECT_EQ(form.BorderTop, 750);
 }
 
+TEST_F(Calendar, ItsRememberedPlaceHoldsWhenItIsGivenBeforeTheOpening) {
+    form.SetBorderLeft(1500);
+    form.SetBorderTop(750);
+    Use(year{2004} / 3 / 15, [] { EXPECT_EQ(Widget().pos(), QPoint(100, 50)); });
+}
+
 TEST_F(Calendar, DropsDownUnderAControl) {
     platform::TextBox box;
     box.name = "txtDate";
