@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include "platform/qt/Conversions.h"
 
@@ -60,9 +61,9 @@ void InvertFrame(QPainter& painter, const PixelRect& area) {
     }
 }
 
+/// The pixel of scale 1 under the mouse, which can stand anywhere within it on finely scaled screens.
 PixelPoint PlaceOf(const QMouseEvent& event) {
-    const QPoint place = event.position().toPoint();
-    return {place.x(), place.y()};
+    return {qFloor(event.position().x()), qFloor(event.position().y())};
 }
 
 }  // namespace

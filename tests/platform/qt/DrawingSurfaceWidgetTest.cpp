@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 #include <algorithm>
 #include <string>
@@ -64,6 +66,17 @@ TEST_F(DrawingSurfaceWidgetTest, TheMouseIsReportedInPixelsWithItsButtons) {
     QTest::mouseClick(widget, Qt::MiddleButton, {}, QPoint(99, 49));
     EXPECT_EQ(notices, (Notices{"down 3,4 left", "up 5,6 left", "down 1,0 right", "up 1,0 right", "down 99,49 other",
                                 "up 99,49 other"}));
+}
+
+TEST_F(DrawingSurfaceWidgetTest, APlaceWithinAPixelIsThatPixelOnFinelyScaledScreensToo) {
+    const QPointF place(3.5, 4.75);
+    QMouseEvent press(QEvent::MouseButtonPress, place, widget->mapToGlobal(place), Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(widget, &press);
+    const QPointF outside(-0.5, 49.5);
+    QMouseEvent release(QEvent::MouseButtonRelease, outside, widget->mapToGlobal(outside), Qt::LeftButton, Qt::NoButton,
+                        {});
+    QApplication::sendEvent(widget, &release);
+    EXPECT_EQ(notices, (Notices{"down 3,4 left", "up -1,49 left"}));
 }
 
 TEST_F(DrawingSurfaceWidgetTest, ASecondQuickPressIsAPressLikeAnyOther) {
