@@ -54,6 +54,7 @@ class Calendar : public testing::Test {
 
     ~Calendar() override {
         support::ResetCalendar();
+        form.window.controls.clear();
         Settle();
         platform::services = before;
     }
