@@ -96,6 +96,18 @@ close_it() {
     wait "$program" || fail "the program ended with a failure"
 }
 
+# Records of the table of games: the slot's name and rules in their columns, 64 in all.
+record() { # slot, name, kind, low, high, main picks, bonus picks, bonus low, bonus high
+    printf '%-2s/%-20s  /010/%s/%s/%s/ / /N/N/%-2s/%s/N /  /%s/%s/   ' "$@"
+}
+
+# Answers the box in front with its first button.
+answer() {
+    until_true "a box asks" has_other
+    picture "$1" "$(others | tail -n 1)"
+    keys Return
+}
+
 exec 3<>"$work/display"
 Xvfb -displayfd 3 -screen 0 1800x1300x24 >/dev/null 2>&1 &
 until_true "the X server runs" test -s "$work/display"

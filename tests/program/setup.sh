@@ -9,19 +9,9 @@ ballhaven=$1
 pictures=${2:-}
 source "$(dirname "${BASH_SOURCE[0]}")/desk.sh"
 
-# Records of the table of games: the slot's name and rules in their columns, 64 in all.
-record() { # slot, name, kind, low, high, main picks, bonus picks, bonus low, bonus high
-    printf '%-2s/%-20s  /010/%s/%s/%s/ / /N/N/%-2s/%s/N /  /%s/%s/   ' "$@"
-}
 free_record() { record "$1" un-defined 0 1 99 10 0 1 99; }
 record_is() { has_bytes LOTTOSYS $((64 * $1)) "$2"; } # slot, record
 
-# Answers the box in front with its first button.
-answer() {
-    until_true "a box asks" has_other
-    picture "$1" "$(others | tail -n 1)"
-    keys Return
-}
 wait_for_dialog() {
     until_true "the game dialog opens" has_title "Add a New Game"
     dialog=$(has_title "Add a New Game" | tail -n 1)
