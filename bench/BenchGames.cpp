@@ -1,21 +1,21 @@
 #include "bench/BenchGames.h"
 
-#include <cstdint>
-#include <numeric>
-#include <random>
-#include <vector>
-
+#include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
 #include "plays/PlayFile.h"
 #include "plays/PlayMethodCode.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "support/TemporaryDirectory.h"
 #include "wheels/ShuffleFile.h"
+
+#include <cstdint>
+#include <numeric>
+#include <random>
+#include <vector>
 
 namespace ballhaven::bench {
 

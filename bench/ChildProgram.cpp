@@ -1,12 +1,11 @@
 #include "bench/ChildProgram.h"
 
 #include <csignal>
-#include <system_error>
-#include <utility>
-
 #include <spawn.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace ballhaven::bench {
 

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <string>
-#include <vector>
-
 #include <sys/types.h>
+#include <vector>
 
 namespace ballhaven::bench {
 

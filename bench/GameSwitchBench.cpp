@@ -4,17 +4,17 @@
 
 #include "history/GameSwitch.h"
 
+#include "bench/BenchGames.h"
+#include "bench/PlainFiles.h"
+#include "platform/files/FileSystem.h"
+#include "state/modUTILS.h"
+
+#include <benchmark/benchmark.h>
+
 #include <array>
 #include <chrono>
 #include <cstdint>
 #include <string>
-
-#include <benchmark/benchmark.h>
-
-#include "bench/BenchGames.h"
-#include "bench/PlainFiles.h"
-#include "platform/FileSystem.h"
-#include "state/modUTILS.h"
 
 namespace ballhaven::bench {
 

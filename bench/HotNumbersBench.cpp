@@ -2,13 +2,14 @@
 
 #include "statistics/HotNumbers.h"
 
-#include <map>
-
-#include <benchmark/benchmark.h>
-
 #include "bench/BenchGames.h"
 #include "bench/PickDatabase.h"
 #include "state/AppState.h"
+#include "statistics/HotTables.h"
+
+#include <benchmark/benchmark.h>
+
+#include <map>
 
 namespace ballhaven::bench {
 

@@ -1,9 +1,7 @@
 // HotPairs, PairedOnce, Repeaters and NoHitters: each table at its largest, against a query of SQLite over the same
 // picks and against the plain walk through all draws.
 
-#include <vector>
-
-#include <benchmark/benchmark.h>
+#include "statistics/HotTables.h"
 
 #include "bench/BenchGames.h"
 #include "bench/PickDatabase.h"
@@ -15,6 +13,10 @@
 #include "statistics/PairedOnce.h"
 #include "statistics/Repeaters.h"
 #include "support/PlainWalks.h"
+
+#include <benchmark/benchmark.h>
+
+#include <vector>
 
 namespace ballhaven::bench {
 

@@ -1,8 +1,8 @@
 #include "bench/PickDatabase.h"
 
-#include <stdexcept>
-
 #include "state/AppState.h"
+
+#include <stdexcept>
 
 namespace ballhaven::bench {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <sqlite3.h>
+
 #include <array>
 #include <memory>
-
-#include <sqlite3.h>
 
 namespace ballhaven::bench {
 

@@ -2,10 +2,9 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <system_error>
-
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace ballhaven::bench {

@@ -1,14 +1,14 @@
 // SavePlays: a durable save of 5000 plays of which one has changed, against a plain durable write of as many bytes.
 
-#include <cstdint>
-#include <string>
-
-#include <benchmark/benchmark.h>
-
 #include "bench/BenchGames.h"
 #include "bench/PlainFiles.h"
 #include "plays/PlayFile.h"
 #include "state/AppState.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <string>
 
 namespace ballhaven::bench {
 

@@ -4,19 +4,19 @@
 // measured, teaches what the finished picture is: the one that stays. The others are stopped when the screen shows just
 // that one.
 
+#include "bench/BenchGames.h"
+#include "bench/ChildProgram.h"
+#include "bench/VirtualScreen.h"
+#include "support/TemporaryDirectory.h"
+
+#include <benchmark/benchmark.h>
+
 #include <chrono>
 #include <filesystem>
 #include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include <benchmark/benchmark.h>
-
-#include "bench/BenchGames.h"
-#include "bench/ChildProgram.h"
-#include "bench/VirtualScreen.h"
-#include "support/TemporaryDirectory.h"
 
 namespace ballhaven::bench {
 

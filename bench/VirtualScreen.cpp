@@ -4,12 +4,11 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <filesystem>
+#include <sys/mman.h>
 #include <system_error>
 #include <thread>
-
-#include <fcntl.h>
-#include <sys/mman.h>
 #include <unistd.h>
 
 namespace ballhaven::bench {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "bench/ChildProgram.h"
+#include "support/TemporaryDirectory.h"
+
 #include <chrono>
 #include <cstddef>
 #include <string>
-
-#include "bench/ChildProgram.h"
-#include "support/TemporaryDirectory.h"
 
 namespace ballhaven::bench {
 

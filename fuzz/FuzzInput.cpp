@@ -1,10 +1,10 @@
 #include "fuzz/FuzzInput.h"
 
+#include "state/AppState.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-
-#include "state/AppState.h"
 
 namespace ballhaven::fuzz {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "support/TemporaryDirectory.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
-
-#include "support/TemporaryDirectory.h"
 
 namespace ballhaven::fuzz {
 

@@ -1,11 +1,11 @@
 #include "state/GameTable.h"
 
+#include "fuzz/FuzzInput.h"
+#include "state/AppState.h"
+
 #include <algorithm>
 #include <string>
 #include <tuple>
-
-#include "fuzz/FuzzInput.h"
-#include "state/AppState.h"
 
 namespace ballhaven::fuzz {
 namespace {

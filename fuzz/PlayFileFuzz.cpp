@@ -1,9 +1,9 @@
 #include "plays/PlayFile.h"
 
-#include <string>
-
 #include "fuzz/FuzzInput.h"
 #include "state/AppState.h"
+
+#include <string>
 
 namespace ballhaven::fuzz {
 namespace {

@@ -1,10 +1,10 @@
 #include "wheels/ShuffleFile.h"
 
-#include <algorithm>
-#include <string>
-
 #include "fuzz/FuzzInput.h"
 #include "state/AppState.h"
+
+#include <algorithm>
+#include <string>
 
 namespace ballhaven::fuzz {
 namespace {

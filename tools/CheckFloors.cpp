@@ -1,8 +1,8 @@
 // ballhaven_floors DIR: prints the faults that the floors of the source tree in DIR have; 1 if there is one.
 
-#include <iostream>
-
 #include "tools/FloorCheck.h"
+
+#include <iostream>
 
 int main(int argumentCount, char** arguments) {
     if (argumentCount != 2) {

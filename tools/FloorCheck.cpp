@@ -45,7 +45,7 @@ void ReadFloors(const fs::path& list, House& house) {
     }
     std::smatch match;
     for (std::string line; std::getline(input, line);) {
-        if (line.empty() || line.front() == '#') {
+        if (line.empty() || line.front() == '#' || line.starts_with("folder ")) {
             continue;
         }
         if (!std::regex_match(line, match, row)) {

@@ -2,12 +2,11 @@
 // offered at the loopback address alone. run.sh uses it for the toolkit's VNC server, which has no setting for that.
 
 #include <arpa/inet.h>
+#include <cstring>
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
 #include <unistd.h>
-
-#include <cstring>
 
 namespace {
 

@@ -1,10 +1,10 @@
 // ballhaven_sample DIR: makes sample games in a program folder that has no data yet.
 
-#include <iostream>
-#include <string>
-
 #include "state/RuntimeFailure.h"
 #include "tools/SampleGames.h"
+
+#include <iostream>
+#include <string>
 
 int main(int argumentCount, char** arguments) {
     if (argumentCount != 2) {

@@ -1,5 +1,15 @@
 #include "tools/SampleGames.h"
 
+#include "history/HistoryFile.h"
+#include "plays/PlayFile.h"
+#include "plays/PlayMethodCode.h"
+#include "plays/PlaySlips.h"
+#include "state/AppState.h"
+#include "state/GameRecordColumns.h"
+#include "state/GameTable.h"
+#include "state/modUTILS.h"
+#include "wheels/ShuffleFile.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -7,15 +17,6 @@
 #include <random>
 #include <string>
 #include <vector>
-
-#include "history/HistoryFile.h"
-#include "plays/PlayFile.h"
-#include "plays/PlayMethodCode.h"
-#include "state/AppState.h"
-#include "state/GameRecordColumns.h"
-#include "state/GameTable.h"
-#include "state/modUTILS.h"
-#include "wheels/ShuffleFile.h"
 
 namespace ballhaven::tools {
 namespace {

@@ -1,19 +1,19 @@
 #include "calendar/Calendar.h"
 
+#include "calendar/MonthLayout.h"
+#include "calendar/MonthPainting.h"
+#include "forms/CalendarForm.h"
+#include "forms/MainForm.h"
+#include "platform/Boxes.h"
+#include "platform/Pointer.h"
+#include "platform/Services.h"
+#include "platform/controls/Grid.h"
+#include "state/AppState.h"
+#include "state/DateMask.h"
+
 #include <algorithm>
 #include <optional>
 #include <string>
-
-#include "calendar/CalendarForm.h"
-#include "calendar/DateMask.h"
-#include "calendar/MonthLayout.h"
-#include "calendar/MonthPainting.h"
-#include "platform/Grid.h"
-#include "platform/MessageBox.h"
-#include "platform/Pointer.h"
-#include "platform/Services.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
 
 namespace ballhaven {
 
@@ -25,8 +25,6 @@ using platform::MouseButton;
 using platform::PixelPoint;
 using platform::SurfaceKey;
 
-CalendarForm& form = ahcCalendar;
-
 constexpr std::int16_t cancelButton = 0;
 constexpr std::int16_t okButton = 1;
 
@@ -35,54 +33,53 @@ constexpr int openingLeft = 500;
 constexpr int openingTop = 1000;
 
 void ShowFocusRect(bool shown) {
-    if (form.dragging != shown) {
-        form.dragging = shown;
-        form.surface.DrawFocusRect(form.focusRect);
+    if (ahcCalendar.dragging != shown) {
+        ahcCalendar.dragging = shown;
+        ahcCalendar.surface.DrawFocusRect(ahcCalendar.focusRect);
     }
 }
 
 void Open() {
-    form.result = cancelButton;
+    ahcCalendar.result = cancelButton;
     ShowFocusRect(false);  // of a drag that the last closing cut short
     const platform::Bounds& picture = frmMainForm.Picture1.bounds;
-    form.window.MoveTo(frmMainForm.window.Left() + picture.left + openingLeft,
-                       frmMainForm.window.Top() + picture.top + openingTop);
+    ahcCalendar.window.MoveTo(frmMainForm.window.Left() + picture.left + openingLeft,
+                              frmMainForm.window.Top() + picture.top + openingTop);
 }
 
 void Prepare() {
     MeasureCalendar();
     FillWeekdayLetters();
-    if (!form.Today.ok()) {
-        form.Today = platform::services.today();
+    if (!ahcCalendar.Today.ok()) {
+        ahcCalendar.Today = platform::services.today();
     }
-    if (form.OutputFormat.empty()) {
-        form.OutputFormat = DateMaskOf(appState.shortDateFormat);
+    if (ahcCalendar.OutputFormat.empty()) {
+        ahcCalendar.OutputFormat = DateMaskOf(appState.shortDateFormat);
     }
     LayOutMonth();
 }
 
 /// A closing that has been refused leaves no result: any other way out is a "Cancel".
 void Close(std::int16_t button) {
-    form.result = button;
-    if (button == okButton && form.acceptDate && !form.acceptDate(FormatDate(form.Today, form.OutputFormat))) {
-        form.result = cancelButton;
-        platform::ShowArrow();
+    ahcCalendar.result = button;
+    if (button == okButton && ahcCalendar.acceptDate &&
+        !ahcCalendar.acceptDate(FormatDate(ahcCalendar.Today, ahcCalendar.OutputFormat))) {
+        ahcCalendar.result = cancelButton;
         return;
     }
-    form.window.Unload();
-    platform::ShowArrow();
+    ahcCalendar.window.Unload();
 }
 
 void PressLeft(PixelPoint place) {
-    if (form.prevRect.Holds(place)) {
+    if (ahcCalendar.prevRect.Holds(place)) {
         StepMonth(-1);
-    } else if (form.nextRect.Holds(place)) {
+    } else if (ahcCalendar.nextRect.Holds(place)) {
         StepMonth(1);
     } else if (IsInDayArea(place)) {
         AimAt(place);
         ShowFocusRect(true);
     }
-    form.surface.Repaint();
+    ahcCalendar.surface.Repaint();
 }
 
 void Press(MouseButton button, PixelPoint place) {
@@ -94,7 +91,7 @@ void Press(MouseButton button, PixelPoint place) {
 }
 
 void Drag(bool leftHeld, PixelPoint place) {
-    if (leftHeld && form.dragging && IsInDayArea(place)) {
+    if (leftHeld && ahcCalendar.dragging && IsInDayArea(place)) {
         ShowFocusRect(false);
         AimAt(place);
         ShowFocusRect(true);
@@ -102,10 +99,10 @@ void Drag(bool leftHeld, PixelPoint place) {
 }
 
 void Release() {
-    if (form.dragging) {
+    if (ahcCalendar.dragging) {
         ShowFocusRect(false);
         SelectAimedDay();
-        form.surface.Repaint();
+        ahcCalendar.surface.Repaint();
     }
 }
 
@@ -121,7 +118,7 @@ bool ServeKey(SurfaceKey key) {
 // the log. Letting the keys through would store dates that nobody looked at.
 void ReleaseOverButton(std::int16_t index, MouseButton mouseButton) {
     if (mouseButton != MouseButton::Right) {
-        platform::ShowHourglass();
+        const platform::WaitPointer waiting;
         Close(index);
     }
 }
@@ -171,37 +168,36 @@ void CallTakeText(Control& control, const std::string& text) {
 }  // namespace
 
 void WireCalendar() {
-    form.window.layout = LayOutCalendar;
-    form.window.load = Open;
-    form.window.activate = platform::ShowArrow;
-    form.prepare = Prepare;
-    form.surface.paint = PaintCalendar;
-    form.surface.mouseDown = Press;
-    form.surface.mouseMove = Drag;
-    form.surface.mouseUp = [](MouseButton, PixelPoint) { Release(); };
-    form.surface.keyDown = ServeKey;
-    form.cmdCal[0].mouseUp = [](MouseButton button) { ReleaseOverButton(cancelButton, button); };
-    form.cmdCal[1].mouseUp = [](MouseButton button) { ReleaseOverButton(okButton, button); };
+    ahcCalendar.window.layout = LayOutCalendar;
+    ahcCalendar.window.load = Open;
+    ahcCalendar.prepare = Prepare;
+    ahcCalendar.surface.paint = PaintCalendar;
+    ahcCalendar.surface.mouseDown = Press;
+    ahcCalendar.surface.mouseMove = Drag;
+    ahcCalendar.surface.mouseUp = [](MouseButton, PixelPoint) { Release(); };
+    ahcCalendar.surface.keyDown = ServeKey;
+    ahcCalendar.cmdCal[0].mouseUp = [](MouseButton button) { ReleaseOverButton(cancelButton, button); };
+    ahcCalendar.cmdCal[1].mouseUp = [](MouseButton button) { ReleaseOverButton(okButton, button); };
 }
 
 void AttachControl(Control& control) {
-    form.OutputControl = &control;
+    ahcCalendar.OutputControl = &control;
     const std::optional<platform::Bounds> place = control.ScreenPlace();
     if (!place) {
-        platform::ShowMessageBox("Error while attaching to a control: " + control.name + " is not on the screen",
-                                 platform::BoxButtons::Ok, platform::BoxIcon::Critical);
+        platform::Tell("Error while attaching to a control: " + control.name + " is not on the screen",
+                       platform::BoxIcon::Critical);
         return;
     }
-    form.window.Load();
-    form.window.MoveTo(place->left, place->top + place->height);
+    ahcCalendar.window.Load();
+    ahcCalendar.window.MoveTo(place->left, place->top + place->height);
 }
 
 void SendDateToControl() {
-    if (form.OutputControl == nullptr) {
+    if (ahcCalendar.OutputControl == nullptr) {
         return;
     }
-    Control& control = *form.OutputControl;
-    const std::string date = FormatDate(form.Today, form.OutputFormat);
+    Control& control = *ahcCalendar.OutputControl;
+    const std::string date = FormatDate(ahcCalendar.Today, ahcCalendar.OutputFormat);
     if (!SetText(control, date) && !SetCaption(control, date)) {
         CallTakeText(control, date);
     }

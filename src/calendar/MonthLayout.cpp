@@ -1,13 +1,13 @@
 #include "calendar/MonthLayout.h"
 
-#include <algorithm>
-#include <chrono>
-#include <cmath>
-
-#include "calendar/CalendarForm.h"
+#include "forms/CalendarForm.h"
 #include "platform/Services.h"
 #include "state/RuntimeFailure.h"
 #include "state/modUTILS.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
 
 namespace ballhaven {
 
@@ -23,8 +23,6 @@ using std::chrono::sys_days;
 using std::chrono::weekday;
 using std::chrono::year_month;
 using std::chrono::year_month_day;
-
-CalendarForm& form = ahcCalendar;
 
 constexpr int weekLength = 7;
 constexpr int firstDayRow = 2;
@@ -47,17 +45,17 @@ year_month_day DateInMonth(year_month month, int day) {
 }
 
 void PutCell(int cell, int day, std::int16_t colour) {
-    form.dayNumber[static_cast<std::size_t>(cell)] = ToInt16(day);
-    form.dayColour[static_cast<std::size_t>(cell)] = colour;
+    ahcCalendar.dayNumber[static_cast<std::size_t>(cell)] = ToInt16(day);
+    ahcCalendar.dayColour[static_cast<std::size_t>(cell)] = colour;
 }
 
 void PutDayOfMonth(int cell, year_month_day date) {
     PutCell(cell, DayOf(date), shownMonthColour);
-    if (date == form.Today) {
-        form.selectedCell = ToInt16(cell);
+    if (date == ahcCalendar.Today) {
+        ahcCalendar.selectedCell = ToInt16(cell);
     }
     if (date == platform::services.today()) {
-        form.todayCell = ToInt16(cell);
+        ahcCalendar.todayCell = ToInt16(cell);
     }
 }
 
@@ -68,41 +66,41 @@ int PlaceInWeek(weekday day) {
 
 /// The cell under the mouse. Cell 0 and the cells before it stand on the line above the first row of days.
 int AimedCell() {
-    return (form.hitRow - firstDayRow) * weekLength + form.hitColumn + 1;
+    return (ahcCalendar.hitRow - firstDayRow) * weekLength + ahcCalendar.hitColumn + 1;
 }
 
 void SelectInMonth(year_month month, int day) {
-    form.Today = DateInMonth(month, day);
+    ahcCalendar.Today = DateInMonth(month, day);
     LayOutMonth();
 }
 
 }  // namespace
 
 void MeasureCalendar() {
-    form.charHeight = ToInt16(form.surface.TextHeight());
-    form.cellWidth = ToInt16(form.surface.TextWidth("777"));
-    const int width = 8 * form.cellWidth * twipsPerPixel;
-    const int height = 23 * form.charHeight * twipsPerPixel / 2;  // 11.5 lines
-    form.window.Resize(width + Window::frameWidth, height + Window::frameHeight);
-    form.surface.bounds = platform::Bounds{0, 0, width, height};
+    ahcCalendar.charHeight = ToInt16(ahcCalendar.surface.TextHeight());
+    ahcCalendar.cellWidth = ToInt16(ahcCalendar.surface.TextWidth("777"));
+    const int width = 8 * ahcCalendar.cellWidth * twipsPerPixel;
+    const int height = 23 * ahcCalendar.charHeight * twipsPerPixel / 2;  // 11.5 lines
+    ahcCalendar.window.Resize(width + Window::frameWidth, height + Window::frameHeight);
+    ahcCalendar.surface.bounds = platform::Bounds{0, 0, width, height};
 
-    form.rowHeight = ToInt16(form.charHeight + 1);
-    form.gridLeft = modUTILS::Divide(std::lrint(InnerWidth() - 7.5 * form.cellWidth), 2);
-    form.gridTop = ToInt16(2 * form.rowHeight);
-    form.prevRect = {2, 2, 13, 13};
-    form.nextRect = {InnerWidth() - 14, 2, InnerWidth() - 2, 13};
+    ahcCalendar.rowHeight = ToInt16(ahcCalendar.charHeight + 1);
+    ahcCalendar.gridLeft = modUTILS::Divide(std::lrint(InnerWidth() - 7.5 * ahcCalendar.cellWidth), 2);
+    ahcCalendar.gridTop = ToInt16(2 * ahcCalendar.rowHeight);
+    ahcCalendar.prevRect = {2, 2, 13, 13};
+    ahcCalendar.nextRect = {InnerWidth() - 14, 2, InnerWidth() - 2, 13};
 }
 
 int InnerWidth() {
-    return form.surface.bounds->width / twipsPerPixel;
+    return ahcCalendar.surface.bounds->width / twipsPerPixel;
 }
 
 void FillWeekdayLetters() {
     const weekday first = platform::services.firstDayOfWeek();
     for (int i = 1; i <= weekLength; ++i) {
         const std::string letter = platform::services.shortDayName(first + days{i - 1}).substr(0, 1);
-        form.weekdayLetter[static_cast<std::size_t>(i)] = letter;
-        form.weekdayLetter[static_cast<std::size_t>(i + weekLength)] = letter;
+        ahcCalendar.weekdayLetter[static_cast<std::size_t>(i)] = letter;
+        ahcCalendar.weekdayLetter[static_cast<std::size_t>(i + weekLength)] = letter;
     }
 }
 
@@ -110,18 +108,18 @@ void FillWeekdayLetters() {
 // the columns of the calendar are the same on every machine. Only the letters come from the system; beginning the rows
 // with its first day would move every day of users who know the calendar by its columns.
 void LayOutMonth() {
-    form.shownMonth = form.Today.year() / form.Today.month();
-    form.selectedCell = 0;
-    form.todayCell = 0;
-    const auto firstCell = static_cast<int>(weekday{sys_days{form.shownMonth / 1}}.iso_encoding());
-    const int lastDayBefore = LastDayOf(form.shownMonth - months{1});
-    const int behindLastCell = firstCell + LastDayOf(form.shownMonth);
+    ahcCalendar.shownMonth = ahcCalendar.Today.year() / ahcCalendar.Today.month();
+    ahcCalendar.selectedCell = 0;
+    ahcCalendar.todayCell = 0;
+    const auto firstCell = static_cast<int>(weekday{sys_days{ahcCalendar.shownMonth / 1}}.iso_encoding());
+    const int lastDayBefore = LastDayOf(ahcCalendar.shownMonth - months{1});
+    const int behindLastCell = firstCell + LastDayOf(ahcCalendar.shownMonth);
     PutCell(0, 0, shownMonthColour);
     for (int cell = 1; cell < firstCell; ++cell) {
         PutCell(cell, lastDayBefore - firstCell + 1 + cell, besideColour);
     }
     for (int cell = firstCell; cell < behindLastCell; ++cell) {
-        PutDayOfMonth(cell, DateInMonth(form.shownMonth, cell - firstCell + 1));
+        PutDayOfMonth(cell, DateInMonth(ahcCalendar.shownMonth, cell - firstCell + 1));
     }
     for (int cell = behindLastCell; cell <= calendarCells; ++cell) {
         PutCell(cell, cell - behindLastCell + 1, besideColour);
@@ -129,14 +127,15 @@ void LayOutMonth() {
 }
 
 const std::string& LetterOverColumn(int column) {
-    const year_month month = form.dayColour[1] == besideColour ? form.shownMonth - months{1} : form.shownMonth;
-    const weekday firstShown{sys_days{DateInMonth(month, form.dayNumber[1])}};
-    return form.weekdayLetter.at(static_cast<std::size_t>(column + PlaceInWeek(firstShown)));
+    const year_month month =
+        ahcCalendar.dayColour[1] == besideColour ? ahcCalendar.shownMonth - months{1} : ahcCalendar.shownMonth;
+    const weekday firstShown{sys_days{DateInMonth(month, ahcCalendar.dayNumber[1])}};
+    return ahcCalendar.weekdayLetter.at(static_cast<std::size_t>(column + PlaceInWeek(firstShown)));
 }
 
 void StepMonth(int monthsOnward) {
-    const year_month month = form.shownMonth + months{monthsOnward};
-    SelectInMonth(month, std::min(DayOf(form.Today), LastDayOf(month)));
+    const year_month month = ahcCalendar.shownMonth + months{monthsOnward};
+    SelectInMonth(month, std::min(DayOf(ahcCalendar.Today), LastDayOf(month)));
 }
 
 // QUIRK CALENDAR-LINE-1: the line of pixels above the first row of days belongs to the days, but to no cell. In the
@@ -147,15 +146,16 @@ void StepMonth(int monthsOnward) {
 bool IsInDayArea(PixelPoint place) {
     const int x = place.x - dayAreaLeft;
     const int y = place.y + 1;
-    return 0 <= x && x < weekLength * form.cellWidth && 2 * form.rowHeight <= y && y < 8 * form.rowHeight;
+    return 0 <= x && x < weekLength * ahcCalendar.cellWidth && 2 * ahcCalendar.rowHeight <= y &&
+           y < 8 * ahcCalendar.rowHeight;
 }
 
 void AimAt(PixelPoint place) {
-    form.hitColumn = modUTILS::Divide(place.x - dayAreaLeft, form.cellWidth);
-    form.hitRow = modUTILS::Divide(place.y, form.rowHeight);
-    const int left = form.cellWidth * form.hitColumn + dayAreaLeft;
-    const int top = form.hitRow * form.rowHeight;
-    form.focusRect = {left, top, left + form.cellWidth + 1, top + form.rowHeight - 1};
+    ahcCalendar.hitColumn = modUTILS::Divide(place.x - dayAreaLeft, ahcCalendar.cellWidth);
+    ahcCalendar.hitRow = modUTILS::Divide(place.y, ahcCalendar.rowHeight);
+    const int left = ahcCalendar.cellWidth * ahcCalendar.hitColumn + dayAreaLeft;
+    const int top = ahcCalendar.hitRow * ahcCalendar.rowHeight;
+    ahcCalendar.focusRect = {left, top, left + ahcCalendar.cellWidth + 1, top + ahcCalendar.rowHeight - 1};
 }
 
 void SelectAimedDay() {
@@ -163,15 +163,15 @@ void SelectAimedDay() {
     if (cell < 0 || cell > calendarCells) {
         throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
     }
-    const int day = form.dayNumber[static_cast<std::size_t>(cell)];
-    const bool isBeside = form.dayColour[static_cast<std::size_t>(cell)] == besideColour;
-    if (isBeside && form.hitRow == firstDayRow) {
-        SelectInMonth(form.shownMonth - months{1}, day);
-    } else if (isBeside && form.hitRow >= firstRowOfNextMonth) {
-        SelectInMonth(form.shownMonth + months{1}, day);
+    const int day = ahcCalendar.dayNumber[static_cast<std::size_t>(cell)];
+    const bool isBeside = ahcCalendar.dayColour[static_cast<std::size_t>(cell)] == besideColour;
+    if (isBeside && ahcCalendar.hitRow == firstDayRow) {
+        SelectInMonth(ahcCalendar.shownMonth - months{1}, day);
+    } else if (isBeside && ahcCalendar.hitRow >= firstRowOfNextMonth) {
+        SelectInMonth(ahcCalendar.shownMonth + months{1}, day);
     } else {
-        form.Today = DateInMonth(form.shownMonth, day);
-        form.selectedCell = ToInt16(cell);
+        ahcCalendar.Today = DateInMonth(ahcCalendar.shownMonth, day);
+        ahcCalendar.selectedCell = ToInt16(cell);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DrawingSurface.h"
+#include "platform/controls/DrawingSurface.h"
 
 namespace ballhaven {
 

@@ -1,10 +1,10 @@
 #include "calendar/MonthPainting.h"
 
-#include <string>
-
-#include "calendar/CalendarForm.h"
-#include "calendar/DateMask.h"
 #include "calendar/MonthLayout.h"
+#include "forms/CalendarForm.h"
+#include "state/DateMask.h"
+
+#include <string>
 
 namespace ballhaven {
 
@@ -17,8 +17,6 @@ using platform::Canvas;
 using platform::Color;
 using platform::PixelPoint;
 using platform::white;
-
-const CalendarForm& form = ahcCalendar;
 
 constexpr Color darkBlue{0, 0, 128};
 constexpr Color grey{128, 128, 128};
@@ -54,60 +52,62 @@ void PaintArrow(Canvas& canvas, int x, int direction) {
 }
 
 void PaintArrowButtons(Canvas& canvas) {
-    PaintRaisedButton(canvas, form.prevRect.left);
+    PaintRaisedButton(canvas, ahcCalendar.prevRect.left);
     PaintArrow(canvas, 8, -1);
-    PaintRaisedButton(canvas, form.nextRect.left);
-    PaintArrow(canvas, form.nextRect.left + 4, 1);
+    PaintRaisedButton(canvas, ahcCalendar.nextRect.left);
+    PaintArrow(canvas, ahcCalendar.nextRect.left + 4, 1);
 }
 
 void PaintTitle(Canvas& canvas) {
-    const int left = form.prevRect.right + 1;
-    const int right = form.nextRect.left - 1;
-    canvas.FillBox({left, 1}, right - left + 1, form.charHeight, buttonFaceColor);
-    const std::string title = FormatDate(form.shownMonth / 1, "mmmm yyyy");
-    canvas.DrawText({InnerWidth() / 2 - form.surface.TextWidth(title) / 2, 0}, title, black);
+    const int left = ahcCalendar.prevRect.right + 1;
+    const int right = ahcCalendar.nextRect.left - 1;
+    canvas.FillBox({left, 1}, right - left + 1, ahcCalendar.charHeight, buttonFaceColor);
+    const std::string title = FormatDate(ahcCalendar.shownMonth / 1, "mmmm yyyy");
+    canvas.DrawText({InnerWidth() / 2 - ahcCalendar.surface.TextWidth(title) / 2, 0}, title, black);
 }
 
 /// Prints a text that ends at the right of a column of days, 1 to 7.
 void PrintInColumn(Canvas& canvas, int column, int y, const std::string& text, const Color& color) {
-    const int right = form.cellWidth * column + form.gridLeft;
-    canvas.DrawText({right - form.surface.TextWidth(text), y}, text, color);
+    const int right = ahcCalendar.cellWidth * column + ahcCalendar.gridLeft;
+    canvas.DrawText({right - ahcCalendar.surface.TextWidth(text), y}, text, color);
 }
 
 void PaintWeekdays(Canvas& canvas) {
     for (int column = 1; column <= 7; ++column) {
-        PrintInColumn(canvas, column, form.rowHeight, LetterOverColumn(column), black);
+        PrintInColumn(canvas, column, ahcCalendar.rowHeight, LetterOverColumn(column), black);
     }
 }
 
 void PaintDayArea(Canvas& canvas) {
-    canvas.FillBox({2, 2 * form.charHeight}, InnerWidth() - 4, 7 * form.charHeight, buttonFaceColor);
-    const int ruleY = 2 * form.charHeight - 1;
+    canvas.FillBox({2, 2 * ahcCalendar.charHeight}, InnerWidth() - 4, 7 * ahcCalendar.charHeight, buttonFaceColor);
+    const int ruleY = 2 * ahcCalendar.charHeight - 1;
     const int ruleLength = InnerWidth() - 12;
     Pen(canvas, {6, ruleY}).Run(ruleLength, 0, buttonShadowColor);
     Pen(canvas, {6, ruleY + 1}).Run(ruleLength, 0, white);
 }
 
 void PaintSunkenFrame(Canvas& canvas, int left, int y) {
-    Pen(canvas, {left, y}).Run(form.cellWidth, 0, buttonShadowColor);
-    Pen(canvas, {left, y}).Run(0, form.rowHeight - 1, buttonShadowColor);
-    Pen(canvas, {left + form.cellWidth, y}).Run(0, form.rowHeight - 2, white).Run(-form.cellWidth, 0, white);
+    Pen(canvas, {left, y}).Run(ahcCalendar.cellWidth, 0, buttonShadowColor);
+    Pen(canvas, {left, y}).Run(0, ahcCalendar.rowHeight - 1, buttonShadowColor);
+    Pen(canvas, {left + ahcCalendar.cellWidth, y})
+        .Run(0, ahcCalendar.rowHeight - 2, white)
+        .Run(-ahcCalendar.cellWidth, 0, white);
 }
 
 void PaintCell(Canvas& canvas, int row, int column) {
     const int cell = (row - 1) * 7 + column;
-    const int left = (column - 1) * form.cellWidth + 5;
-    const int y = (row + 1) * form.rowHeight;
-    Color color = form.dayColour[static_cast<std::size_t>(cell)] == 0 ? black : grey;
-    if (cell == form.selectedCell) {
+    const int left = (column - 1) * ahcCalendar.cellWidth + 5;
+    const int y = (row + 1) * ahcCalendar.rowHeight;
+    Color color = ahcCalendar.dayColour[static_cast<std::size_t>(cell)] == 0 ? black : grey;
+    if (cell == ahcCalendar.selectedCell) {
         color = white;
-        canvas.FillBox({left + 1, y}, form.cellWidth - 1, form.rowHeight - 2, darkBlue);
+        canvas.FillBox({left + 1, y}, ahcCalendar.cellWidth - 1, ahcCalendar.rowHeight - 2, darkBlue);
     }
-    if (cell == form.todayCell) {
+    if (cell == ahcCalendar.todayCell) {
         PaintSunkenFrame(canvas, left, y);
     }
-    const int textY = (row - 1) * form.rowHeight + form.gridTop;
-    PrintInColumn(canvas, column, textY, std::to_string(form.dayNumber[static_cast<std::size_t>(cell)]), color);
+    const int textY = (row - 1) * ahcCalendar.rowHeight + ahcCalendar.gridTop;
+    PrintInColumn(canvas, column, textY, std::to_string(ahcCalendar.dayNumber[static_cast<std::size_t>(cell)]), color);
 }
 
 void PaintCells(Canvas& canvas) {

@@ -1,41 +1,37 @@
 #include "games/GameDialog.h"
 
-#include <string>
-
+#include "forms/NewGameForm.h"
+#include "forms/SelectorLists.h"
 #include "games/GameRules.h"
-#include "games/NewGameForm.h"
-#include "platform/MessageBox.h"
-#include "platform/Pointer.h"
-#include "screen/SelectorLists.h"
+#include "platform/Boxes.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 
+#include <string>
+
 namespace ballhaven {
 
 namespace {
-
-NewGameForm& form = frmNewGame;
 
 constexpr char enterKey = '\r';
 constexpr int alteringGame = 2;
 
 void Load() {
     LoadGameRecord(appState.gameDialogSlot);
-    form.saved = false;
-    form.loading = true;
-    form.window.title = "Add a New Game";
+    frmNewGame.saved = false;
+    frmNewGame.loading = true;
+    frmNewGame.window.title = "Add a New Game";
     if (appState.gameDialogMode == alteringGame) {
-        form.window.title = "Alter Game Configuration";
+        frmNewGame.window.title = "Alter Game Configuration";
         appState.gameDialogSlot = appState.currentGame;
     }
     FillGameDialog();
-    form.loading = false;
+    frmNewGame.loading = false;
 }
 
 void Activate() {
-    platform::ShowArrow();
-    form.filling = false;
+    frmNewGame.filling = false;
 }
 
 /// The Enter key of the name box leads on to the kind of game instead of doing nothing.
@@ -47,9 +43,8 @@ bool ServeNameKey(char key) {
 }
 
 void Save() {
-    if (modUTILS::Trimmed(*form.txtNewGame[0].text).empty()) {
-        platform::ShowMessageBox("You must enter a name for this game", platform::BoxButtons::Ok,
-                                 platform::BoxIcon::None, "Ballhaven");
+    if (modUTILS::Trimmed(*frmNewGame.txtNewGame[0].text).empty()) {
+        platform::Tell("You must enter a name for this game");
         return;
     }
     TakeGameRules();
@@ -59,13 +54,13 @@ void Save() {
     // QUIRK GAME-DIALOG-MODE-1: the mode stays as it is, so the main window loads the game anew not only when it comes
     // back now, but each time it comes back from another window, until the dialog is cancelled. It is meant: the first
     // of these loads is what shows the game. Clearing the mode here would leave the old game's tables on screen.
-    form.saved = true;
-    form.window.Unload();
+    frmNewGame.saved = true;
+    frmNewGame.window.Unload();
 }
 
 /// Closing in any way but by "Save" is a "Cancel".
 void Unload() {
-    if (!form.saved) {
+    if (!frmNewGame.saved) {
         // QUIRK GAME-CANCEL-1: after an add the game variables describe the free slot, while the main window still
         // shows the old game's draws and tables. It is meant: the slot has been given up for the new game already, and
         // the next switch tells what is in it. Switching here would show an empty game where the user changed his mind.
@@ -76,7 +71,7 @@ void Unload() {
 
 void OnChange(GameList list, void (*change)()) {
     ListOf(list).change = [change] {
-        if (!form.filling) {
+        if (!frmNewGame.filling) {
             change();
         }
     };
@@ -85,18 +80,18 @@ void OnChange(GameList list, void (*change)()) {
 }  // namespace
 
 void WireGameDialog() {
-    form.window.layout = LayOutNewGameForm;
-    form.window.load = Load;
-    form.window.activate = Activate;
-    form.window.unload = Unload;
-    form.txtNewGame[0].keyPress = ServeNameKey;
+    frmNewGame.window.layout = LayOutNewGameForm;
+    frmNewGame.window.load = Load;
+    frmNewGame.window.activate = Activate;
+    frmNewGame.window.unload = Unload;
+    frmNewGame.txtNewGame[0].keyPress = ServeNameKey;
     OnChange(gameTypeList, ChangeGameType);
     OnChange(mainCountList, ChangeMainCount);
     OnChange(bonusCountList, ChangeBonusCount);
     OnChange(duplicatesList, RefreshHighestLists);
     OnChange(mainLowList, RefreshHighestLists);
-    form.cmdNewGame[1].click = Save;
-    form.cmdNewGame[0].click = [] { form.window.Unload(); };
+    frmNewGame.cmdNewGame[1].click = Save;
+    frmNewGame.cmdNewGame[0].click = [] { frmNewGame.window.Unload(); };
 }
 
 }  // namespace ballhaven

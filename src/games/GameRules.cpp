@@ -1,23 +1,21 @@
 #include "games/GameRules.h"
 
-#include <algorithm>
-#include <iterator>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include "games/NewGameForm.h"
+#include "forms/NewGameForm.h"
 #include "platform/Application.h"
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace ballhaven {
 
 namespace {
-
-NewGameForm& form = frmNewGame;
 
 constexpr int mostPicks = 10;
 constexpr int highestNumber = 99;
@@ -70,7 +68,7 @@ bool RecordSays(RecordField field, const char* text) {
 void FillName() {
     const std::string name = FieldText(appState.gameRecord, gameField::name);
     if (!name.starts_with(undefinedGameName)) {
-        form.txtNewGame[0].text = modUTILS::Trimmed(name);
+        frmNewGame.txtNewGame[0].text = modUTILS::Trimmed(name);
     }
 }
 
@@ -93,7 +91,7 @@ void FillCounts(int type) {
 }
 
 void FillOrder() {
-    const bool matters = form.loading && !RecordSays(gameField::order, "N");
+    const bool matters = frmNewGame.loading && !RecordSays(gameField::order, "N");
     ListOf(orderList).Fill({"No", "Yes"});
     ListOf(orderList).Select(matters ? 1 : 0);
     SetField(appState.gameRecord, gameField::order, matters ? "Y" : "N");
@@ -227,7 +225,7 @@ int HighestNumberLimit(bool duplicates, int picks, int low) {
 
 void FillGameDialog() {
     const int type = RecordValue(gameField::gameType);
-    form.filling = true;
+    frmNewGame.filling = true;
     FillName();
     FillGameTypes(type);
     FillCounts(type);
@@ -242,21 +240,21 @@ void FillGameDialog() {
 void ChangeGameType() {
     appState.gameRecord = BuildDefaultGameRecord(appState.gameDialogSlot, ListOf(gameTypeList).Selected());
     FillGameDialog();
-    form.filling = false;
+    frmNewGame.filling = false;
 }
 
 void ChangeMainCount() {
-    form.filling = true;
+    frmNewGame.filling = true;
     OfferWhatIsLeft(mainCountList, bonusCountList, CountOf(bonusCountList, gameField::bonusPickCount));
     RefreshHighestLists();
-    form.filling = false;
+    frmNewGame.filling = false;
 }
 
 void ChangeBonusCount() {
-    form.filling = true;
+    frmNewGame.filling = true;
     OfferWhatIsLeft(bonusCountList, mainCountList, CountOf(mainCountList, gameField::mainPickCount));
     RefreshHighestLists();
-    form.filling = false;
+    frmNewGame.filling = false;
 }
 
 void RefreshHighestLists() {
@@ -272,7 +270,7 @@ void RefreshHighestLists() {
 
 void TakeGameRules() {
     std::string& record = appState.gameRecord;
-    SetField(record, gameField::name, modUTILS::Trimmed(*form.txtNewGame[0].text));
+    SetField(record, gameField::name, modUTILS::Trimmed(*frmNewGame.txtNewGame[0].text));
     appState.gameType = modUTILS::ToInt16(ListOf(gameTypeList).Selected());
     SetField(record, gameField::gameType, std::to_string(appState.gameType));
     appState.mainPickCount = modUTILS::ToInt16(SelectedNumber(mainCountList));

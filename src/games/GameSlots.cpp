@@ -1,22 +1,22 @@
 #include "games/GameSlots.h"
 
-#include <algorithm>
-#include <string>
-
-#include "games/NewGameForm.h"
+#include "forms/MainForm.h"
+#include "forms/NewGameForm.h"
+#include "forms/SelectorLists.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
-#include "platform/MessageBox.h"
+#include "platform/Boxes.h"
 #include "platform/Pointer.h"
 #include "plays/PlayFile.h"
 #include "plays/PlayMethodCode.h"
-#include "screen/MainForm.h"
-#include "screen/SelectorLists.h"
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "wheels/ShuffleFile.h"
+
+#include <algorithm>
+#include <string>
 
 namespace ballhaven {
 
@@ -92,8 +92,7 @@ void AddGame() {
     }
     const int slot = FirstFreeSlot();
     if (slot == 0) {
-        platform::ShowMessageBox("You already have 20 games configured.\nYou must first delete an existing game.",
-                                 platform::BoxButtons::Ok, platform::BoxIcon::None, "Ballhaven");
+        platform::Tell("You already have 20 games configured.\nYou must first delete an existing game.");
         return;
     }
     OpenGameDialog(slot, addingGame);
@@ -107,12 +106,10 @@ void AlterGame() {
 }
 
 void DeleteGame() {
-    platform::ShowArrow();
-    if (platform::ShowMessageBox("Delete This Game?\n\nAll data will be ERASED!", platform::BoxButtons::YesNo,
-                                 platform::BoxIcon::Critical, "Ballhaven") == platform::BoxAnswer::No) {
+    if (!platform::AskBeforeLoss("Delete This Game?\n\nAll data will be ERASED!", platform::BoxIcon::Critical)) {
         return;
     }
-    platform::ShowHourglass();
+    const platform::WaitPointer waiting;
     {
         // A pick that is still being typed must not reach the emptied game.
         const platform::GridPause pause(frmMainForm.grdHist);
@@ -120,7 +117,6 @@ void DeleteGame() {
         SwitchGame();
     }
     ListGames();
-    platform::ShowArrow();
 }
 
 void AskToSetUpGame() {
@@ -130,8 +126,7 @@ void AskToSetUpGame() {
     const std::string slot = std::to_string(frmMainForm.cboList[0].Selected() + 1);
     const std::string question =
         "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
-    if (platform::ShowMessageBox(question, platform::BoxButtons::YesNo, platform::BoxIcon::Question, "Ballhaven") ==
-        platform::BoxAnswer::Yes) {
+    if (platform::Ask(question, platform::BoxIcon::Question)) {
         OpenGameDialog(appState.currentGame, addingGame);
     }
 }

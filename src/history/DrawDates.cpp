@@ -1,14 +1,14 @@
 #include "history/DrawDates.h"
 
-#include "calendar/DateMask.h"
+#include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
 #include "history/HistoryView.h"
-#include "platform/MessageBox.h"
+#include "platform/Boxes.h"
 #include "platform/Pointer.h"
 #include "platform/Services.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
+#include "state/DateMask.h"
 #include "state/DateText.h"
 #include "state/modUTILS.h"
 
@@ -66,14 +66,11 @@ std::chrono::year_month_day DateToOffer() {
 }
 
 void SayDateExists() {
-    platform::ShowArrow();
-    platform::ShowMessageBox("Date already exists,\nplease select another date.", platform::BoxButtons::Ok,
-                             platform::BoxIcon::Information, "Ballhaven");
+    platform::Tell("Date already exists,\nplease select another date.", platform::BoxIcon::Information);
 }
 
 bool AsksToChange() {
-    return platform::ShowMessageBox("Are you sure you want to change this date?", platform::BoxButtons::YesNo) ==
-           platform::BoxAnswer::Yes;
+    return platform::Ask("Are you sure you want to change this date?");
 }
 
 void ChangeDate(std::int16_t date) {
@@ -141,7 +138,7 @@ bool TakeChosenDate(const std::string& chosen) {
         SayDateExists();
         return false;
     }
-    platform::ShowHourglass();
+    const platform::WaitPointer waiting;
     if (isNewDraw) {
         AddDraw(date);
     } else if (AsksToChange()) {
@@ -161,18 +158,16 @@ void EndDateChoice() {
     if (appState.pendingLogDate == choosingNewDraw) {
         appState.pendingLogDate = 0;
     }
-    platform::ShowArrow();
 }
 
 void BringInChosenDraw() {
     if (frmMainForm.windowStarting || appState.pendingLogDate < 1) {
         return;
     }
-    platform::ShowHourglass();
+    const platform::WaitPointer waiting;
     SortHistory();
     RefreshHistory(modUTILS::ToInt16(appState.pendingLogDate));
     appState.pendingLogDate = 0;
-    platform::ShowArrow();
     frmMainForm.gameLoading = false;
 }
 

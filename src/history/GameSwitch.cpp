@@ -1,25 +1,25 @@
 #include "history/GameSwitch.h"
 
+#include "forms/GamePresentation.h"
+#include "forms/MainForm.h"
+#include "forms/SelectorLists.h"
 #include "history/HistoryFile.h"
 #include "history/HistoryView.h"
-#include "platform/MessageBox.h"
+#include "platform/Boxes.h"
 #include "platform/Pointer.h"
 #include "plays/PlayFile.h"
-#include "screen/GamePresentation.h"
-#include "screen/MainForm.h"
-#include "screen/SelectorLists.h"
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
+#include "state/ViewRows.h"
 #include "state/modUTILS.h"
-#include "statistics/HotNumbers.h"
+#include "statistics/HotCaptions.h"
+#include "statistics/HotTables.h"
 #include "wheels/ShuffleFile.h"
 
 namespace ballhaven {
 
 namespace {
-
-MainForm& form = frmMainForm;
 
 /// The slot of the game shown last. A damaged record has slot 1.
 std::int16_t StoredSlot() {
@@ -32,7 +32,7 @@ void ChooseCurrentGame() {
         appState.currentGame = StoredSlot();
         return;
     }
-    appState.currentGame = modUTILS::ToInt16(form.cboList[0].Selected() + 1);
+    appState.currentGame = modUTILS::ToInt16(frmMainForm.cboList[0].Selected() + 1);
     SetFieldValue(appState.systemRecord, systemField::shownSlot, appState.currentGame);
     SaveSystemRecord();
 }
@@ -40,24 +40,24 @@ void ChooseCurrentGame() {
 void LoadPlays() {
     appState.currentPlay = 1;
     LoadPlayFile();
-    form.lblPlay.text = "1.A";
-    form.grdPlay.ReadAgain();
+    frmMainForm.lblPlay.text = "1.A";
+    frmMainForm.grdPlay.ReadAgain();
 }
 
 void LoadDraws() {
-    form.logLastColumn = appState.totalPicks;
+    frmMainForm.logLastColumn = appState.totalPicks;
     LoadHistory();
     BuildHistoryView();
 }
 
 void ShowHotTableFromTheTop() {
     appState.hotTableChoice = 1;
-    form.hotRowCount = modUTILS::ToInt16(appState.hotNumberLast + 1);
+    frmMainForm.hotRowCount = modUTILS::ToInt16(appState.hotNumberLast + 1);
     ShowHotNumbersCaption();
     ShowHotHeadings();
-    form.grdHot.SetRowCount(form.hotRowCount);
-    form.grdHot.ReadAgain();
-    form.grdHot.GoTo(0, 2);
+    frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
+    frmMainForm.grdHot.ReadAgain();
+    frmMainForm.grdHot.GoTo(0, 2);
 }
 
 void EmptyTables() {
@@ -69,43 +69,43 @@ void EmptyTables() {
 }
 
 void GoToNewestDraw() {
-    form.grdHist.GoToRow(appState.historySortOrder != 0 ? appState.historyViewLast : 0);
+    frmMainForm.grdHist.GoToRow(appState.historySortOrder != 0 ? appState.historyViewLast : 0);
 }
 
 void BringIntoView(std::int16_t date) {
-    form.grdHist.GoToColumn(1);
+    frmMainForm.grdHist.GoToColumn(1);
     if (date == -1) {
         GoToNewestDraw();
         return;
     }
     const int row = RowOfDate(date);
     if (row >= 0) {
-        form.grdHist.GoToRow(row);
+        frmMainForm.grdHist.GoToRow(row);
         const bool typesPicks = !IsCardGame(appState.gameType) && appState.pendingLogDate != 0;
-        form.grdHist.GoToColumn(typesPicks ? 1 : 0);
+        frmMainForm.grdHist.GoToColumn(typesPicks ? 1 : 0);
         return;
     }
     GoToNewestDraw();
     // QUIRK SMALLER-SET-1: the words speak of an added record also when the user only chose a smaller set and the
     // current draw is not in it. They are meant: in both cases the way out is a larger set.
     if (appState.pendingLogDate != -1) {
-        platform::ShowMessageBox(
+        platform::Tell(
             "The record you have added cannot be displayed within the selected history set.\n"
             "If you wish to see this record, select larger history set.");
     }
-    form.grdHist.GoToColumn(0);
+    frmMainForm.grdHist.GoToColumn(0);
 }
 
 }  // namespace
 
 void SwitchGame() {
-    platform::ShowHourglass();
+    const platform::WaitPointer waiting;
     appState.colorMode = 0;
     OpenGameTable();
     ChooseCurrentGame();
     ClearHiLiteBoxes();
     LoadGameRecord(appState.currentGame);
-    form.gameLoading = true;
+    frmMainForm.gameLoading = true;
     SizePlayGrid();
     LoadPlays();
     LoadDraws();
@@ -120,17 +120,16 @@ void SwitchGame() {
     ListGames();
     LoadHistorySetList();
     LoadComboHot();
-    form.gameLoading = false;
-    platform::ShowArrow();
+    frmMainForm.gameLoading = false;
 }
 
 void RefreshHistory(std::int16_t date) {
-    form.cmdColorHist.visible = false;
+    frmMainForm.cmdColorHist.visible = false;
     const bool isEmpty = appState.historyLast < 0;
     {
         // A pick that is still being typed is taken now, and saved. The log does not report the moves: they would end
         // the winners' display, which is for the user's own.
-        const platform::GridPause pause(form.grdHist);
+        const platform::GridPause pause(frmMainForm.grdHist);
         if (appState.historyDirty) {
             SaveHistory(0);
         }
@@ -143,18 +142,18 @@ void RefreshHistory(std::int16_t date) {
             BringIntoView(date);
         }
     }
-    form.grdHist.ReadAgain();
+    frmMainForm.grdHist.ReadAgain();
     if (isEmpty) {
         return;
     }
     PlaceHiLiteDrawingButton();
-    if (form.grdHist.visible) {
-        form.grdHist.TakeFocus();
+    if (frmMainForm.grdHist.visible) {
+        frmMainForm.grdHist.TakeFocus();
     }
 }
 
 void SaveWhatIsDirty() {
-    form.grdHist.EndEdit();
+    frmMainForm.grdHist.EndEdit();
     if (appState.historyDirty) {
         SaveHistory(0);
     }

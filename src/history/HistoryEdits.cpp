@@ -1,10 +1,10 @@
 #include "history/HistoryEdits.h"
 
+#include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryView.h"
-#include "platform/MessageBox.h"
+#include "platform/Boxes.h"
 #include "platform/Pointer.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 #include "state/modUTILS.h"
@@ -59,8 +59,7 @@ void TakeOutOfTable(std::int16_t date) {
 }
 
 bool AsksToDelete(std::int16_t date) {
-    return platform::ShowMessageBox("Delete record for " + SerialToDate(date) + "?", platform::BoxButtons::YesNo,
-                                    platform::BoxIcon::Critical, "Ballhaven") == platform::BoxAnswer::Yes;
+    return platform::AskBeforeLoss("Delete record for " + SerialToDate(date) + "?", platform::BoxIcon::Critical);
 }
 
 }  // namespace
@@ -98,16 +97,14 @@ void DeleteDraw() {
     frmMainForm.cmdColorHist.visible = false;
     std::string text = frmMainForm.grdHist.Text(0);
     DateToSerial(text);
-    platform::ShowArrow();
     const std::int16_t date = appState.dateSerial;
     if (date < 1 || !AsksToDelete(date)) {
         return;
     }
-    platform::ShowHourglass();
+    const platform::WaitPointer waiting;
     const std::int16_t next = DateBeside(FindDate(appState.historyView, appState.historyViewLast, date));
     TakeOutOfTable(date);
     RefreshHistory(next < 1 ? std::int16_t{-1} : next);
-    platform::ShowArrow();
 }
 
 }  // namespace ballhaven

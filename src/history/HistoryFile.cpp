@@ -1,12 +1,12 @@
 #include "history/HistoryFile.h"
 
-#include <string>
-#include <string_view>
-
 #include "platform/Application.h"
 #include "state/AppState.h"
 #include "state/RecordFile.h"
 #include "state/modUTILS.h"
+
+#include <string>
+#include <string_view>
 
 namespace ballhaven {
 

@@ -1,9 +1,9 @@
 #include "platform/Application.h"
 
-#include <cstdlib>
-
 #include "platform/Services.h"
-#include "platform/Toolkit.h"
+#include "platform/controls/Toolkit.h"
+
+#include <cstdlib>
 
 namespace ballhaven::platform {
 
@@ -12,13 +12,6 @@ namespace {
 std::string applicationTitle = "Ballhaven";
 
 }  // namespace
-
-std::string WithSeparator(std::string directory) {
-    if (directory.empty() || directory.back() != directorySeparator) {
-        directory += directorySeparator;
-    }
-    return directory;
-}
 
 std::string ApplicationTitle() {
     return applicationTitle;

@@ -4,16 +4,6 @@
 
 namespace ballhaven::platform {
 
-/// Separator of directories in paths.
-#ifdef _WIN32
-inline constexpr char directorySeparator = '\\';
-#else
-inline constexpr char directorySeparator = '/';
-#endif
-
-/// The directory with a separator at its end: one is added unless it ends in one already.
-[[nodiscard]] std::string WithSeparator(std::string directory);
-
 /// The application's title; "Ballhaven" until it is set.
 [[nodiscard]] std::string ApplicationTitle();
 void SetApplicationTitle(const std::string& title);

@@ -1,10 +1,9 @@
 #include "platform/Guard.h"
 
-#include <exception>
-
 #include "platform/Application.h"
-#include "platform/MessageBox.h"
-#include "platform/Pointer.h"
+#include "platform/Boxes.h"
+
+#include <exception>
 
 namespace ballhaven::platform {
 
@@ -23,8 +22,7 @@ void RunGuarded(const std::function<void()>& handler) {
         handler();
     } catch (const std::exception& failure) {
         failing = true;
-        ShowArrow();
-        ShowMessageBox(failure.what(), BoxButtons::Ok, BoxIcon::Critical);
+        Tell(failure.what(), BoxIcon::Critical);
         failing = false;
         EndProcess(1);
     }

@@ -15,12 +15,10 @@ struct MessageBoxRequest {
     BoxIcon icon = BoxIcon::None;
     std::string title;
 
+    /// The answer of the button on which a question stands when it opens.
+    BoxAnswer offered = BoxAnswer::Yes;
+
     bool operator==(const MessageBoxRequest&) const = default;
 };
-
-/// Shows a message box through `services` and returns the user's answer. A box closed without an answer counts as No
-/// where it asks. A box without a title bears the application's.
-BoxAnswer ShowMessageBox(const std::string& text, BoxButtons buttons = BoxButtons::Ok, BoxIcon icon = BoxIcon::None,
-                         const std::string& title = {});
 
 }  // namespace ballhaven::platform

@@ -1,25 +1,41 @@
 #include "platform/Pointer.h"
 
-#include "platform/Toolkit.h"
+#include "platform/controls/Toolkit.h"
+
+#include <utility>
 
 namespace ballhaven::platform {
 
 namespace {
 
-void SetHourglass(bool shown) {
+/// The works that go on for which the user has to wait.
+int waiters = 0;
+
+void ShowPointer() {
     if (toolkit != nullptr) {
-        toolkit->ShowHourglass(shown);
+        toolkit->ShowHourglass(waiters > 0);
     }
 }
 
 }  // namespace
 
-void ShowHourglass() {
-    SetHourglass(true);
+WaitPointer::WaitPointer() {
+    ++waiters;
+    ShowPointer();
 }
 
-void ShowArrow() {
-    SetHourglass(false);
+WaitPointer::~WaitPointer() {
+    --waiters;
+    ShowPointer();
+}
+
+WaitPointerLifted::WaitPointerLifted() : waitersBefore(std::exchange(waiters, 0)) {
+    ShowPointer();
+}
+
+WaitPointerLifted::~WaitPointerLifted() {
+    waiters += waitersBefore;
+    ShowPointer();
 }
 
 }  // namespace ballhaven::platform

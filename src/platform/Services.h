@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/MessageBox.h"
+
 #include <chrono>
 #include <functional>
 #include <string>
-
-#include "platform/MessageBox.h"
 
 namespace ballhaven::platform {
 

@@ -5,9 +5,6 @@
 
 namespace ballhaven {
 
-/// Rows of a pick grid in the game at hand: 12 without bonus picks, else 24.
-[[nodiscard]] int PickGridRows();
-
 /// The text of a cell of `grdPlay`: a number, a card's text, a letter of BONUS or nothing. A null outside the rows and
 /// the `slipColumns` of the board.
 [[nodiscard]] std::optional<std::string> PlayBoardText(int row, int column);

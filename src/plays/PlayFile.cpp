@@ -1,13 +1,13 @@
 #include "plays/PlayFile.h"
 
-#include <string_view>
-
 #include "platform/Application.h"
+#include "plays/BoardRedraw.h"
 #include "plays/PlayMethodCode.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/RecordFile.h"
 #include "state/modUTILS.h"
+
+#include <string_view>
 
 namespace ballhaven {
 
@@ -16,8 +16,6 @@ namespace {
 constexpr int recordLength = 64;
 constexpr std::int64_t longestOlderFile = 1000 * recordLength;  // of a version that kept 1000 plays
 constexpr int firstPlayAdded = 1001;
-
-constexpr std::string_view lineLetters = "ABCDE";
 
 // A play's record: its method in columns 1-2, then the main picks from column 6 on and the bonus picks from column 36
 // on, each in two columns behind a blank.
@@ -73,24 +71,6 @@ std::string EncodePlay(int play) {
 }
 
 }  // namespace
-
-std::int16_t SlipOfPlay(int play) {
-    return modUTILS::ToInt16((play + playsPerSlip - 1) / playsPerSlip);
-}
-
-int LineOfPlay(int play) {
-    const int line = play % playsPerSlip;
-    return line == 0 ? playsPerSlip : line;
-}
-
-void PlaySlipLabel(int play, std::string& slipText, std::string& lineLetter) {
-    slipText = std::to_string(SlipOfPlay(play)) + ".";
-    lineLetter.assign(1, lineLetters[static_cast<std::size_t>(LineOfPlay(play) - 1)]);
-}
-
-void RefreshPlayGrids() {
-    frmMainForm.grdPlay.ReadAgain();
-}
 
 void LoadPlayFile() {
     RecordFile file = OpenedPlayFile();

@@ -1,23 +1,6 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
-
 namespace ballhaven {
-
-inline constexpr int playsPerSlip = 5;
-
-/// The slip, from 1, on which a play (from 1) stands.
-[[nodiscard]] std::int16_t SlipOfPlay(int play);
-
-/// The line, 1 to 5, of a play on its slip.
-[[nodiscard]] int LineOfPlay(int play);
-
-/// The name of a play in two parts: its slip with a point behind, such as "12.", and its line's letter, "A" to "E".
-void PlaySlipLabel(int play, std::string& slipText, std::string& lineLetter);
-
-/// Has the open boards of plays read again.
-void RefreshPlayGrids();
 
 /// Reads the plays of `currentGame` from its file, PLAYS01.CDB to PLAYS20.CDB in `programDirectory`, into a new
 /// `PlayTable`, in all their slots, whatever the game's counts of picks.

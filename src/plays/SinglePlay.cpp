@@ -1,7 +1,7 @@
 #include "plays/SinglePlay.h"
 
+#include "forms/MainForm.h"
 #include "plays/PickGrid.h"
-#include "screen/MainForm.h"
 
 namespace ballhaven {
 

@@ -1,25 +1,21 @@
 #include "screen/CardPicker.h"
 
-#include <string>
-
+#include "forms/MainForm.h"
 #include "history/HistoryEdits.h"
 #include "screen/CardLayout.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/PickText.h"
-#include "statistics/HotNumbers.h"
+#include "statistics/HotTables.h"
+
+#include <string>
 
 namespace ballhaven {
 
 namespace {
 
-MainForm& form = frmMainForm;
-platform::Picture& logCards = frmMainForm.picCards[0];
-platform::Picture& hiLiteCards = frmMainForm.picCards[1];
-
 void GoToDate() {
-    form.grdHist.GoToPane(datePane);
-    form.grdHist.GoToColumn(0);
+    frmMainForm.grdHist.GoToPane(datePane);
+    frmMainForm.grdHist.GoToColumn(0);
 }
 
 void TakeLogCard(std::string card) {
@@ -27,15 +23,15 @@ void TakeLogCard(std::string card) {
     appState.historyDirty = true;
     ComputeHotTable();
     GoToDate();
-    form.grdHist.ReadAgain();
-    logCards.visible = false;
+    frmMainForm.grdHist.ReadAgain();
+    frmMainForm.picCards[0].visible = false;
 }
 
 void ServeLogCardsClick(double x, double y) {
     const CardHit hit = LogCardAt(x, y);
     switch (hit.area) {
         case CardArea::CloseBox:
-            logCards.visible = false;
+            frmMainForm.picCards[0].visible = false;
             GoToDate();
             break;
         case CardArea::Cards:
@@ -47,19 +43,19 @@ void ServeLogCardsClick(double x, double y) {
 }
 
 void TakeHiLiteCard(std::string card) {
-    const auto box = static_cast<std::size_t>(form.hiLiteTarget);
-    form.hiLiteCode.at(box) = std::to_string(TextToCard(card));
-    form.txtHiLite.at(box).text = card;
-    form.grdHist.TakeFocus();
-    hiLiteCards.visible = false;
+    const auto box = static_cast<std::size_t>(frmMainForm.hiLiteTarget);
+    frmMainForm.hiLiteCode.at(box) = std::to_string(TextToCard(card));
+    frmMainForm.txtHiLite.at(box).text = card;
+    frmMainForm.grdHist.TakeFocus();
+    frmMainForm.picCards[1].visible = false;
 }
 
 void ServeHiLiteCardsClick(double x, double y) {
     const CardHit hit = HiLiteCardAt(x, y);
     switch (hit.area) {
         case CardArea::CloseBox:
-            form.txtHiLite.at(static_cast<std::size_t>(form.hiLiteTarget)).TakeFocus();
-            hiLiteCards.visible = false;
+            frmMainForm.txtHiLite.at(static_cast<std::size_t>(frmMainForm.hiLiteTarget)).TakeFocus();
+            frmMainForm.picCards[1].visible = false;
             break;
         case CardArea::Cards:
             TakeHiLiteCard(hit.card);
@@ -72,33 +68,33 @@ void ServeHiLiteCardsClick(double x, double y) {
 }  // namespace
 
 void WireCardPicker() {
-    logCards.click = ServeLogCardsClick;
-    hiLiteCards.click = ServeHiLiteCardsClick;
+    frmMainForm.picCards[0].click = ServeLogCardsClick;
+    frmMainForm.picCards[1].click = ServeHiLiteCardsClick;
 }
 
 void ServeLogCards() {
     // QUIRK CARD-CLICK-1: a click on the cell that is current already moves nothing and so opens no cards, but stands
     // until the next move, which opens them even by key. It is meant: forgetting the click at its end would leave one
     // on the first pick after a start, where the cursor stands, without any answer.
-    if (!form.cardClicked) {
+    if (!frmMainForm.cardClicked) {
         return;
     }
-    if (form.grdHist.CurrentPane() == datePane) {
-        logCards.visible = false;
-    } else if (logCards.visible) {
-        logCards.visible = false;
+    if (frmMainForm.grdHist.CurrentPane() == datePane) {
+        frmMainForm.picCards[0].visible = false;
+    } else if (frmMainForm.picCards[0].visible) {
+        frmMainForm.picCards[0].visible = false;
         GoToDate();
     } else {
-        logCards.visible = true;
-        hiLiteCards.visible = false;
+        frmMainForm.picCards[0].visible = true;
+        frmMainForm.picCards[1].visible = false;
     }
-    form.cardClicked = false;
+    frmMainForm.cardClicked = false;
 }
 
 void OpenHiLiteCards(std::int16_t box) {
-    form.hiLiteTarget = box;
-    hiLiteCards.visible = true;
-    logCards.visible = false;
+    frmMainForm.hiLiteTarget = box;
+    frmMainForm.picCards[1].visible = true;
+    frmMainForm.picCards[0].visible = false;
 }
 
 }  // namespace ballhaven

@@ -1,19 +1,17 @@
 #include "screen/ColorToolbar.h"
 
-#include <string>
-
+#include "forms/GamePresentation.h"
+#include "forms/MainForm.h"
 #include "screen/CardPicker.h"
 #include "screen/DrawingHiLite.h"
-#include "screen/GamePresentation.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/modUTILS.h"
+
+#include <string>
 
 namespace ballhaven {
 
 namespace {
-
-MainForm& form = frmMainForm;
 
 constexpr char enterKey = '\r';
 
@@ -33,17 +31,18 @@ void ClearHiLites() {
 // corrected by hand is no copy of a drawing any more. Taking the code from the text would let that button clear what
 // the user typed.
 void NoteDigit(std::size_t box, char digit) {
-    form.hiLiteCode[box] = modUTILS::Trimmed(*form.txtHiLite[box].text + digit);
+    frmMainForm.hiLiteCode[box] = modUTILS::Trimmed(*frmMainForm.txtHiLite[box].text + digit);
 }
 
 void LeaveByEnter(std::size_t box) {
-    const bool isLast = box + 1 >= static_cast<std::size_t>(appState.totalPicks) || box + 1 >= form.txtHiLite.size();
+    const bool isLast =
+        box + 1 >= static_cast<std::size_t>(appState.totalPicks) || box + 1 >= frmMainForm.txtHiLite.size();
     if (isLast) {
-        form.cmdColor[0].TakeFocus();
+        frmMainForm.cmdColor[0].TakeFocus();
     } else {
-        form.txtHiLite[box + 1].TakeFocus();
+        frmMainForm.txtHiLite[box + 1].TakeFocus();
     }
-    form.cmdColor[0].click();
+    frmMainForm.cmdColor[0].click();
 }
 
 bool ServeKey(std::size_t box, char key) {
@@ -70,12 +69,12 @@ void ServeClick(std::size_t box) {
 }  // namespace
 
 void WireColorToolbar() {
-    form.cmdColor[0].click = ApplyHiLites;
-    form.cmdColor[1].click = ClearHiLites;
-    form.cmdColorHist.click = HiLiteDrawing;
-    for (std::size_t box = 0; box < form.txtHiLite.size(); ++box) {
-        form.txtHiLite[box].keyPress = [box](char key) { return ServeKey(box, key); };
-        form.txtHiLite[box].click = [box] { ServeClick(box); };
+    frmMainForm.cmdColor[0].click = ApplyHiLites;
+    frmMainForm.cmdColor[1].click = ClearHiLites;
+    frmMainForm.cmdColorHist.click = HiLiteDrawing;
+    for (std::size_t box = 0; box < frmMainForm.txtHiLite.size(); ++box) {
+        frmMainForm.txtHiLite[box].keyPress = [box](char key) { return ServeKey(box, key); };
+        frmMainForm.txtHiLite[box].click = [box] { ServeClick(box); };
     }
 }
 

@@ -1,20 +1,18 @@
 #include "screen/DrawingHiLite.h"
 
-#include <algorithm>
-#include <string>
-
-#include "history/HistoryView.h"
-#include "screen/GamePresentation.h"
-#include "screen/MainForm.h"
+#include "forms/GamePresentation.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 #include "state/PickText.h"
+#include "state/ViewRows.h"
+
+#include <algorithm>
+#include <string>
 
 namespace ballhaven {
 
 namespace {
-
-MainForm& form = frmMainForm;
 
 constexpr std::int16_t blankPick = -1;
 
@@ -30,7 +28,7 @@ std::int16_t PickOfBox(int row, std::size_t box) {
 
 /// The row of the view that the log's current row shows, -1 for none.
 int CurrentDraw() {
-    std::string date = form.grdHist.Text(0);
+    std::string date = frmMainForm.grdHist.Text(0);
     DateToSerial(date);
     return RowOfDate(appState.dateSerial);
 }
@@ -40,7 +38,7 @@ int CurrentDraw() {
 // draw without any picks would switch off colours that stand for another draw.
 bool IsHiLited(int row) {
     for (std::size_t box = 0; box < static_cast<std::size_t>(BoxesOfGame()); ++box) {
-        if (form.hiLiteCode[box] != std::to_string(PickOfBox(row, box))) {
+        if (frmMainForm.hiLiteCode[box] != std::to_string(PickOfBox(row, box))) {
             return false;
         }
     }
@@ -51,8 +49,8 @@ void FillBoxes(int row) {
     for (std::size_t box = 0; box < static_cast<std::size_t>(BoxesOfGame()); ++box) {
         const std::int16_t pick = PickOfBox(row, box);
         if (pick != blankPick) {
-            form.txtHiLite[box].text = PickToText(pick);
-            form.hiLiteCode[box] = std::to_string(pick);
+            frmMainForm.txtHiLite[box].text = PickToText(pick);
+            frmMainForm.hiLiteCode[box] = std::to_string(pick);
         }
     }
 }

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "forms/MainForm.h"
+#include "platform/controls/Color.h"
+#include "platform/controls/Grid.h"
+#include "state/AppState.h"
+
 #include <algorithm>
 #include <optional>
-
-#include "platform/Color.h"
-#include "platform/Grid.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
 
 namespace ballhaven {
 

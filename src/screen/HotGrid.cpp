@@ -1,7 +1,7 @@
 #include "screen/HotGrid.h"
 
-#include "screen/MainForm.h"
-#include "statistics/HotCells.h"
+#include "forms/MainForm.h"
+#include "screen/HotCells.h"
 
 namespace ballhaven {
 

@@ -1,7 +1,7 @@
 #include "screen/LogCells.h"
 
+#include "forms/MainForm.h"
 #include "screen/HiLite.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 #include "state/PickText.h"

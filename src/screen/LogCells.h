@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/controls/Grid.h"
+
 #include <optional>
 #include <string>
-
-#include "platform/Grid.h"
 
 namespace ballhaven {
 

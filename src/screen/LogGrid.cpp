@@ -1,20 +1,18 @@
 #include "screen/LogGrid.h"
 
+#include "forms/GamePresentation.h"
+#include "forms/MainForm.h"
 #include "history/HistoryEdits.h"
-#include "platform/MessageBox.h"
-#include "plays/PlayFile.h"
+#include "platform/Boxes.h"
+#include "plays/BoardRedraw.h"
 #include "screen/CardPicker.h"
-#include "screen/GamePresentation.h"
 #include "screen/LogCells.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
-#include "statistics/HotNumbers.h"
+#include "statistics/HotTables.h"
 
 namespace ballhaven {
 
 namespace {
-
-platform::Grid& log = frmMainForm.grdHist;
 
 constexpr int marginWidth = 255;
 constexpr int marginRowHeight = 225;
@@ -23,7 +21,7 @@ bool AcceptPick(int column) {
     if (IsPickInRange(column)) {
         return true;
     }
-    platform::ShowMessageBox("Number out of range for this lottery game");
+    platform::Tell("Number out of range for this lottery game");
     return false;
 }
 
@@ -31,29 +29,29 @@ void TakePick(int column) {
     PostLogEdit(column);
     ComputeHotTable();
     if (column == appState.totalPicks) {
-        log.ReadAgain();
-        log.GoToPane(datePane);
-        log.GoToColumn(0);
+        frmMainForm.grdHist.ReadAgain();
+        frmMainForm.grdHist.GoToPane(datePane);
+        frmMainForm.grdHist.GoToColumn(0);
     }
 }
 
 bool ServeKey(platform::GridKey key) {
     switch (key) {
         case platform::GridKey::Insert:
-            log.SelectCellText();
+            frmMainForm.grdHist.SelectCellText();
             return true;
         case platform::GridKey::Left:
-            if (log.CurrentColumn() != 1 || log.HasSelectedText()) {
+            if (frmMainForm.grdHist.CurrentColumn() != 1 || frmMainForm.grdHist.HasSelectedText()) {
                 return false;
             }
-            log.GoToPane(datePane);
+            frmMainForm.grdHist.GoToPane(datePane);
             return true;
         case platform::GridKey::Right:
         case platform::GridKey::Tab:
-            if (log.CurrentColumn() != 0) {
+            if (frmMainForm.grdHist.CurrentColumn() != 0) {
                 return false;
             }
-            log.GoToPane(pickPane);
+            frmMainForm.grdHist.GoToPane(pickPane);
             return true;
         case platform::GridKey::Other:
             return false;
@@ -64,8 +62,9 @@ bool ServeKey(platform::GridKey key) {
 /// A press in the row-selector margin makes the row beside it the current one.
 void SelectRowByMargin(int x, int y) {
     const int line = y / marginRowHeight;
-    if (log.CurrentPane() == datePane && x <= marginWidth && line >= 1 && line <= log.VisibleRows()) {
-        log.GoToRow(log.FirstVisibleRow() + line - 1);
+    if (frmMainForm.grdHist.CurrentPane() == datePane && x <= marginWidth && line >= 1 &&
+        line <= frmMainForm.grdHist.VisibleRows()) {
+        frmMainForm.grdHist.GoToRow(frmMainForm.grdHist.FirstVisibleRow() + line - 1);
     }
 }
 
@@ -98,15 +97,15 @@ void ServeMove() {
 }  // namespace
 
 void WireLogGrid() {
-    log.cellText = LogCellValue;
-    log.cellStyle = LogCellStyle;
-    log.acceptEdit = AcceptPick;
-    log.edited = TakePick;
-    log.keyDown = ServeKey;
-    log.mousePress = ServePress;
-    log.click = ServeClick;
-    log.currentCellChanged = ServeMove;
-    log.painted = PlaceHiLiteDrawingButton;
+    frmMainForm.grdHist.cellText = LogCellValue;
+    frmMainForm.grdHist.cellStyle = LogCellStyle;
+    frmMainForm.grdHist.acceptEdit = AcceptPick;
+    frmMainForm.grdHist.edited = TakePick;
+    frmMainForm.grdHist.keyDown = ServeKey;
+    frmMainForm.grdHist.mousePress = ServePress;
+    frmMainForm.grdHist.click = ServeClick;
+    frmMainForm.grdHist.currentCellChanged = ServeMove;
+    frmMainForm.grdHist.painted = PlaceHiLiteDrawingButton;
 }
 
 }  // namespace ballhaven

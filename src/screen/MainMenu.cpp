@@ -1,12 +1,12 @@
 #include "screen/MainMenu.h"
 
+#include "forms/GamePresentation.h"
+#include "forms/MainForm.h"
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
-#include "platform/MessageBox.h"
+#include "platform/Boxes.h"
 #include "platform/Pointer.h"
 #include "plays/PlayFile.h"
-#include "screen/GamePresentation.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
@@ -15,8 +15,6 @@ namespace ballhaven {
 
 namespace {
 
-MainForm& form = frmMainForm;
-
 /// A button of the toolbar and the menu entry that it stands for.
 struct Shortcut {
     int button;
@@ -24,52 +22,50 @@ struct Shortcut {
 };
 
 const Shortcut shortcuts[] = {
-    {1, form.mnuFileArray[0]},  {10, form.mnuEditArray[0]}, {11, form.mnuEditArray[1]}, {0, form.mnuEditArray[2]},
-    {2, form.mnuEditArray[4]},  {3, form.mnuEditArray[5]},  {4, form.mnuViewArray[0]},  {5, form.mnuViewArray[1]},
-    {14, form.mnuViewArray[3]}, {8, form.mnuEditArray[7]},  {12, form.mnuToolArray[2]}, {13, form.mnuToolArray[3]},
-    {7, form.mnuToolArray[0]},
+    {1, frmMainForm.mnuFileArray[0]}, {10, frmMainForm.mnuEditArray[0]}, {11, frmMainForm.mnuEditArray[1]},
+    {0, frmMainForm.mnuEditArray[2]}, {2, frmMainForm.mnuEditArray[4]},  {3, frmMainForm.mnuEditArray[5]},
+    {4, frmMainForm.mnuViewArray[0]}, {5, frmMainForm.mnuViewArray[1]},  {14, frmMainForm.mnuViewArray[3]},
+    {8, frmMainForm.mnuEditArray[7]}, {12, frmMainForm.mnuToolArray[2]}, {13, frmMainForm.mnuToolArray[3]},
+    {7, frmMainForm.mnuToolArray[0]},
 };
 
 void OrderLog(std::int16_t order) {
-    if (appState.historySortOrder == order || form.windowStarting) {
+    if (appState.historySortOrder == order || frmMainForm.windowStarting) {
         return;
     }
-    platform::ShowHourglass();
+    const platform::WaitPointer waiting;
     appState.historySortOrder = order;
     SetFieldValue(appState.systemRecord, systemField::sortOrder, order);
     SaveSystemRecord();
     RefreshHistory(-1);
     ShowViewChecks();
-    platform::ShowArrow();
 }
 
 void EraseAllPlaySlips() {
-    if (platform::ShowMessageBox("Erase ALL Play Slips for this game?", platform::BoxButtons::YesNo,
-                                 platform::BoxIcon::Question, "Ballhaven") != platform::BoxAnswer::No) {
+    if (platform::AskBeforeLoss("Erase ALL Play Slips for this game?", platform::BoxIcon::Question)) {
         ClearAllPlays();
     }
 }
 
 void RunFromToolbar(const platform::MenuItem& entry) {
-    platform::ShowHourglass();
+    const platform::WaitPointer waiting;
     if (entry.click) {
         entry.click();
     }
-    platform::ShowArrow();
 }
 
 }  // namespace
 
 void WireMainMenu() {
-    form.mnuFileArray[2].click = [] { form.window.Unload(); };
-    form.mnuEditArray[0].click = AddGame;
-    form.mnuEditArray[1].click = DeleteGame;
-    form.mnuEditArray[2].click = AlterGame;
-    form.mnuEditArray[7].click = EraseAllPlaySlips;
-    form.mnuViewArray[0].click = [] { OrderLog(1); };
-    form.mnuViewArray[1].click = [] { OrderLog(0); };
+    frmMainForm.mnuFileArray[2].click = [] { frmMainForm.window.Unload(); };
+    frmMainForm.mnuEditArray[0].click = AddGame;
+    frmMainForm.mnuEditArray[1].click = DeleteGame;
+    frmMainForm.mnuEditArray[2].click = AlterGame;
+    frmMainForm.mnuEditArray[7].click = EraseAllPlaySlips;
+    frmMainForm.mnuViewArray[0].click = [] { OrderLog(1); };
+    frmMainForm.mnuViewArray[1].click = [] { OrderLog(0); };
     for (const Shortcut& shortcut : shortcuts) {
-        form.cmdButton[static_cast<std::size_t>(shortcut.button)].click = [&entry = shortcut.entry] {
+        frmMainForm.cmdButton[static_cast<std::size_t>(shortcut.button)].click = [&entry = shortcut.entry] {
             RunFromToolbar(entry);
         };
     }

@@ -1,31 +1,29 @@
 #include "screen/MainWindow.h"
 
-#include <exception>
-#include <string>
-
-#include "calendar/CalendarForm.h"
+#include "forms/CalendarForm.h"
+#include "forms/MainForm.h"
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryEditing.h"
 #include "platform/Application.h"
-#include "platform/Pointer.h"
 #include "platform/Services.h"
+#include "platform/files/Paths.h"
 #include "plays/SinglePlay.h"
 #include "screen/CardPicker.h"
 #include "screen/ColorToolbar.h"
 #include "screen/HotGrid.h"
 #include "screen/LogGrid.h"
-#include "screen/MainForm.h"
 #include "screen/MainMenu.h"
 #include "screen/Selectors.h"
 #include "state/AppState.h"
 #include "state/modUTILS.h"
 
+#include <exception>
+#include <string>
+
 namespace ballhaven {
 
 namespace {
-
-MainForm& form = frmMainForm;
 
 constexpr int designHeight = 8880;
 constexpr int logDesignHeight = 7260;
@@ -41,50 +39,49 @@ void SetProgramDirectory() {
 }
 
 void StyleCellsOnDemand() {
-    for (int column = 0; column < form.grdPlay.ColumnCount(); ++column) {
-        form.grdPlay.Column(column).styled = true;
+    for (int column = 0; column < frmMainForm.grdPlay.ColumnCount(); ++column) {
+        frmMainForm.grdPlay.Column(column).styled = true;
     }
-    form.grdHot.Column(0).styled = true;
+    frmMainForm.grdHot.Column(0).styled = true;
     for (int column = 1; column <= logPickColumns; ++column) {
-        form.grdHist.Column(column).styled = true;
+        frmMainForm.grdHist.Column(column).styled = true;
     }
 }
 
 void Load() {
-    form.windowStarting = true;
+    frmMainForm.windowStarting = true;
     StyleCellsOnDemand();
     SetProgramDirectory();
 }
 
 void Activate() {
-    if (form.windowStarting || appState.gameDialogMode != 0) {
+    if (frmMainForm.windowStarting || appState.gameDialogMode != 0) {
         {
             // A pick that is still being typed must not reach the other game.
-            const platform::GridPause pause(form.grdHist);
+            const platform::GridPause pause(frmMainForm.grdHist);
             SaveWhatIsDirty();
             SwitchGame();
         }
         // The dialog behind the question brings this window to the front again when it closes; a cancelled one must not
         // find the start still going on and be asked about once more.
-        form.windowStarting = false;
+        frmMainForm.windowStarting = false;
         AskToSetUpGame();
     }
-    platform::ShowArrow();
 }
 
 // QUIRK RESIZE-1: at the design height the grids take 7260 and 4860, one twip above it 7101 and 4711: the two rules do
 // not join up. They are meant so: the first leaves the window as it was drawn, the second keeps room below the grids.
 void FollowHeight() {
-    const int height = form.window.Height();
+    const int height = frmMainForm.window.Height();
     if (height < designHeight) {
         return;
     }
     if (height == designHeight) {
-        form.grdHist.SetHeight(logDesignHeight);
-        form.grdHot.SetHeight(hotDesignHeight);
+        frmMainForm.grdHist.SetHeight(logDesignHeight);
+        frmMainForm.grdHot.SetHeight(hotDesignHeight);
         return;
     }
-    for (platform::Grid* grid : {&form.grdHist, &form.grdHot}) {
+    for (platform::Grid* grid : {&frmMainForm.grdHist, &frmMainForm.grdHot}) {
         grid->SetHeight(height - grid->bounds->top - belowGrids);
     }
 }
@@ -98,11 +95,11 @@ void CloseDown() {
 }  // namespace
 
 void WireMainWindow() {
-    form.window.layout = LayOutMainForm;
-    form.window.load = Load;
-    form.window.activate = Activate;
-    form.window.resize = FollowHeight;
-    form.window.unload = CloseDown;
+    frmMainForm.window.layout = LayOutMainForm;
+    frmMainForm.window.load = Load;
+    frmMainForm.window.activate = Activate;
+    frmMainForm.window.resize = FollowHeight;
+    frmMainForm.window.unload = CloseDown;
     WireMainMenu();
     WireSelectors();
     WireSinglePlay();

@@ -1,53 +1,50 @@
 #include "screen/Selectors.h"
 
-#include <string>
-
+#include "forms/GamePresentation.h"
+#include "forms/MainForm.h"
+#include "forms/SelectorLists.h"
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
 #include "platform/Application.h"
 #include "platform/Pointer.h"
-#include "screen/GamePresentation.h"
-#include "screen/MainForm.h"
-#include "screen/SelectorLists.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
-#include "statistics/HotNumbers.h"
+#include "statistics/HotCaptions.h"
+#include "statistics/HotTableKinds.h"
 #include "statistics/HotTables.h"
+
+#include <string>
 
 namespace ballhaven {
 
 namespace {
 
-MainForm& form = frmMainForm;
-
 bool IsFilling() {
-    return form.windowStarting || form.gameLoading;
+    return frmMainForm.windowStarting || frmMainForm.gameLoading;
 }
 
 void ShowHotTableAnew() {
-    form.grdHot.ReadAgain();
-    form.grdHot.GoTo(0, 2);
-    platform::ShowArrow();
+    frmMainForm.grdHot.ReadAgain();
+    frmMainForm.grdHot.GoTo(0, 2);
 }
 
 void SelectGame() {
-    if (form.cboList[0].Selected() + 1 == appState.currentGame) {
-        platform::ShowArrow();
+    if (frmMainForm.cboList[0].Selected() + 1 == appState.currentGame) {
         return;
     }
     platform::ProcessPendingEvents();
     SaveWhatIsDirty();
     {
-        const platform::GridPause logPause(form.grdHist);
-        const platform::GridPause hotPause(form.grdHot);
+        const platform::GridPause logPause(frmMainForm.grdHist);
+        const platform::GridPause hotPause(frmMainForm.grdHot);
         SwitchGame();
     }
-    form.grdHist.ReadAgain();
-    form.grdHot.ReadAgain();
-    form.grdPlay.ReadAgain();
+    frmMainForm.grdHist.ReadAgain();
+    frmMainForm.grdHot.ReadAgain();
+    frmMainForm.grdPlay.ReadAgain();
     AskToSetUpGame();
     ShowHotTableAnew();
 }
@@ -59,9 +56,9 @@ void StoreHistorySet() {
 }
 
 void SelectHistorySet() {
-    appState.historySetSize = modUTILS::ToInt16((form.cboList[1].Selected() + 1) * historySetStep);
+    appState.historySetSize = modUTILS::ToInt16((frmMainForm.cboList[1].Selected() + 1) * historySetStep);
     StoreHistorySet();
-    std::string date = form.grdHist.Text(0);
+    std::string date = frmMainForm.grdHist.Text(0);
     if (date.empty()) {
         RefreshHistory(-1);
     } else {
@@ -72,12 +69,12 @@ void SelectHistorySet() {
 }
 
 void SelectHotTable() {
-    appState.hotTableChoice = modUTILS::ToInt16(form.cboList[2].Selected() + 1);
+    appState.hotTableChoice = modUTILS::ToInt16(frmMainForm.cboList[2].Selected() + 1);
     ShowHotHeadings();
     ShowChosenHotCaption();
     RefreshHotTable(ShownHotTable());
-    form.hotRowCount = modUTILS::ToInt16(LastRowOf(ShownHotTable()) + 1);
-    form.grdHot.SetRowCount(form.hotRowCount);
+    frmMainForm.hotRowCount = modUTILS::ToInt16(LastRowOf(ShownHotTable()) + 1);
+    frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
     ShowHotTableAnew();
 }
 
@@ -86,8 +83,8 @@ void Answer(void (*change)()) {
     if (IsFilling()) {
         return;
     }
-    platform::ShowHourglass();
-    form.grdHist.EndEdit();
+    const platform::WaitPointer waiting;
+    frmMainForm.grdHist.EndEdit();
     change();
 }
 
@@ -103,11 +100,11 @@ void ChoosePicksToCount(int option) {
 }  // namespace
 
 void WireSelectors() {
-    form.cboList[0].change = [] { Answer(SelectGame); };
-    form.cboList[1].change = [] { Answer(SelectHistorySet); };
-    form.cboList[2].change = [] { Answer(SelectHotTable); };
-    for (std::size_t i = 0; i < form.optHot.size(); ++i) {
-        form.optHot[i].click = [i] { ChoosePicksToCount(static_cast<int>(i)); };
+    frmMainForm.cboList[0].change = [] { Answer(SelectGame); };
+    frmMainForm.cboList[1].change = [] { Answer(SelectHistorySet); };
+    frmMainForm.cboList[2].change = [] { Answer(SelectHotTable); };
+    for (std::size_t i = 0; i < frmMainForm.optHot.size(); ++i) {
+        frmMainForm.optHot[i].click = [i] { ChoosePicksToCount(static_cast<int>(i)); };
     }
 }
 

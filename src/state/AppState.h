@@ -1,11 +1,11 @@
 #pragma once
 
+#include "state/Table.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
-
-#include "state/Table.h"
 
 namespace ballhaven {
 

@@ -1,13 +1,13 @@
 #include "state/DateText.h"
 
+#include "platform/Services.h"
+#include "state/AppState.h"
+#include "state/modUTILS.h"
+
 #include <algorithm>
 #include <array>
 #include <functional>
 #include <string_view>
-
-#include "platform/Services.h"
-#include "state/AppState.h"
-#include "state/modUTILS.h"
 
 namespace ballhaven {
 

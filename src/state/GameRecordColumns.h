@@ -1,10 +1,10 @@
 #pragma once
 
+#include "state/modUTILS.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "state/modUTILS.h"
 
 namespace ballhaven {
 

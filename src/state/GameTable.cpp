@@ -1,11 +1,11 @@
 #include "state/GameTable.h"
 
-#include <string_view>
-
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/RecordFile.h"
 #include "state/modUTILS.h"
+
+#include <string_view>
 
 namespace ballhaven {
 

@@ -1,10 +1,11 @@
 #include "state/PickText.h"
 
+#include "state/AppState.h"
+#include "state/BoardGeometry.h"
+#include "state/modUTILS.h"
+
 #include <array>
 #include <string_view>
-
-#include "state/AppState.h"
-#include "state/modUTILS.h"
 
 namespace ballhaven {
 
@@ -16,15 +17,6 @@ constexpr int deckSize = 52;
 constexpr std::array<std::string_view, ranks> rankTexts = {"A", "2", "3",  "4", "5", "6", "7",
                                                            "8", "9", "10", "J", "Q", "K"};
 constexpr std::string_view suitLetters = "hcds";
-constexpr std::string_view bonusWord = "BONUS";
-
-// Cells of the boards, numbered along the rows. The board of a number game has 9 columns and 12 rows a block, that of a
-// card game 6 columns; the word BONUS stands in the row before the bonus block.
-constexpr int lastMainNumberCell = 100;
-constexpr int firstNumberWordCell = 101;
-constexpr int firstBonusNumberCell = 108;
-constexpr int firstCardWordCell = 66;
-constexpr int firstBonusCardCell = 72;
 
 /// Rank of a letter of A, J, Q and K in either case; 0 for any other character.
 int RankOfLetter(char letter) {
@@ -42,13 +34,10 @@ int RankOfLetter(char letter) {
     }
 }
 
-/// The letter of BONUS in a cell, the word beginning in `firstCell`; empty beside the word.
-std::string WordLetter(int cell, int firstCell) {
-    const int letter = cell - firstCell;
-    if (letter < 0 || letter >= static_cast<int>(bonusWord.size())) {
-        return {};
-    }
-    return std::string(bonusWord.substr(static_cast<std::size_t>(letter), 1));
+/// The letter of BONUS in a cell; empty beside the word.
+std::string BonusLetter(int cell) {
+    const std::optional<int> letter = BonusLetterAt(appState.gameType, cell);
+    return letter ? std::string(1, bonusWord[static_cast<std::size_t>(*letter)]) : std::string();
 }
 
 /// Cells of the main or of the bonus numbers on the board of a number game.
@@ -73,24 +62,24 @@ std::string NumberText(const NumberBlock& block, int cell) {
     return place < runLength * block.count ? std::to_string(place % runLength + lowest) : std::string();
 }
 
-std::string NumberCellText(int cell) {
-    if (0 <= cell && cell <= lastMainNumberCell) {
+std::string NumberCellText(const BoardGeometry& board, int cell) {
+    if (0 <= cell && cell < board.mainCells) {
         return NumberText({0, appState.mainPickCount, appState.mainLow, appState.mainHigh}, cell);
     }
-    if (cell >= firstBonusNumberCell) {
-        return NumberText({firstBonusNumberCell, appState.bonusPickCount, appState.bonusLow, appState.bonusHigh}, cell);
+    if (cell >= board.firstBonusCell) {
+        return NumberText({board.firstBonusCell, appState.bonusPickCount, appState.bonusLow, appState.bonusHigh}, cell);
     }
-    return appState.gameType > 0 ? WordLetter(cell, firstNumberWordCell) : std::string();
+    return BonusLetter(cell);
 }
 
-std::string CardCellText(int cell) {
-    if (0 <= cell && cell < deckSize) {
+std::string CardCellText(const BoardGeometry& board, int cell) {
+    if (0 <= cell && cell < board.mainCells) {
         return std::to_string(cell + 1);
     }
-    if (firstBonusCardCell <= cell && cell < firstBonusCardCell + deckSize) {
-        return std::to_string(cell - firstBonusCardCell + 1);
+    if (board.firstBonusCell <= cell && cell < board.firstBonusCell + deckSize) {
+        return std::to_string(cell - board.firstBonusCell + 1);
     }
-    return appState.gameType > 3 ? WordLetter(cell, firstCardWordCell) : std::string();
+    return BonusLetter(cell);
 }
 
 }  // namespace
@@ -128,7 +117,8 @@ std::string PickToText(int pick) {
 }
 
 std::string PickCellText(int cell) {
-    return IsCardGame(appState.gameType) ? CardCellText(cell) : NumberCellText(cell);
+    const BoardGeometry board = BoardOf(appState.gameType);
+    return IsCardGame(appState.gameType) ? CardCellText(board, cell) : NumberCellText(board, cell);
 }
 
 }  // namespace ballhaven

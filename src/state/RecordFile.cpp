@@ -1,12 +1,12 @@
 #include "state/RecordFile.h"
 
+#include "platform/files/DurableFile.h"
+#include "platform/files/FileSystem.h"
+#include "state/RuntimeFailure.h"
+
 #include <algorithm>
 #include <system_error>
 #include <utility>
-
-#include "platform/DurableFile.h"
-#include "platform/FileSystem.h"
-#include "state/RuntimeFailure.h"
 
 namespace ballhaven {
 

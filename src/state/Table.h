@@ -1,11 +1,11 @@
 #pragma once
 
+#include "state/RuntimeFailure.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
-
-#include "state/RuntimeFailure.h"
 
 namespace ballhaven {
 

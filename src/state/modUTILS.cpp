@@ -1,9 +1,9 @@
 #include "state/modUTILS.h"
 
+#include "state/RuntimeFailure.h"
+
 #include <algorithm>
 #include <limits>
-
-#include "state/RuntimeFailure.h"
 
 namespace ballhaven::modUTILS {
 

@@ -1,12 +1,11 @@
 #include "statistics/HotNumbers.h"
 
-#include "screen/MainForm.h"
-#include "statistics/HotTables.h"
+#include "state/AppState.h"
+#include "statistics/HotTableKinds.h"
 
 #include <algorithm>
 #include <array>
 #include <numeric>
-#include <string>
 #include <vector>
 
 namespace ballhaven {
@@ -91,56 +90,14 @@ Table RowsByHits(const std::vector<std::int16_t>& picks, const HitCounts& hits) 
     return rows;
 }
 
+}  // namespace
+
 void CountHotNumbers() {
     const HitCounts hits = CountHits(appState.historyView, appState.historyViewLast + 1, CountedColumns());
     const std::vector<std::int16_t> picks = PicksWithHits(hits, appState.mainHigh);
     appState.hotNumberLast = static_cast<std::int16_t>(std::ssize(picks) - 1);
     if (!picks.empty()) {
         appState.hotNumberTable = RowsByHits(picks, hits);
-    }
-}
-
-/// Builds the table on show from the new count.
-void RebuildShownTable() {
-    const HotTable shown = ShownHotTable();
-    if (shown == HotTable::HotNumbers) {
-        ShowHotNumbersCaption();
-    } else {
-        BuildHotTable(shown);
-    }
-    frmMainForm.hotRowCount = static_cast<std::int16_t>(LastRowOf(shown) + 1);
-}
-
-}  // namespace
-
-void ComputeHotTable() {
-    const bool isChosen = appState.hotTableChoice > 0;
-    CountHotNumbers();
-    if (isChosen) {
-        RebuildShownTable();
-    }
-    frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
-    if (isChosen) {
-        frmMainForm.grdHot.ReadAgain();
-        frmMainForm.grdHot.GoTo(0, 2);
-    }
-}
-
-void ShowHotCaption(std::string_view words) {
-    frmMainForm.grdHot.caption =
-        std::string(words) + " in last " + std::to_string(appState.historyViewLast + 1) + " games";
-}
-
-void ShowNoneFoundCaption(std::string_view words) {
-    frmMainForm.grdHot.caption = std::string(words) + " (none found)";
-}
-
-void ShowHotNumbersCaption() {
-    const std::string_view words = IsCardGame(appState.gameType) ? "Hot Cards" : "Hot Numbers";
-    if (appState.hotNumberLast < 0) {
-        ShowNoneFoundCaption(words);
-    } else {
-        ShowHotCaption(words);
     }
 }
 

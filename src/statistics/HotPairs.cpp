@@ -2,7 +2,8 @@
 
 #include "state/AppState.h"
 #include "state/RuntimeFailure.h"
-#include "statistics/HotNumbers.h"
+#include "statistics/HotCaptions.h"
+#include "statistics/HotTableKinds.h"
 #include "statistics/JointGames.h"
 
 #include <algorithm>

@@ -1,6 +1,9 @@
 #include "statistics/HotTables.h"
 
+#include "forms/MainForm.h"
 #include "state/AppState.h"
+#include "statistics/HotCaptions.h"
+#include "statistics/HotNumbers.h"
 #include "statistics/HotPairs.h"
 #include "statistics/NoHitters.h"
 #include "statistics/PairedOnce.h"
@@ -35,7 +38,31 @@ const KeptTable& Kept(HotTable table) {
     return keptTables.at(static_cast<std::size_t>(table) - 1);
 }
 
+/// Builds the table on show from the new count.
+void RebuildShownTable() {
+    const HotTable shown = ShownHotTable();
+    if (shown == HotTable::HotNumbers) {
+        ShowHotNumbersCaption();
+    } else {
+        BuildHotTable(shown);
+    }
+    frmMainForm.hotRowCount = static_cast<std::int16_t>(LastRowOf(shown) + 1);
+}
+
 }  // namespace
+
+void ComputeHotTable() {
+    const bool isChosen = appState.hotTableChoice > 0;
+    CountHotNumbers();
+    if (isChosen) {
+        RebuildShownTable();
+    }
+    frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
+    if (isChosen) {
+        frmMainForm.grdHot.ReadAgain();
+        frmMainForm.grdHot.GoTo(0, 2);
+    }
+}
 
 void BuildHotTable(HotTable table) {
     if (const KeptTable& kept = Kept(table); kept.build != nullptr) {

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "statistics/HotTableKinds.h"
+
 #include <cstdint>
 
-#include "statistics/HotNumbers.h"
-
 namespace ballhaven {
+
+/// Counts the hot numbers of the view anew, and rebuilds the table on show from them. Sets what `CountHotNumbers` and
+/// the shown table's own routine set, and of the main window `hotRowCount` and the rows, the caption and the current
+/// cell of `grdHot`. Raises the failures of the shown table.
+void ComputeHotTable();
 
 /// Builds a table anew from `hotNumberTable` and the view, and clears its stale flag. Hot Numbers, from which the
 /// others come, stays as `ComputeHotTable` left it. Raises the failures of the table's own routine.

@@ -1,7 +1,7 @@
 #include "statistics/JointGames.h"
 
-#include "history/HistoryView.h"
 #include "state/AppState.h"
+#include "state/ViewRows.h"
 #include "statistics/HotNumbers.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "state/Table.h"
+
 #include <compare>
 #include <cstdint>
-
-#include "state/Table.h"
 
 namespace ballhaven {
 

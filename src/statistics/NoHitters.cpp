@@ -1,8 +1,9 @@
 #include "statistics/NoHitters.h"
 
-#include "history/HistoryView.h"
 #include "state/AppState.h"
-#include "statistics/HotNumbers.h"
+#include "state/ViewRows.h"
+#include "statistics/HotCaptions.h"
+#include "statistics/HotTableKinds.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,9 +1,11 @@
 #include "statistics/Repeaters.h"
 
-#include "history/HistoryView.h"
 #include "state/AppState.h"
+#include "state/ViewRows.h"
 #include "state/modUTILS.h"
+#include "statistics/HotCaptions.h"
 #include "statistics/HotNumbers.h"
+#include "statistics/HotTableKinds.h"
 
 #include <algorithm>
 #include <array>

@@ -1,13 +1,13 @@
 #include "wheels/ShuffleFile.h"
 
-#include <string>
-#include <string_view>
-
 #include "platform/Application.h"
 #include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
 #include "state/RecordFile.h"
 #include "state/modUTILS.h"
+
+#include <string>
+#include <string_view>
 
 namespace ballhaven {
 

@@ -1,25 +1,25 @@
 #include "calendar/Calendar.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-#include <exception>
-#include <functional>
-#include <string>
-#include <vector>
-
-#include "calendar/CalendarForm.h"
-#include "platform/Grid.h"
+#include "forms/CalendarForm.h"
+#include "forms/MainForm.h"
 #include "platform/Services.h"
-#include "screen/MainForm.h"
+#include "platform/controls/Grid.h"
 #include "state/AppState.h"
 #include "support/CalendarReset.h"
 #include "support/MainFormReset.h"
 #include "support/MessageScript.h"
 #include "support/qt/TestWindow.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <exception>
+#include <functional>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

@@ -1,14 +1,14 @@
 #include "calendar/MonthLayout.h"
 
+#include "forms/CalendarForm.h"
+#include "platform/Services.h"
+#include "state/RuntimeFailure.h"
+#include "support/CalendarReset.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "calendar/CalendarForm.h"
-#include "platform/Services.h"
-#include "state/RuntimeFailure.h"
-#include "support/CalendarReset.h"
 
 namespace ballhaven {
 namespace {

@@ -1,5 +1,10 @@
 #include "calendar/MonthPainting.h"
 
+#include "calendar/MonthLayout.h"
+#include "forms/CalendarForm.h"
+#include "platform/Services.h"
+#include "support/CalendarReset.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,11 +12,6 @@
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "calendar/CalendarForm.h"
-#include "calendar/MonthLayout.h"
-#include "platform/Services.h"
-#include "support/CalendarReset.h"
 
 namespace ballhaven {
 namespace {

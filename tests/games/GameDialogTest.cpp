@@ -1,18 +1,19 @@
 #include "games/GameDialog.h"
 
+#include "forms/NewGameForm.h"
+#include "state/AppState.h"
+#include "support/qt/RunningProgram.h"
+#include "support/qt/TestWindow.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+
 #include <functional>
 #include <utility>
-
-#include "games/NewGameForm.h"
-#include "state/AppState.h"
-#include "support/qt/RunningProgram.h"
-#include "support/qt/TestWindow.h"
 
 namespace ballhaven {
 namespace {

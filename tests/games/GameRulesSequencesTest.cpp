@@ -1,19 +1,19 @@
+#include "forms/NewGameForm.h"
+#include "forms/SelectorLists.h"
+#include "history/GameSwitch.h"
+#include "state/AppState.h"
+#include "state/GameTable.h"
+#include "support/MainFormReset.h"
+#include "support/RulesDialog.h"
+
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <chrono>
 #include <random>
 #include <set>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
-
-#include "games/NewGameForm.h"
-#include "history/GameSwitch.h"
-#include "screen/SelectorLists.h"
-#include "state/AppState.h"
-#include "state/GameTable.h"
-#include "support/MainFormReset.h"
-#include "support/RulesDialog.h"
 
 namespace ballhaven {
 namespace {

@@ -1,20 +1,20 @@
 #include "games/GameRules.h"
 
-#include <map>
-#include <memory>
-#include <random>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "games/NewGameForm.h"
-#include "platform/FileSystem.h"
+#include "forms/NewGameForm.h"
+#include "platform/files/FileSystem.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "support/MainFormReset.h"
 #include "support/RecordBytes.h"
 #include "support/RulesDialog.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

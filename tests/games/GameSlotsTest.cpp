@@ -1,14 +1,15 @@
 #include "games/GameSlots.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <functional>
-#include <utility>
-
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "support/qt/RunningProgram.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+
+#include <functional>
+#include <utility>
 
 namespace ballhaven {
 namespace {
@@ -79,8 +80,7 @@ class GameSlots : public support::RunningProgram {
     }
 
     void ExpectDeleteQuestion(BoxAnswer answer) {
-        boxes.Expect("Ballhaven", "Delete This Game?\n\nAll data will be ERASED!", BoxButtons::YesNo, BoxIcon::Critical,
-                     answer);
+        boxes.ExpectBeforeLoss("Delete This Game?\n\nAll data will be ERASED!", BoxIcon::Critical, answer);
     }
 
     [[nodiscard]] std::string GameTableFile() const { return directory.Read("LOTTOSYS"); }
@@ -382,8 +382,7 @@ TEST_F(QuirkGameFewerPicks1, ALowerMainCountKeepsTheFilesExtraColumnsUntilTheDra
 
 TEST_F(TwoGames, WhatIsDirtyIsSavedBeforeTheDialogOpens) {
     Start();
-    boxes.Expect("Ballhaven", "Erase ALL Play Slips for this game?", BoxButtons::YesNo, BoxIcon::Question,
-                 BoxAnswer::Yes);
+    boxes.ExpectBeforeLoss("Erase ALL Play Slips for this game?", BoxIcon::Question, BoxAnswer::Yes);
     Choose("mnuEditArray(7)");
     ClickCell("grdHist", 1, 1);
     Type("5");

@@ -1,18 +1,18 @@
 #include "history/DrawDates.h"
 
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
+#include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryEdits.h"
 #include "history/HistoryFile.h"
 #include "platform/MessageBox.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/RuntimeFailure.h"
 #include "support/HistoryLog.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

@@ -1,22 +1,22 @@
 #include "history/GameSwitch.h"
 
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
+#include "forms/MainForm.h"
 #include "history/HistoryFile.h"
 #include "plays/PlayFile.h"
+#include "screen/HotCells.h"
 #include "screen/LogCells.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
-#include "statistics/HotCells.h"
 #include "support/Games.h"
 #include "support/MainFormReset.h"
 #include "support/MessageScript.h"
 #include "support/TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

@@ -1,12 +1,12 @@
 #include "history/HistoryEditing.h"
 
-#include <QApplication>
-#include <QTest>
-
-#include "calendar/CalendarForm.h"
-#include "screen/MainForm.h"
+#include "forms/CalendarForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
+
+#include <QApplication>
+#include <QTest>
 
 namespace ballhaven {
 namespace {
@@ -35,7 +35,7 @@ class HistoryEditing : public support::RunningProgram {
     }
 
     void ExpectQuestion(const std::string& date, BoxAnswer answer) {
-        boxes.Expect("Ballhaven", "Delete record for " + date + "?", BoxButtons::YesNo, BoxIcon::Critical, answer);
+        boxes.ExpectBeforeLoss("Delete record for " + date + "?", BoxIcon::Critical, answer);
     }
 
     void ExpectFile(const std::vector<Draw>& expected) const {

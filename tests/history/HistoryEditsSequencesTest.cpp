@@ -1,22 +1,22 @@
+#include "forms/MainForm.h"
+#include "history/DrawDates.h"
+#include "history/GameSwitch.h"
+#include "history/HistoryEdits.h"
+#include "platform/MessageBox.h"
+#include "state/AppState.h"
+#include "state/GameRecordColumns.h"
+#include "state/GameTable.h"
+#include "state/modUTILS.h"
+#include "support/HistoryLog.h"
+
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <random>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
-
-#include "history/DrawDates.h"
-#include "history/GameSwitch.h"
-#include "history/HistoryEdits.h"
-#include "platform/MessageBox.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "state/GameRecordColumns.h"
-#include "state/GameTable.h"
-#include "state/modUTILS.h"
-#include "support/HistoryLog.h"
 
 namespace ballhaven {
 namespace {
@@ -225,8 +225,8 @@ class AnyOrderOfEdits : public support::HistoryLogTest {
         const int date = GoToAnyRow();
         if (date != 0) {
             const bool agrees = Roll(0, 2) > 0;
-            boxes.Expect("Ballhaven", "Delete record for " + TextOf(date) + "?", BoxButtons::YesNo, BoxIcon::Critical,
-                         agrees ? BoxAnswer::Yes : BoxAnswer::No);
+            boxes.ExpectBeforeLoss("Delete record for " + TextOf(date) + "?", BoxIcon::Critical,
+                                   agrees ? BoxAnswer::Yes : BoxAnswer::No);
             if (agrees && HasDate(date)) {
                 Current().rows.erase(FindRow(date));
                 dirty = true;

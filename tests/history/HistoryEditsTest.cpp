@@ -1,18 +1,18 @@
 #include "history/HistoryEdits.h"
 
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
+#include "forms/MainForm.h"
 #include "history/HistoryView.h"
 #include "platform/MessageBox.h"
 #include "screen/LogCells.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "support/Games.h"
 #include "support/HistoryLog.h"
 #include "support/MainFormReset.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {
@@ -184,7 +184,7 @@ class DeletingADraw : public support::HistoryLogTest {
     static support::Game ThreeOfNine() { return NumberGame().Picks(3).From(1).To(9).OldestFirst().HistorySet(10); }
 
     void ExpectQuestion(const std::string& date, BoxAnswer answer) {
-        boxes.Expect("Ballhaven", "Delete record for " + date + "?", BoxButtons::YesNo, BoxIcon::Critical, answer);
+        boxes.ExpectBeforeLoss("Delete record for " + date + "?", BoxIcon::Critical, answer);
     }
 };
 

@@ -1,6 +1,6 @@
 #include "history/HistoryView.h"
 
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/MainFormReset.h"
 #include "support/MainScreen.h"
@@ -316,51 +316,6 @@ TEST(CompactHistory, AFullHistoryStaysWhole) {
 
     EXPECT_EQ(appState.historyLast, historyRows - 1);
     EXPECT_EQ(appState.HistoryTable(1, historyRows - 1), historyRows - 1);
-}
-
-TEST(RowOfDate, IsTheFirstRowOfTheViewWithTheDate) {
-    SetUpHistory(4);
-    SetDates({1000, 1007, 1007, 1010});
-    appState.historySortOrder = 1;
-    BuildHistoryView();
-
-    EXPECT_EQ(RowOfDate(1000), 0);
-    EXPECT_EQ(RowOfDate(1007), 1);
-    EXPECT_EQ(RowOfDate(1010), 3);
-    EXPECT_EQ(RowOfDate(1008), -1);
-}
-
-TEST(RowOfDate, LooksAtNoRowThatTheViewDoesNotHave) {
-    SetUpHistory(2);
-    BuildHistoryView();
-    appState.historyViewLast = 9;
-
-    EXPECT_EQ(RowOfDate(2000), -1);
-}
-
-std::vector<int> PicksOf(int row) {
-    const auto picks = PicksOfDraw(row);
-    return {picks.begin(), picks.end()};
-}
-
-TEST(PicksOfDraw, AreTheColumnsOfARowBehindItsDate) {
-    support::StartWith(support::NumberGame().Picks(3).OldestFirst());
-    support::ShowDraws({{1, 2, 3}, {4, -1, 6}});
-
-    EXPECT_EQ(PicksOf(0), (std::vector<int>{1, 2, 3}));
-    EXPECT_EQ(PicksOf(1), (std::vector<int>{4, -1, 6}));
-}
-
-TEST(PicksOfDraw, EndWhereTheGameOrTheViewEnds) {
-    support::StartWith(support::NumberGame().Picks(3).OldestFirst());
-    support::ShowDraws({{1, 2, 3}});
-
-    appState.totalPicks = 2;
-    EXPECT_EQ(PicksOf(0), (std::vector<int>{1, 2}));
-    appState.totalPicks = 9;
-    EXPECT_EQ(PicksOf(0), (std::vector<int>{1, 2, 3}));
-    EXPECT_EQ(PicksOf(-1), std::vector<int>());
-    EXPECT_EQ(PicksOf(1000), std::vector<int>());
 }
 
 }  // namespace

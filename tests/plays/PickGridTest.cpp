@@ -12,13 +12,7 @@ namespace {
 
 using support::BonusPool;
 using support::CardGame;
-using support::Game;
 using support::NumberGame;
-
-int RowsOf(const Game& game) {
-    support::SetUpGame(game);
-    return PickGridRows();
-}
 
 /// The cells of a row one after another, a dot for an empty one.
 std::string RowText(int row) {
@@ -28,18 +22,6 @@ std::string RowText(int row) {
         text += (column == 0 ? "" : " ") + (cell.empty() ? "." : cell);
     }
     return text;
-}
-
-TEST(PickGridRows, AGameWithoutBonusPicksHasOneBlock) {
-    EXPECT_EQ(RowsOf(NumberGame()), 12);
-    EXPECT_EQ(RowsOf(CardGame()), 12);
-}
-
-TEST(PickGridRows, AGameWithBonusPicksHasTwo) {
-    EXPECT_EQ(RowsOf(NumberGame().Bonus(1, BonusPool::Same)), 24);
-    EXPECT_EQ(RowsOf(NumberGame().Bonus(1, BonusPool::Separate)), 24);
-    EXPECT_EQ(RowsOf(CardGame().Bonus(1, BonusPool::Same)), 24);
-    EXPECT_EQ(RowsOf(CardGame().Bonus(1, BonusPool::Separate)), 24);
 }
 
 TEST(PlayBoardText, NumbersStandInRowsOfNine) {

@@ -1,17 +1,15 @@
 #include "plays/PlayFile.h"
 
-#include <map>
-#include <optional>
-#include <string>
-#include <vector>
+#include "plays/PlayMethodCode.h"
+#include "state/AppState.h"
+#include "support/RecordBytes.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "plays/PlayMethodCode.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "support/RecordBytes.h"
+#include <map>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {
@@ -82,34 +80,6 @@ std::string OlderFile() {
         records[play] = "SH   " + std::string(play % 100 < 10 ? " " : "") + std::to_string(play % 100);
     }
     return older.File(records);
-}
-
-// Slips
-
-TEST(PlaySlips, FivePlaysStandOnEachSlip) {
-    const std::map<int, int> slips = {{1, 1},  {5, 1},      {6, 2},       {10, 2},
-                                      {11, 3}, {4995, 999}, {4996, 1000}, {5000, 1000}};
-    for (const auto& [play, slip] : slips) {
-        EXPECT_EQ(SlipOfPlay(play), slip) << play;
-    }
-}
-
-TEST(PlaySlips, TheLinesOfASlipRunFromOneToFive) {
-    const std::map<int, int> lines = {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 1}, {4999, 4}, {5000, 5}};
-    for (const auto& [play, line] : lines) {
-        EXPECT_EQ(LineOfPlay(play), line) << play;
-    }
-}
-
-TEST(PlaySlips, APlayIsNamedByItsSlipWithAPointAndItsLetter) {
-    const std::map<int, std::string> names = {{1, "1.A"}, {7, "2.B"}, {58, "12.C"}, {4, "1.D"}, {5000, "1000.E"}};
-    for (const auto& [play, name] : names) {
-        std::string slipText = "old";
-        std::string lineLetter = "old";
-        PlaySlipLabel(play, slipText, lineLetter);
-        EXPECT_EQ(slipText + lineLetter, name);
-        EXPECT_EQ(slipText.back(), '.');
-    }
 }
 
 // Creating and the older size
@@ -317,36 +287,6 @@ TEST_F(PlayFile, EveryCellUpTo99SurvivesInEverySlotOfEveryPlay) {
 }
 
 // Clearing
-
-/// A board that only counts how often it is read again.
-class CountingBoard : public platform::GridView {
-  public:
-    void Refresh() override {}
-    void TakeFocus() override {}
-    void BringToFront() override {}
-    [[nodiscard]] platform::Bounds ScreenPlace() const override { return {}; }
-    void ReadAgain() override { ++readings; }
-    void Repaint() override {}
-    void ShowCurrentCell() override {}
-    bool EndEdit() override { return true; }
-    void SelectCellText() override {}
-    [[nodiscard]] bool HasSelectedText() const override { return false; }
-    [[nodiscard]] int FirstVisibleRow() const override { return 0; }
-    [[nodiscard]] int VisibleRows() const override { return 0; }
-    [[nodiscard]] std::optional<int> RowTop(int) const override { return {}; }
-
-    int readings = 0;
-};
-
-TEST_F(PlayFile, ClearingHasTheBoardOfTheMainWindowReadAgain) {
-    CountingBoard board;
-    frmMainForm.grdPlay.view = &board;
-    ClearAllPlays();
-    EXPECT_EQ(board.readings, 1);
-    RefreshPlayGrids();
-    EXPECT_EQ(board.readings, 2);
-    frmMainForm.grdPlay.view = nullptr;
-}
 
 TEST_F(PlayFile, ClearingEmptiesEveryPlayInMemoryOnly) {
     const std::string file = playFormat.File({{1, "SH    1  2"}, {5000, "FW    3"}});

@@ -1,10 +1,10 @@
 #include "plays/SinglePlay.h"
 
-#include <QLabel>
-
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
+
+#include <QLabel>
 
 namespace ballhaven {
 namespace {

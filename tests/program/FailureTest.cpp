@@ -1,13 +1,13 @@
-#include <cerrno>
-#include <string>
-#include <vector>
+#include "platform/files/FileSystem.h"
+#include "start/Start.h"
+#include "state/AppState.h"
+#include "support/qt/RunningProgram.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/FileSystem.h"
-#include "state/AppState.h"
-#include "state/Start.h"
-#include "support/qt/RunningProgram.h"
+#include <cerrno>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

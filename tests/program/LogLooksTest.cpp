@@ -1,9 +1,9 @@
-#include <QScrollBar>
-#include <QTest>
-
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
+
+#include <QScrollBar>
+#include <QTest>
 
 namespace ballhaven {
 namespace {

@@ -1,12 +1,12 @@
+#include "forms/MainForm.h"
+#include "platform/Services.h"
+#include "state/AppState.h"
+#include "support/qt/RunningProgram.h"
+
 #include <QTest>
 
 #include <algorithm>
 #include <random>
-
-#include "platform/Services.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "support/qt/RunningProgram.h"
 
 namespace ballhaven {
 namespace {

@@ -1,11 +1,11 @@
 #include "screen/CardPicker.h"
 
-#include <QLineEdit>
-#include <QTest>
-
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
+
+#include <QLineEdit>
+#include <QTest>
 
 namespace ballhaven {
 namespace {

@@ -1,12 +1,12 @@
 #include "screen/ColorToolbar.h"
 
-#include <QLineEdit>
-#include <QTest>
-
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
 #include "support/qt/TestWindow.h"
+
+#include <QLineEdit>
+#include <QTest>
 
 namespace ballhaven {
 namespace {

@@ -1,14 +1,14 @@
 #include "screen/DrawingHiLite.h"
 
+#include "forms/MainForm.h"
+#include "screen/LogCells.h"
+#include "state/AppState.h"
+#include "support/MainScreen.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "screen/LogCells.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "support/MainScreen.h"
 
 namespace ballhaven {
 namespace {

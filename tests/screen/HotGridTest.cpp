@@ -1,6 +1,6 @@
 #include "screen/HotGrid.h"
 
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
 

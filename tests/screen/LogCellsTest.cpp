@@ -1,6 +1,6 @@
 #include "screen/LogCells.h"
 
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "support/MainScreen.h"
 

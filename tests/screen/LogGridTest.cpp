@@ -1,14 +1,14 @@
 #include "screen/LogGrid.h"
 
+#include "forms/MainForm.h"
+#include "platform/Application.h"
+#include "state/AppState.h"
+#include "support/qt/RunningProgram.h"
+
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 #include <QWindow>
-
-#include "platform/Application.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "support/qt/RunningProgram.h"
 
 namespace ballhaven {
 namespace {

@@ -1,13 +1,13 @@
 #include "screen/MainMenu.h"
 
+#include "forms/MainForm.h"
+#include "state/AppState.h"
+#include "support/qt/RunningProgram.h"
+
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
-
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "support/qt/RunningProgram.h"
 
 namespace ballhaven {
 namespace {
@@ -82,7 +82,7 @@ class MainMenu : public support::RunningProgram {
     }
 
     void ExpectQuestion(BoxAnswer answer) {
-        boxes.Expect("Ballhaven", "Erase ALL Play Slips for this game?", BoxButtons::YesNo, BoxIcon::Question, answer);
+        boxes.ExpectBeforeLoss("Erase ALL Play Slips for this game?", BoxIcon::Question, answer);
     }
 
     const Texts ascending = {"01/01/1990", "01/02/1990", "01/03/1990"};

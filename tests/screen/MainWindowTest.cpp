@@ -1,19 +1,19 @@
 #include "screen/MainWindow.h"
 
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "games/NewGameForm.h"
+#include "forms/MainForm.h"
+#include "forms/NewGameForm.h"
 #include "history/HistoryFile.h"
-#include "platform/FileSystem.h"
 #include "platform/Services.h"
-#include "screen/MainForm.h"
+#include "platform/files/FileSystem.h"
 #include "state/AppState.h"
 #include "support/MainFormReset.h"
 #include "support/MessageScript.h"
 #include "support/TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

@@ -1,15 +1,16 @@
 #include "screen/Selectors.h"
 
+#include "forms/MainForm.h"
+#include "platform/files/FileSystem.h"
+#include "state/AppState.h"
+#include "statistics/HotNumbers.h"
+#include "statistics/HotTableKinds.h"
+#include "support/qt/RunningProgram.h"
+
 #include <QComboBox>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
-
-#include "platform/FileSystem.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "statistics/HotNumbers.h"
-#include "support/qt/RunningProgram.h"
 
 namespace ballhaven {
 namespace {
@@ -137,8 +138,7 @@ TEST_F(Selectors, AGameChosenAndLeftComesBackAsItWas) {
 }
 
 TEST_F(Selectors, AnotherGameIsShownOnlyWhenTheOldOnesDrawsAndThenItsPlaysAreSaved) {
-    boxes.Expect("Ballhaven", "Erase ALL Play Slips for this game?", BoxButtons::YesNo, BoxIcon::Question,
-                 BoxAnswer::Yes);
+    boxes.ExpectBeforeLoss("Erase ALL Play Slips for this game?", BoxIcon::Question, BoxAnswer::Yes);
     ChooseFromMenu("mnuEdit", "mnuEditArray(7)");
     ClickCell("grdHist", 9, 1);
     Type("7");

@@ -1,18 +1,18 @@
 #include "state/DateText.h"
 
+#include "platform/Services.h"
+#include "state/AppState.h"
+#include "state/RuntimeFailure.h"
+#include "support/Games.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
 #include <array>
 #include <chrono>
 #include <cstdio>
 #include <optional>
 #include <string>
-
-#include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
-
-#include "platform/Services.h"
-#include "state/AppState.h"
-#include "state/RuntimeFailure.h"
-#include "support/Games.h"
 
 namespace ballhaven {
 namespace {

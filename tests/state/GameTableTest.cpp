@@ -1,14 +1,14 @@
 #include "state/GameTable.h"
 
-#include <map>
-#include <string>
-#include <vector>
+#include "state/AppState.h"
+#include "support/RecordBytes.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "state/AppState.h"
-#include "support/RecordBytes.h"
+#include <map>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

@@ -1,15 +1,15 @@
 #include "state/PickText.h"
 
-#include <array>
-#include <string>
-#include <vector>
+#include "state/AppState.h"
+#include "state/RuntimeFailure.h"
+#include "support/Games.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "state/AppState.h"
-#include "state/RuntimeFailure.h"
-#include "support/Games.h"
+#include <array>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

@@ -1,19 +1,19 @@
 #include "state/RecordFile.h"
 
+#include "state/RuntimeFailure.h"
+#include "support/ChildProcess.h"
+#include "support/TemporaryDirectory.h"
+#include "support/WatchedFiles.h"
+
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <map>
 #include <random>
 #include <string>
-
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-
-#include "state/RuntimeFailure.h"
-#include "support/ChildProcess.h"
-#include "support/TemporaryDirectory.h"
-#include "support/WatchedFiles.h"
 
 namespace ballhaven {
 namespace {

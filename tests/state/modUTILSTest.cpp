@@ -1,14 +1,14 @@
 #include "state/modUTILS.h"
 
-#include <cstdint>
-#include <functional>
-#include <limits>
-#include <string>
+#include "state/RuntimeFailure.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "state/RuntimeFailure.h"
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <string>
 
 namespace ballhaven::modUTILS {
 namespace {

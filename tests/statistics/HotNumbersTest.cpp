@@ -1,6 +1,8 @@
 #include "statistics/HotNumbers.h"
 
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
+#include "statistics/HotTableKinds.h"
+#include "statistics/HotTables.h"
 #include "support/MainScreen.h"
 
 #include <gtest/gtest.h>
@@ -317,17 +319,6 @@ TEST(ComputeHotTable, AViewWithFewerColumnsThanTheGameIsCountedAsFarAsItGoes) {
     ComputeHotTable();
 
     EXPECT_EQ(HotNumberRows(), (Rows{{1, 1}, {2, 1}}));
-}
-
-TEST(HotCaptions, JoinTheWordsAndTheGamesWithSingleBlanks) {
-    StartWith(NumberGame().Picks(1));
-    ShowDraws(std::vector<DrawPicks>(25, DrawPicks{1}));
-
-    ShowHotCaption("Hot Pairs");
-    EXPECT_EQ(Caption(), "Hot Pairs in last 25 games");
-
-    ShowNoneFoundCaption("Pairs");
-    EXPECT_EQ(Caption(), "Pairs (none found)");
 }
 
 // The plain reckoning: for each count from the highest possible one down, each value in turn is looked for in every

@@ -1,9 +1,10 @@
 #include "statistics/HotTables.h"
 
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "state/RuntimeFailure.h"
 #include "statistics/HotPairs.h"
+#include "statistics/HotTableKinds.h"
 #include "statistics/NoHitters.h"
 #include "statistics/PairedOnce.h"
 #include "statistics/Repeaters.h"

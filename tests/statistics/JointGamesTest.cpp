@@ -2,6 +2,7 @@
 
 #include "state/AppState.h"
 #include "statistics/HotNumbers.h"
+#include "statistics/HotTables.h"
 #include "support/MainScreen.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,12 @@
 #include "statistics/PairedOnce.h"
 
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
+#include "screen/HotCells.h"
 #include "state/AppState.h"
 #include "state/RuntimeFailure.h"
-#include "statistics/HotCells.h"
 #include "statistics/HotNumbers.h"
+#include "statistics/HotTableKinds.h"
+#include "statistics/HotTables.h"
 #include "support/MainScreen.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #include "support/CalendarReset.h"
 
-#include <memory>
-
-#include "calendar/CalendarForm.h"
 #include "calendar/MonthLayout.h"
+#include "forms/CalendarForm.h"
+
+#include <memory>
 
 namespace ballhaven::support {
 

@@ -2,11 +2,10 @@
 
 #include <cerrno>
 #include <csignal>
-#include <system_error>
-
 #include <grp.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace ballhaven::support {

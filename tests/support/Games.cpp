@@ -1,10 +1,10 @@
 #include "support/Games.h"
 
+#include "state/AppState.h"
+
 #include <chrono>
 #include <cstdio>
 #include <stdexcept>
-
-#include "state/AppState.h"
 
 namespace ballhaven::support {
 

@@ -1,17 +1,18 @@
 #include "support/HistoryLog.h"
 
-#include <map>
-
+#include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryEdits.h"
 #include "history/HistoryFile.h"
-#include "platform/FileSystem.h"
+#include "platform/files/FileSystem.h"
 #include "screen/LogCells.h"
-#include "screen/MainForm.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 #include "statistics/HotNumbers.h"
+#include "statistics/HotTables.h"
 #include "support/MainFormReset.h"
+
+#include <map>
 
 namespace ballhaven::support {
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <chrono>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "platform/Services.h"
 #include "support/Games.h"
 #include "support/MessageScript.h"
 #include "support/RecordBytes.h"
 #include "support/TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
 
 namespace ballhaven::support {
 

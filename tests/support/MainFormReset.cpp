@@ -1,9 +1,9 @@
 #include "support/MainFormReset.h"
 
-#include <memory>
-
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "support/Games.h"
+
+#include <memory>
 
 namespace ballhaven::support {
 

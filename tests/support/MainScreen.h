@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "support/Games.h"
+
+#include <vector>
 
 namespace ballhaven::support {
 

@@ -1,10 +1,10 @@
 #include "support/MessageScript.h"
 
+#include "platform/Services.h"
+
 #include <gtest/gtest.h>
 
 #include <utility>
-
-#include "platform/Services.h"
 
 namespace ballhaven::support {
 
@@ -19,7 +19,7 @@ std::string Words(const MessageBoxRequest& request) {
     const char* const icons[] = {"no icon", "information", "question", "critical"};
     return "\"" + request.title + "\": \"" + request.text + "\" (" +
            (request.buttons == BoxButtons::Ok ? "OK" : "Yes and No") + ", " + icons[static_cast<int>(request.icon)] +
-           ")";
+           (request.offered == BoxAnswer::No ? ", on No)" : ")");
 }
 
 }  // namespace
@@ -38,6 +38,11 @@ MessageScript::~MessageScript() {
 MessageScript& MessageScript::Expect(std::string title, std::string text, BoxButtons buttons, BoxIcon icon,
                                      BoxAnswer answer) {
     queue.push_back({{std::move(text), buttons, icon, std::move(title)}, answer});
+    return *this;
+}
+
+MessageScript& MessageScript::ExpectBeforeLoss(std::string text, BoxIcon icon, BoxAnswer answer) {
+    queue.push_back({{std::move(text), BoxButtons::YesNo, icon, "Ballhaven", BoxAnswer::No}, answer});
     return *this;
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "platform/MessageBox.h"
+
 #include <cstddef>
 #include <deque>
 #include <functional>
 #include <string>
-
-#include "platform/MessageBox.h"
 
 namespace ballhaven::support {
 
@@ -22,6 +22,9 @@ class MessageScript {
     /// Queues a box and the answer to it.
     MessageScript& Expect(std::string title, std::string text, platform::BoxButtons buttons, platform::BoxIcon icon,
                           platform::BoxAnswer answer = platform::BoxAnswer::Ok);
+
+    /// Queues a question about something that cannot be undone, which bears the application's title.
+    MessageScript& ExpectBeforeLoss(std::string text, platform::BoxIcon icon, platform::BoxAnswer answer);
 
     /// Boxes that were answered.
     [[nodiscard]] std::size_t Answered() const { return answered; }

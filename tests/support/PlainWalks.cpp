@@ -1,10 +1,10 @@
 #include "support/PlainWalks.h"
 
-#include <algorithm>
-
-#include "screen/MainForm.h"
+#include "forms/MainForm.h"
 #include "state/AppState.h"
 #include "state/modUTILS.h"
+
+#include <algorithm>
 
 namespace ballhaven::support {
 

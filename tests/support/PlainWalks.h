@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "state/Table.h"
+
+#include <string>
 
 namespace ballhaven::support {
 

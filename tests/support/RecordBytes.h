@@ -1,15 +1,15 @@
 #pragma once
 
+#include "state/AppState.h"
+#include "support/Games.h"
+#include "support/TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <gtest/gtest.h>
-
-#include "state/AppState.h"
-#include "support/Games.h"
-#include "support/TemporaryDirectory.h"
 
 namespace ballhaven::support {
 

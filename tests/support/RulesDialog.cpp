@@ -1,11 +1,11 @@
 #include "support/RulesDialog.h"
 
+#include "games/GameRules.h"
+#include "platform/files/FileSystem.h"
+#include "state/GameTable.h"
+
 #include <algorithm>
 #include <memory>
-
-#include "games/GameRules.h"
-#include "platform/FileSystem.h"
-#include "state/GameTable.h"
 
 namespace ballhaven::support {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "forms/NewGameForm.h"
+#include "support/RecordBytes.h"
+
 #include <array>
 #include <string>
-
-#include "games/NewGameForm.h"
-#include "support/RecordBytes.h"
 
 namespace ballhaven::support {
 

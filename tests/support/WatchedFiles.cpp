@@ -1,10 +1,10 @@
 #include "support/WatchedFiles.h"
 
+#include "platform/files/FileSystem.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
-
-#include "platform/FileSystem.h"
 
 namespace ballhaven::support {
 

@@ -5,6 +5,7 @@
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "state/PickText.h"
+#include "state/ViewRows.h"
 #include "support/Games.h"
 #include "support/TemporaryDirectory.h"
 #include "wheels/ShuffleFile.h"

@@ -1,15 +1,15 @@
 #include "wheels/ShuffleFile.h"
 
-#include <map>
-#include <string>
-#include <vector>
+#include "plays/PlayMethodCode.h"
+#include "state/AppState.h"
+#include "support/RecordBytes.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "plays/PlayMethodCode.h"
-#include "state/AppState.h"
-#include "support/RecordBytes.h"
+#include <map>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {

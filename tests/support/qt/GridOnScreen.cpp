@@ -1,11 +1,11 @@
 #include "support/qt/GridOnScreen.h"
 
+#include "platform/Boxes.h"
+
 #include <QAbstractProxyModel>
 #include <QApplication>
-#include <QWindow>
 #include <QTest>
-
-#include "platform/MessageBox.h"
+#include <QWindow>
 
 namespace ballhaven::support {
 
@@ -82,7 +82,7 @@ void GridOnScreen::ListenToEdits() {
     grid.acceptEdit = [this](int column) {
         notices.push_back("check " + std::to_string(column) + " " + grid.Text(column));
         if (std::atoi(grid.Text(column).c_str()) > highest) {
-            platform::ShowMessageBox("Too high");
+            platform::Tell("Too high");
             return false;
         }
         return true;

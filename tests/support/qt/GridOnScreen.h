@@ -1,15 +1,15 @@
 #pragma once
 
+#include "platform/Services.h"
+#include "platform/controls/Grid.h"
+#include "platform/qt/grid/GridWidget.h"
+
 #include <QImage>
 #include <QLineEdit>
 #include <QWidget>
 
 #include <string>
 #include <vector>
-
-#include "platform/Grid.h"
-#include "platform/Services.h"
-#include "platform/qt/GridWidget.h"
 
 namespace ballhaven::support {
 

@@ -1,5 +1,21 @@
 #include "support/qt/RunningProgram.h"
 
+#include "forms/CalendarForm.h"
+#include "forms/MainForm.h"
+#include "forms/NewGameForm.h"
+#include "history/HistoryFile.h"
+#include "platform/Application.h"
+#include "platform/controls/Window.h"
+#include "platform/files/FileSystem.h"
+#include "platform/files/Paths.h"
+#include "plays/PlayFile.h"
+#include "start/Start.h"
+#include "state/AppState.h"
+#include "state/GameRecordColumns.h"
+#include "state/GameTable.h"
+#include "support/MainFormReset.h"
+#include "support/qt/TestWindow.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
@@ -7,25 +23,11 @@
 #include <QMenuBar>
 #include <QTest>
 #include <QWindow>
+
 #include <cstdlib>
 #include <exception>
 #include <memory>
 #include <utility>
-
-#include "calendar/CalendarForm.h"
-#include "games/NewGameForm.h"
-#include "history/HistoryFile.h"
-#include "platform/Application.h"
-#include "platform/FileSystem.h"
-#include "platform/Window.h"
-#include "plays/PlayFile.h"
-#include "screen/MainForm.h"
-#include "state/AppState.h"
-#include "state/GameRecordColumns.h"
-#include "state/GameTable.h"
-#include "state/Start.h"
-#include "support/MainFormReset.h"
-#include "support/qt/TestWindow.h"
 
 namespace ballhaven::support {
 

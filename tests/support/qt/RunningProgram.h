@@ -1,6 +1,11 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include "platform/Services.h"
+#include "support/Games.h"
+#include "support/HistoryLog.h"
+#include "support/MessageScript.h"
+#include "support/RecordBytes.h"
+#include "support/TemporaryDirectory.h"
 
 #include <QAction>
 #include <QApplication>
@@ -8,19 +13,14 @@
 #include <QTableView>
 #include <QTimer>
 #include <QWidget>
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include "platform/Services.h"
-#include "support/Games.h"
-#include "support/HistoryLog.h"
-#include "support/MessageScript.h"
-#include "support/RecordBytes.h"
-#include "support/TemporaryDirectory.h"
 
 namespace ballhaven::support {
 

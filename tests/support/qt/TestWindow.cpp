@@ -1,10 +1,10 @@
 #include "support/qt/TestWindow.h"
 
+#include "platform/controls/Toolkit.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTest>
-
-#include "platform/Toolkit.h"
 
 namespace ballhaven::support {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include "platform/controls/Window.h"
 
 #include <QWidget>
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 #include <vector>
-
-#include "platform/Window.h"
 
 namespace ballhaven::support {
 

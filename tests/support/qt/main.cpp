@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
+#include "platform/Application.h"
+#include "platform/Services.h"
+#include "platform/qt/system/QtApplication.h"
 
 #include <QByteArray>
 #include <QtGlobal>
-
-#include "platform/Application.h"
-#include "platform/Services.h"
-#include "platform/qt/QtApplication.h"
+#include <gtest/gtest.h>
 
 namespace {
 

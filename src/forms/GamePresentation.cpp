@@ -1,0 +1,131 @@
+#include "forms/GamePresentation.h"
+
+#include "forms/MainForm.h"
+#include "state/AppState.h"
+#include "state/BoardGeometry.h"
+#include "state/modUTILS.h"
+
+#include <algorithm>
+
+namespace ballhaven {
+
+namespace {
+
+constexpr int numberBoardColumnWidth = 220;
+constexpr int cardBoardColumnWidth = 330;
+constexpr int boardEdges = 60;
+constexpr int boardHeight = 2235;
+constexpr int boardHeightWithBonus = 4395;
+
+constexpr int numberPickWidth = 600;
+constexpr int numberPicksWide = 6;
+constexpr int cardPickWidth = 720;
+constexpr int cardPicksWide = 5;
+
+constexpr int numberBoxLength = 2;
+constexpr int cardBoxLength = 3;
+constexpr int clearButtonGap = 50;
+constexpr int marginButtonOffset = 30;
+
+}  // namespace
+
+void SizePlayGrid() {
+    const bool cards = IsCardGame(appState.gameType);
+    const int columnWidth = cards ? cardBoardColumnWidth : numberBoardColumnWidth;
+    const BoardGeometry board = BoardOf(appState.gameType);
+    appState.slipColumns = modUTILS::ToInt16(board.columns);
+    for (int column = 0; column < frmMainForm.grdPlay.ColumnCount(); ++column) {
+        frmMainForm.grdPlay.Column(column).visible = column < board.columns;
+        frmMainForm.grdPlay.Column(column).width = columnWidth;
+    }
+    frmMainForm.grdPlay.SetWidth(columnWidth * board.columns + boardEdges);
+    frmMainForm.grdPlay.SetHeight(HasBonus(appState.gameType) ? boardHeightWithBonus : boardHeight);
+    frmMainForm.grdPlay.SetRowCount(board.rows);
+    frmMainForm.grdHot.Column(0).heading = cards ? "Card" : "Number";
+}
+
+void ShowViewChecks() {
+    frmMainForm.mnuViewArray[0].checked = appState.historySortOrder != 0;
+    frmMainForm.mnuViewArray[1].checked = appState.historySortOrder == 0;
+}
+
+void ArrangeLogColumns() {
+    const bool cards = IsCardGame(appState.gameType);
+    for (int column = 1; column <= logPickColumns; ++column) {
+        const bool isPick = column <= appState.totalPicks;
+        const bool isBonus = isPick && HasBonus(appState.gameType) && column > appState.mainPickCount;
+        platform::GridColumn& pick = frmMainForm.grdHist.Column(column);
+        pick.visible = true;
+        pick.locked = !isPick;
+        pick.focusable = isPick;
+        pick.background = isPick ? platform::windowColor : platform::buttonFaceColor;
+        pick.heading = isBonus ? "+" : "";
+        pick.width = cards ? cardPickWidth : numberPickWidth;
+    }
+    platform::GridPane& picks = frmMainForm.grdHist.Pane(pickPane);
+    picks.locked = cards;
+    picks.columnsWide = cards ? cardPicksWide : numberPicksWide;
+    picks.marksCurrentCell = !cards;
+}
+
+void ArrangeHotOptions() {
+    const bool shown = HasBonus(appState.gameType);
+    for (platform::OptionButton& option : frmMainForm.optHot) {
+        option.visible = shown;
+    }
+    if (shown) {
+        frmMainForm.optHot[2].Choose();
+    }
+}
+
+void ArrangeHiLiteBoxes() {
+    const bool cards = IsCardGame(appState.gameType);
+    const int picks = std::min<int>(appState.totalPicks, hiLiteBoxes);
+    for (int i = 0; i < hiLiteBoxes; ++i) {
+        platform::TextBox& box = frmMainForm.txtHiLite[static_cast<std::size_t>(i)];
+        platform::Label& swatch = frmMainForm.lblColor[static_cast<std::size_t>(i)];
+        box.locked = cards;
+        box.maxLength = cards ? cardBoxLength : numberBoxLength;
+        box.pointer = cards ? platform::PointerShape::IBeam : platform::PointerShape::Cross;
+        // QUIRK HILITE-BOX-1: with nine picks nothing is hidden, so the tenth box stays on show after a game of ten. It
+        // is meant: the box takes a text of the user's like the others; hiding it would leave its text at work unseen.
+        if (i < picks || picks < hiLiteBoxes - 1) {
+            box.visible = i < picks;
+            swatch.visible = i < picks;
+        }
+    }
+    const platform::Bounds& last = frmMainForm.txtHiLite[static_cast<std::size_t>(picks - 1)].bounds;
+    frmMainForm.cmdColor[1].SetLeft(last.left + last.width + clearButtonGap);
+}
+
+void ClearHiLiteBoxes() {
+    for (platform::TextBox& box : frmMainForm.txtHiLite) {
+        box.text = "";
+    }
+    frmMainForm.hiLiteCode.fill("");
+}
+
+void RepaintHiLites() {
+    frmMainForm.grdHist.Repaint();
+    frmMainForm.grdHot.Repaint();
+}
+
+void HideCards() {
+    for (platform::Picture& cards : frmMainForm.picCards) {
+        cards.visible = false;
+    }
+    frmMainForm.cardClicked = false;
+}
+
+void PlaceHiLiteDrawingButton() {
+    const platform::Grid& log = frmMainForm.grdHist;
+    const std::optional<int> rowTop = log.RowTop(log.CurrentRow());
+    if (rowTop) {
+        frmMainForm.cmdColorHist.SetLeft(log.bounds->left + marginButtonOffset);
+        frmMainForm.cmdColorHist.SetTop(log.bounds->top + *rowTop + marginButtonOffset);
+        frmMainForm.cmdColorHist.BringToFront();
+    }
+    frmMainForm.cmdColorHist.visible = rowTop.has_value();
+}
+
+}  // namespace ballhaven

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "platform/controls/Controls.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Menu.h"
+#include "platform/controls/Window.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace ballhaven {
+
+inline constexpr int hiLiteBoxes = 10;
+
+/// A colour of the Color by Number toolbar, with the foreground that can be read on it.
+struct HiLiteColor {
+    platform::Color background;
+    platform::Color foreground;
+};
+
+/// The colours of the swatches `lblColor`(0) to (9).
+inline constexpr std::array<HiLiteColor, hiLiteBoxes> hiLiteColors = {{
+    // clang-format off
+    {{255,   0, 255}, platform::black},  // magenta
+    {{255, 255,   0}, platform::black},  // yellow
+    {{255,   0,   0}, platform::white},  // red
+    {{  0, 255, 255}, platform::black},  // cyan
+    {{  0, 255,   0}, platform::black},  // green
+    {{  0, 128, 128}, platform::white},  // teal
+    {{128,   0, 128}, platform::white},  // purple
+    {{128, 128,   0}, platform::white},  // olive
+    {{  0,   0, 255}, platform::white},  // blue
+    {{  0,   0,   0}, platform::white},  // black
+    // clang-format on
+}};
+
+/// The panes of `grdHist`, and its columns of picks.
+inline constexpr int datePane = 0;
+inline constexpr int pickPane = 1;
+inline constexpr int logPickColumns = 10;
+
+/// The main window. Created once; its members bear the names that the whole program knows them by.
+struct MainForm {
+    platform::Window window;
+
+    // Fields that several of the window's events share
+    bool windowStarting = false;  ///< from the load until the end of the first activation
+    bool gameLoading = false;     ///< while a game is being switched in
+    std::int32_t logRowCount = 0;
+    std::int16_t logLastColumn = 0;  ///< highest column of `grdHist` that holds data
+    std::int16_t hotRowCount = 0;
+    std::int16_t hotColumnCount = 4;
+    bool cardClicked = false;
+    std::int16_t hiLiteTarget = 0;
+    std::string newestDrawText;  ///< date text of the newest draw of the view
+
+    // The toolbar
+    std::array<platform::Panel, 2> picToolbar;
+    std::array<platform::Button, 15> cmdButton;  ///< 6 and 9 are not used
+    platform::Label Label2;
+    platform::Line Label3;
+    std::array<platform::Button, 2> cmdColor;
+    std::array<platform::Label, hiLiteBoxes> lblColor;
+    std::array<platform::TextBox, hiLiteBoxes> txtHiLite;
+    std::array<std::string, hiLiteBoxes> hiLiteCode;  ///< the picks of the boxes as stored codes
+
+    // The left column
+    std::array<platform::Label, 4> lblLabel;
+    std::array<platform::DropDownList, 3> cboList;
+    std::array<platform::OptionButton, 3> optHot;
+    platform::Line Line1;
+    platform::Label lblPlay;
+    std::array<platform::Button, 3> cmdPlayBttn;
+    platform::Label Label1;
+    platform::Grid grdPlay;
+
+    // The picture and the tables
+    platform::Picture Picture1;
+    platform::Grid grdHot;
+    platform::Grid grdHist;
+    platform::Button cmdColorHist;
+    std::array<platform::Picture, 2> picCards;
+    platform::Timer tmrMessage;
+
+    // The menu bar
+    platform::Menu mnuFile;
+    platform::Menu mnuEdit;
+    platform::Menu mnuView;
+    platform::Menu mnuTools;
+    platform::Menu mnuHelp;
+    std::array<platform::MenuItem, 3> mnuFileArray;
+    std::array<platform::MenuItem, 8> mnuEditArray;
+    std::array<platform::MenuItem, 4> mnuViewArray;
+    std::array<platform::MenuItem, 4> mnuToolArray;
+    std::array<platform::MenuItem, 3> mnuHelpArray;
+};
+
+extern MainForm frmMainForm;
+
+/// Gives the window its size, its controls their places and texts, and the menu bar its entries.
+void LayOutMainForm();
+
+}  // namespace ballhaven

@@ -1,9 +1,0 @@
-#include "platform/Guard.h"
-#include "platform/qt/QtApplication.h"
-#include "state/Start.h"
-
-int main(int argc, char** argv) {
-    ballhaven::platform::QtApplication application(argc, argv);
-    ballhaven::platform::RunGuarded(ballhaven::StartProgram);
-    return application.Run();
-}

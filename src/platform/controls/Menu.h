@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/controls/Property.h"
+
+#include <functional>
+#include <span>
+#include <string>
+
+namespace ballhaven::platform {
+
+/// An entry of a menu. "&" before a letter of its caption marks the access key; the caption "-" makes it a separator.
+class MenuItem : public Shown {
+  public:
+    std::string name;
+    std::string caption;
+    Property<bool> checked{*this, false};
+    std::function<void()> click;
+};
+
+/// A menu of a window's menu bar.
+class Menu {
+  public:
+    std::string name;
+    std::string caption;
+    std::span<MenuItem> items;
+};
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,96 @@
+#include "platform/controls/Window.h"
+
+#include "platform/controls/Toolkit.h"
+
+namespace ballhaven::platform {
+
+void Window::Load() {
+    if (loaded) {
+        return;
+    }
+    loaded = true;
+    if (layout) {
+        layout();
+    }
+    if (toolkit != nullptr) {
+        toolkit->Build(*this);
+    }
+    if (load) {
+        load();
+    }
+}
+
+void Window::Show() {
+    Load();
+    if (view != nullptr) {
+        Widgets()->Show();
+    }
+}
+
+void Window::ShowModal() {
+    Load();
+    if (view != nullptr) {
+        Widgets()->ShowModal();
+    }
+}
+
+void Window::ShowInFront() {
+    Load();
+    if (view != nullptr) {
+        Widgets()->ShowInFront();
+    }
+}
+
+void Window::RepaintNow() {
+    if (view != nullptr) {
+        Widgets()->RepaintNow();
+    }
+}
+
+void Window::Unload() {
+    if (!loaded) {
+        return;
+    }
+    loaded = false;
+    if (unload) {
+        unload();
+    }
+    if (view != nullptr) {
+        toolkit->TearDown(*this);
+    }
+    controls.clear();
+    menus.clear();
+    timers.clear();
+}
+
+void Window::Resize(int width, int height) {
+    outerWidth = width;
+    outerHeight = height;
+    if (resize) {
+        resize();
+    }
+}
+
+void Window::MoveTo(int left, int top) {
+    if (view != nullptr) {
+        Widgets()->MoveTo(left, top);
+    }
+}
+
+int Window::Left() const {
+    return view != nullptr ? Widgets()->Left() : 0;
+}
+
+int Window::Top() const {
+    return view != nullptr ? Widgets()->Top() : 0;
+}
+
+void Window::ResizeByUser(int width, int height) {
+    outerWidth.SetQuietly(width);
+    outerHeight.SetQuietly(height);
+    if (resize) {
+        resize();
+    }
+}
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,110 @@
+#include "platform/files/FileSystem.h"
+
+#include "platform/files/CodePage.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <memory>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace ballhaven::platform {
+
+namespace {
+
+constexpr mode_t newFilePermissions = 0666;  // less the user's mask
+constexpr mode_t ownerOnly = 0600;
+constexpr mode_t allPermissions = 0777;
+
+template <typename Result>
+Result Answer(Result result) {
+    return result < 0 ? static_cast<Result>(-errno) : result;
+}
+
+// Without O_NONBLOCK a pipe in a data file's place would hang the program before its kind can be looked at.
+int FlagsOf(FileAccess access) {
+    constexpr int always = O_CLOEXEC | O_NONBLOCK;
+    switch (access) {
+        case FileAccess::ReadOrCreate:
+            return always | O_RDONLY | O_CREAT;
+        case FileAccess::UpdateOrCreate:
+            return always | O_RDWR | O_CREAT;
+        case FileAccess::CreateNew:
+            return always | O_WRONLY | O_CREAT | O_EXCL;
+        case FileAccess::Directory:
+            return always | O_RDONLY | O_DIRECTORY;
+    }
+    return always;
+}
+
+int Open(const std::string& path, FileAccess access) {
+    const mode_t permissions = access == FileAccess::CreateNew ? ownerOnly : newFilePermissions;
+    return Answer(::open(path.c_str(), FlagsOf(access), permissions));
+}
+
+int GetStatus(int file, FileStatus& status) {
+    struct stat found {};
+    const int result = Answer(::fstat(file, &found));
+    if (result == 0) {
+        status = {S_ISREG(found.st_mode), found.st_size, found.st_mode & allPermissions};
+    }
+    return result;
+}
+
+std::int64_t Read(int file, std::int64_t offset, char* bytes, std::size_t size) {
+    return Answer(::pread(file, bytes, size, offset));
+}
+
+std::int64_t Write(int file, const char* bytes, std::size_t size) {
+    return Answer(::write(file, bytes, size));
+}
+
+int SetPermissions(int file, unsigned permissions) {
+    return Answer(::fchmod(file, permissions & allPermissions));
+}
+
+int Flush(int file) {
+    return Answer(::fsync(file));
+}
+
+int Close(int file) {
+    return Answer(::close(file));
+}
+
+int Rename(const std::string& from, const std::string& to) {
+    return Answer(::rename(from.c_str(), to.c_str()));
+}
+
+int Remove(const std::string& path) {
+    return Answer(::unlink(path.c_str()));
+}
+
+int Resolve(const std::string& path, std::string& realPath) {
+    const std::unique_ptr<char, decltype(&std::free)> found(::realpath(path.c_str(), nullptr), &std::free);
+    if (!found) {
+        return -errno;
+    }
+    realPath = found.get();
+    return 0;
+}
+
+}  // namespace
+
+FileSystem SystemFiles() {
+    return {Open, GetStatus, Read, Write, SetPermissions, Flush, Close, Rename, Remove, Resolve};
+}
+
+std::string TextOfSystem(const std::string& bytes) {
+    try {
+        return FromUtf16(std::filesystem::path(bytes).u16string());
+    } catch (const std::system_error&) {
+        return bytes;
+    }
+}
+
+FileSystem fileSystem = SystemFiles();
+
+}  // namespace ballhaven::platform

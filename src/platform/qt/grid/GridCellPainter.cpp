@@ -1,0 +1,118 @@
+#include "platform/qt/grid/GridCellPainter.h"
+
+#include "platform/qt/grid/GridNavigation.h"
+#include "platform/qt/widgets/Conversions.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+
+namespace ballhaven::platform {
+
+namespace {
+
+constexpr int buttonWidth = 15;
+constexpr int leftPadding = 4;
+constexpr QColor lineColor(214, 211, 203);
+
+QColor PaletteColor(QPalette::ColorRole role) {
+    return QGuiApplication::palette().color(role);
+}
+
+void DrawLines(QPainter& painter, const QRect& cell, const QColor& color) {
+    painter.fillRect(cell.right(), cell.top(), 1, cell.height(), color);
+    painter.fillRect(cell.left(), cell.bottom(), cell.width(), 1, color);
+}
+
+void DrawFrame(QPainter& painter, const QRect& place, const QColor& color) {
+    painter.fillRect(place.left(), place.top(), place.width(), 1, color);
+    painter.fillRect(place.left(), place.bottom(), place.width(), 1, color);
+    painter.fillRect(place.left(), place.top(), 1, place.height(), color);
+    painter.fillRect(place.right(), place.top(), 1, place.height(), color);
+}
+
+void DrawButton(QPainter& painter, const QRect& button) {
+    painter.fillRect(button, PaletteColor(QPalette::Button));
+    DrawFrame(painter, button, PaletteColor(QPalette::Dark));
+    const QPoint middle = button.center();
+    for (int line = 0; line < 4; ++line) {
+        painter.fillRect(middle.x() - 3 + line, middle.y() - 1 + line, 7 - 2 * line, 1,
+                         PaletteColor(QPalette::ButtonText));
+    }
+}
+
+/// The mark of the current cell: a dark frame, with a lighter one inside it so that it shows on any colour.
+void DrawMark(QPainter& painter, const QRect& cell, bool hasFocus) {
+    const QRect inside = cell.adjusted(0, 0, -1, -1);
+    DrawFrame(painter, inside, hasFocus ? PaletteColor(QPalette::Highlight) : PaletteColor(QPalette::Shadow));
+    if (hasFocus) {
+        DrawFrame(painter, inside.adjusted(1, 1, -1, -1), PaletteColor(QPalette::Highlight).lighter(220));
+    }
+}
+
+}  // namespace
+
+GridCellPainter::GridCellPainter(const Grid& shownGrid, int shownPane, const GridModel& shownModel,
+                                 const PaneColumns& paneColumns)
+    : grid(shownGrid), pane(shownPane), model(shownModel), columns(paneColumns) {}
+
+void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QModelIndex cell = columns.mapToSource(index);
+    const GridColumn& column = grid.Column(cell.column());
+    const CellStyle style = model.StyleOf(cell.row(), cell.column());
+    painter->fillRect(option.rect, ToQColor(style.background));
+    DrawLines(*painter, option.rect, lineColor);
+
+    QRect text = option.rect.adjusted(0, 0, -1, -1);
+    if (column.hasButton) {
+        text.adjust(leftPadding, 0, -buttonWidth, 0);
+    }
+    painter->setFont(option.font);
+    painter->setPen(ToQColor(style.foreground));
+    painter->drawText(text,
+                      Qt::AlignVCenter | Qt::TextSingleLine | (column.hasButton ? Qt::AlignLeft : Qt::AlignHCenter),
+                      model.CellText(cell.row(), cell.column()));
+
+    if (column.hasButton && cell.row() == grid.CurrentRow()) {
+        DrawButton(*painter, ButtonIn(option.rect));
+    }
+    const bool current = CurrentCell(grid) == GridCell{pane, cell.row(), cell.column()};
+    if (current && grid.Pane(pane).marksCurrentCell) {
+        DrawMark(*painter, option.rect, option.state.testFlag(QStyle::State_HasFocus));
+    }
+}
+
+QRect GridCellPainter::ButtonIn(const QRect& cell) {
+    return {QPoint(cell.right() - buttonWidth, cell.top()), QPoint(cell.right() - 1, cell.bottom() - 1)};
+}
+
+GridHeadings::GridHeadings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(false);
+    setHighlightSections(false);
+    setSectionResizeMode(QHeaderView::Fixed);
+    setMinimumSectionSize(1);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void GridHeadings::paintSection(QPainter* painter, const QRect& section, int logicalIndex) const {
+    DrawGridFace(*painter, section);
+    painter->setPen(palette().color(QPalette::ButtonText));
+    painter->drawText(section.adjusted(0, 0, -1, 0), Qt::AlignCenter | Qt::TextSingleLine,
+                      model()->headerData(logicalIndex, Qt::Horizontal, Qt::DisplayRole).toString());
+}
+
+void GridHeadings::paintEvent(QPaintEvent* event) {
+    QHeaderView::paintEvent(event);
+    QPainter painter(viewport());
+    painter.fillRect(0, 0, viewport()->width(), 1, GridFrameColor());
+}
+
+void DrawGridFace(QPainter& painter, const QRect& place) {
+    painter.fillRect(place, PaletteColor(QPalette::Button));
+    DrawLines(painter, place, PaletteColor(QPalette::Mid));
+}
+
+QColor GridFrameColor() {
+    return PaletteColor(QPalette::Dark);
+}
+
+}  // namespace ballhaven::platform

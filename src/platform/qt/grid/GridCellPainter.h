@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/controls/Grid.h"
+#include "platform/qt/grid/GridModel.h"
+
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+
+namespace ballhaven::platform {
+
+/// Draws the cells of one pane of a grid. Text and colours are asked of the grid's owner for each cell as it is drawn.
+class GridCellPainter : public QStyledItemDelegate {
+  public:
+    GridCellPainter(const Grid& shownGrid, int shownPane, const GridModel& shownModel, const PaneColumns& paneColumns);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+    /// Place of the drop-down button in a cell.
+    [[nodiscard]] static QRect ButtonIn(const QRect& cell);
+
+  private:
+    const Grid& grid;
+    const int pane;
+    const GridModel& model;
+    const PaneColumns& columns;
+};
+
+/// The headings of one pane.
+class GridHeadings : public QHeaderView {
+  public:
+    explicit GridHeadings(QWidget* parent);
+
+  protected:
+    void paintSection(QPainter* painter, const QRect& section, int logicalIndex) const override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// Draws a flat raised face, as headings, the caption and the row margin have it, with lines at its right and lower
+/// edge.
+void DrawGridFace(QPainter& painter, const QRect& place);
+
+/// The colour of a grid's frame and of the lines between its panes.
+[[nodiscard]] QColor GridFrameColor();
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,142 @@
+#include "platform/qt/grid/GridPaneView.h"
+
+#include "platform/qt/widgets/Conversions.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+namespace ballhaven::platform {
+
+GridPaneView::GridPaneView(Grid& shownGrid, int shownPane, GridModel& model, QWidget* parent)
+    : QTableView(parent),
+      grid(shownGrid),
+      pane(shownPane),
+      rows(model),
+      columns(shownGrid, shownPane, model),
+      painter(shownGrid, shownPane, model, columns) {
+    setObjectName(QStringLiteral("%1.pane(%2)").arg(ToQString(grid.name)).arg(pane));
+    setHorizontalHeader(new GridHeadings(this));
+    setModel(&columns);
+    setItemDelegate(&painter);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->hide();
+    setFrameShape(QFrame::NoFrame);
+    setShowGrid(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setTabKeyNavigation(false);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    // The pixels of the last repaint stay while the grid is switched off.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void GridPaneView::Place(const GridMeasures::PanePlace& place) {
+    horizontalHeader()->setVisible(grid.showsHeadings);
+    horizontalHeader()->setFixedHeight(gridHeadingHeight);
+    verticalHeader()->setDefaultSectionSize(RowPixels(grid));
+    columns.ChooseColumns();
+    const int shown = std::min(columns.columnCount(), static_cast<int>(place.columnWidths.size()));
+    for (int column = 0; column < shown; ++column) {
+        horizontalHeader()->resizeSection(column, place.columnWidths[static_cast<std::size_t>(column)]);
+    }
+    setGeometry(place.place);
+    updateGeometries();
+}
+
+void GridPaneView::FollowCurrentCell() {
+    following = true;
+    const GridCell current = CurrentCell(grid);
+    selectionModel()->setCurrentIndex(current.pane == pane ? IndexOf(current) : QModelIndex(),
+                                      QItemSelectionModel::NoUpdate);
+    following = false;
+    viewport()->update();
+}
+
+void GridPaneView::ScrollTo(const GridCell& cell) {
+    const QModelIndex index = IndexOf(cell);
+    if (index.isValid()) {
+        scrollTo(index);
+    }
+}
+
+QModelIndex GridPaneView::IndexOf(const GridCell& cell) const {
+    return cell.pane == pane ? columns.mapFromSource(rows.index(cell.row, cell.column)) : QModelIndex();
+}
+
+QRect GridPaneView::CellPlace(const GridCell& cell) const {
+    return visualRect(IndexOf(cell));
+}
+
+std::optional<GridCell> GridPaneView::CellAt(QPoint position) const {
+    const QModelIndex cell = columns.mapToSource(indexAt(position));
+    if (!cell.isValid()) {
+        return std::nullopt;
+    }
+    return GridCell{pane, cell.row(), cell.column()};
+}
+
+int GridPaneView::WholeRows() const {
+    return viewport()->height() / RowPixels(grid);
+}
+
+bool GridPaneView::event(QEvent* event) {
+    // Tab is a key of the grid before it leads out of it.
+    if (event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
+            keyPressEvent(key);
+            return true;
+        }
+    }
+    return QTableView::event(event);
+}
+
+void GridPaneView::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(keyPressed(*event));
+}
+
+void GridPaneView::paintEvent(QPaintEvent* event) {
+    const bool whole = event->region().boundingRect().contains(viewport()->rect());
+    if (grid.IsOn()) {
+        QPainter(viewport()).fillRect(event->rect(), palette().color(QPalette::Base));
+        QTableView::paintEvent(event);
+        drawnSize = viewport()->size();
+        repainted(whole);
+    } else if (!whole || drawnSize != viewport()->size()) {
+        QPainter(viewport()).fillRect(event->rect(), palette().color(QPalette::Base));
+    }
+}
+
+void GridPaneView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    scrolled();
+}
+
+void GridPaneView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (!following && current.isValid()) {
+        const QModelIndex cell = columns.mapToSource(current);
+        movedFromOutside({pane, cell.row(), cell.column()});
+    }
+}
+
+bool GridPaneView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*) {
+    // The toolkit's own editor would restore the old value when a new one is refused; the grid has its own.
+    if (trigger != AllEditTriggers || !index.flags().testFlag(Qt::ItemIsEditable)) {
+        return false;
+    }
+    const QModelIndex cell = columns.mapToSource(index);
+    movedFromOutside({pane, cell.row(), cell.column()});
+    editAsked();
+    return true;
+}
+
+}  // namespace ballhaven::platform

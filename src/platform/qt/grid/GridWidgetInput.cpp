@@ -1,0 +1,258 @@
+#include "platform/Guard.h"
+#include "platform/qt/grid/GridWidget.h"
+#include "platform/qt/widgets/Conversions.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QWheelEvent>
+
+namespace ballhaven::platform {
+
+bool GridWidget::Report(const std::function<void()>& act) {
+    const QPointer<GridWidget> self(this);
+    if (grid.view == this && act) {
+        RunGuarded(act);
+    }
+    return !self.isNull() && grid.view == this;
+}
+
+bool GridWidget::eventFilter(QObject* watched, QEvent* event) {
+    const bool presses = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    auto* part = qobject_cast<QWidget*>(watched);
+    if (part == nullptr || (!presses && event->type() != QEvent::MouseButtonRelease)) {
+        return false;
+    }
+    if (dropsPress) {
+        return presses;
+    }
+    if (!isAncestorOf(part)) {
+        return false;
+    }
+    const auto& mouse = *static_cast<QMouseEvent*>(event);
+    const QPoint position = part->mapTo(this, mouse.position().toPoint());
+    const bool inEditor = part == editor;  // asked now: the grid may be gone when its handlers have run
+    if (presses) {
+        Press(position, mouse);
+    } else {
+        Release(position, mouse);
+    }
+    // The toolkit's table would move its current cell at the press.
+    return !inEditor;
+}
+
+void GridWidget::wheelEvent(QWheelEvent* event) {
+    QApplication::sendEvent(rowBar, event);
+}
+
+void GridWidget::Press(QPoint position, const QMouseEvent& event) {
+    pressed = grid.IsOn() && event.button() == Qt::LeftButton;
+    pressedTwice = event.type() == QEvent::MouseButtonDblClick;
+    if (!grid.IsOn()) {
+        return;
+    }
+    if (!editor->IsOpen()) {
+        TakeFocus();
+    }
+    if (grid.mousePress) {
+        Report([&] { grid.mousePress(ToTwips(position.x()), ToTwips(position.y())); });
+    }
+}
+
+void GridWidget::Release(QPoint position, const QMouseEvent& event) {
+    if (pressed && event.button() == Qt::LeftButton) {
+        pressed = false;
+        if (grid.IsOn() && rect().contains(position)) {
+            FinishClick(position);
+        }
+    }
+}
+
+void GridWidget::FinishClick(QPoint position) {
+    const bool inEditor = editor->IsOpen() && editor == childAt(position);
+    const QPointer<GridWidget> self(this);
+    // A refused value keeps the cursor: the click does nothing more.
+    if (!inEditor && !editor->Leave()) {
+        return;
+    }
+    const std::optional<GridCell> target = inEditor ? std::nullopt : CellAt(position);
+    const bool onButton = target && IsOnDropDownButton(*target, position);
+    if (!Report(grid.click)) {
+        return;
+    }
+    if (target && grid.Column(target->column).focusable) {
+        MoveTo(*target);
+    }
+    if (self.isNull() || !Report(grid.settled)) {
+        return;
+    }
+    if (onButton && grid.dropDown) {
+        Report([&] { grid.dropDown(target->column); });
+    } else if (pressedTwice && target && *target == CurrentCell(grid)) {
+        SelectCellText();
+    }
+}
+
+std::optional<GridCell> GridWidget::CellAt(QPoint position) const {
+    for (const GridPaneView* pane : panes) {
+        const QPoint inside = pane->viewport()->mapFrom(this, position);
+        if (pane->viewport()->rect().contains(inside)) {
+            return pane->CellAt(inside);
+        }
+    }
+    return std::nullopt;
+}
+
+bool GridWidget::IsOnDropDownButton(const GridCell& cell, QPoint position) const {
+    const GridPaneView* pane = panes[static_cast<std::size_t>(cell.pane)];
+    return cell.row == grid.CurrentRow() && grid.Column(cell.column).hasButton &&
+           GridCellPainter::ButtonIn(pane->CellPlace(cell)).contains(pane->viewport()->mapFrom(this, position));
+}
+
+bool GridWidget::ServeKey(QKeyEvent& key) {
+    const bool modifier = key.key() == Qt::Key_Shift || key.key() == Qt::Key_Control || key.key() == Qt::Key_Alt ||
+                          key.key() == Qt::Key_Meta || key.key() == Qt::Key_AltGr;
+    if (!grid.IsOn() || modifier) {
+        return false;
+    }
+    bool served = false;
+    if (grid.keyDown && !Report([&] { served = grid.keyDown(KeyOf(key)); })) {
+        return true;
+    }
+    return served || (editor->IsOpen() ? ServeEditorKey(key) : ServeCellKey(key));
+}
+
+bool GridWidget::ServeEditorKey(QKeyEvent& key) {
+    const bool selected = editor->hasSelectedText() || key.modifiers() & Qt::ShiftModifier;
+    switch (key.key()) {
+        case Qt::Key_Escape:
+            editor->Cancel();
+            return true;
+        case Qt::Key_Enter:
+        case Qt::Key_Return:
+            editor->Leave();
+            return true;
+        case Qt::Key_F2:
+            return true;
+        case Qt::Key_Left:
+            return !selected && editor->cursorPosition() == 0 && MoveByKey(key);
+        case Qt::Key_Right:
+            return !selected && editor->cursorPosition() == editor->text().size() && MoveByKey(key);
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return MoveByKey(key);
+        default:
+            return false;
+    }
+}
+
+bool GridWidget::ServeCellKey(QKeyEvent& key) {
+    const int column = grid.CurrentColumn();
+    if (IsDropDownKey(key) && grid.CurrentRow() >= 0 && grid.Column(column).hasButton && grid.dropDown) {
+        Report([this, column] { grid.dropDown(column); });
+        return true;
+    }
+    switch (key.key()) {
+        case Qt::Key_F2:
+            OpenEditor(GridCellEditor::Start::Behind);
+            return editor->IsOpen();
+        case Qt::Key_Backspace:
+        case Qt::Key_Delete:
+            OpenEditor(GridCellEditor::Start::Typed, QString());
+            return editor->IsOpen();
+        default:
+            break;
+    }
+    if (IsTyping(key)) {
+        OpenEditor(GridCellEditor::Start::Typed, key.text());
+        return editor->IsOpen();
+    }
+    return MoveByKey(key);
+}
+
+bool GridWidget::MoveByKey(QKeyEvent& key) {
+    const GridCell before = CurrentCell(grid);
+    if (!editor->Leave()) {
+        return true;
+    }
+    // What follows an accepted value may have moved to another column already.
+    const bool sideways = key.key() == Qt::Key_Left || key.key() == Qt::Key_Right || key.key() == Qt::Key_Tab ||
+                          key.key() == Qt::Key_Backtab;
+    if (sideways && CurrentCell(grid) != before) {
+        return true;
+    }
+    if (const auto target = CellByKey(grid, key, model.rowCount(), VisibleRows())) {
+        MoveTo(*target);
+        return true;
+    }
+    if ((key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) && CurrentPaneView() != nullptr) {
+        CurrentPaneView()->LeaveByTab(key.key() == Qt::Key_Tab);
+        return true;
+    }
+    return false;
+}
+
+void GridWidget::MoveTo(const GridCell& cell) {
+    if (!grid.IsOn() || !editor->Leave()) {
+        return;
+    }
+    Report([&] { grid.MoveByUser(cell.pane, cell.row, cell.column); });
+}
+
+void GridWidget::MoveFromOutside(const GridCell& cell) {
+    const QPointer<GridWidget> self(this);
+    if (grid.Column(cell.column).focusable) {
+        MoveTo(cell);
+    }
+    // Where the grid did not follow the toolkit's table, the table follows the grid.
+    if (!self.isNull()) {
+        for (GridPaneView* pane : panes) {
+            pane->FollowCurrentCell();
+        }
+    }
+}
+
+void GridWidget::OpenEditor(GridCellEditor::Start start, const std::optional<QString>& typed) {
+    const GridCell cell = CurrentCell(grid);
+    GridPaneView* pane = CurrentPaneView();
+    if (pane == nullptr || !grid.IsOn() || !grid.CanType(cell.column) || !editor->Leave()) {
+        return;
+    }
+    pane->ScrollTo(cell);
+    const QRect place = pane->CellPlace(cell);
+    if (!place.isEmpty()) {
+        editor->Open(*pane->viewport(), place, typed.value_or(model.CellText(cell.row, cell.column)), start);
+    }
+}
+
+void GridWidget::PutEditorOverCell() {
+    if (editor->IsOpen() && CurrentPaneView() != nullptr) {
+        editor->PutOver(CurrentPaneView()->CellPlace(CurrentCell(grid)));
+    }
+}
+
+void GridWidget::EditorLostFocus(Qt::FocusReason reason) {
+    const QPointer<GridWidget> self(this);
+    if (!editor->Leave() && !self.isNull() && reason == Qt::MouseFocusReason) {
+        DropComingPress();
+    }
+}
+
+/// A click that would have left a refused value must not do its work elsewhere: the press that took the keyboard away
+/// is yet to come, and goes nowhere.
+void GridWidget::DropComingPress() {
+    dropsPress = true;
+    qApp->installEventFilter(this);
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            dropsPress = false;
+            qApp->removeEventFilter(this);
+        },
+        Qt::QueuedConnection);
+}
+
+}  // namespace ballhaven::platform

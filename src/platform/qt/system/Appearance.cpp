@@ -1,0 +1,104 @@
+#include "platform/qt/system/Appearance.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QFontDatabase>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleFactory>
+
+namespace ballhaven::platform {
+
+namespace {
+
+constexpr int fontHeight = 11;  // pixels
+
+struct PaletteRow {
+    QPalette::ColorRole role;
+    QRgb color;
+    QRgb disabledColor;
+};
+
+constexpr PaletteRow paletteRows[] = {
+    {QPalette::Window, 0xFFEBE8E1, 0xFFEBE8E1},  // the face of windows and buttons
+    {QPalette::Button, 0xFFEBE8E1, 0xFFEBE8E1},
+    {QPalette::Base, 0xFFFFFFFF, 0xFFF3F1EC},  // lists and boxes
+    {QPalette::AlternateBase, 0xFFF5F3EE, 0xFFF3F1EC},
+    {QPalette::WindowText, 0xFF1E2226, 0xFF8C8A84},
+    {QPalette::ButtonText, 0xFF1E2226, 0xFF8C8A84},
+    {QPalette::Text, 0xFF1E2226, 0xFF8C8A84},
+    {QPalette::BrightText, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::PlaceholderText, 0xFF8C8A84, 0xFF8C8A84},
+    {QPalette::Light, 0xFFFCFBF9, 0xFFFCFBF9},
+    {QPalette::Midlight, 0xFFF5F3EE, 0xFFF5F3EE},
+    {QPalette::Mid, 0xFFC4BFB4, 0xFFC4BFB4},
+    {QPalette::Dark, 0xFFA39E92, 0xFFA39E92},
+    {QPalette::Shadow, 0xFF6E6A62, 0xFF6E6A62},
+    {QPalette::Highlight, 0xFF2F6391, 0xFFB8B4AA},
+    {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Link, 0xFF2F6391, 0xFF8C8A84},
+    {QPalette::ToolTipBase, 0xFFFFFBE6, 0xFFFFFBE6},
+    {QPalette::ToolTipText, 0xFF1E2226, 0xFF1E2226},
+};
+
+QPalette CalmPalette() {
+    QPalette palette;
+    for (const PaletteRow& row : paletteRows) {
+        palette.setColor(QPalette::Active, row.role, QColor::fromRgb(row.color));
+        palette.setColor(QPalette::Inactive, row.role, QColor::fromRgb(row.color));
+        palette.setColor(QPalette::Disabled, row.role, QColor::fromRgb(row.disabledColor));
+    }
+    return palette;
+}
+
+QFont ProgramFont() {
+    const QString wanted = QStringLiteral("Liberation Sans");
+    QFont font = QFontDatabase::hasFamily(wanted) ? QFont(wanted) : QFont();
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(fontHeight);
+    return font;
+}
+
+constexpr int optionMark = 12;  // pixels: options stand 13 high
+
+/// Fusion with the habits and measures of classic windows.
+class ClassicStyle : public QProxyStyle {
+  public:
+    ClassicStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        switch (hint) {
+            case SH_ComboBox_Popup:
+                return 0;  // a list drops down below its box
+            case SH_UnderlineShortcut:
+                return 1;
+            case SH_DialogButtonBox_ButtonsHaveIcons:
+                return 0;
+            default:
+                return QProxyStyle::styleHint(hint, option, widget, returned);
+        }
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+            case PM_ExclusiveIndicatorWidth:
+            case PM_ExclusiveIndicatorHeight:
+                return optionMark;
+            default:
+                return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+}  // namespace
+
+void InstallAppearance(QApplication& application) {
+    QApplication::setStyle(new ClassicStyle);
+    QApplication::setPalette(CalmPalette());
+    QApplication::setFont(ProgramFont());
+    application.setEffectEnabled(Qt::UI_AnimateCombo, false);
+    application.setEffectEnabled(Qt::UI_AnimateMenu, false);
+}
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,112 @@
+#include "platform/qt/system/SystemSettings.h"
+
+#include "platform/qt/widgets/Conversions.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QLocale>
+#include <QString>
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#ifdef _WIN32
+#include <array>
+#include <windows.h>
+#endif
+
+namespace ballhaven::platform {
+
+namespace {
+
+#ifndef _WIN32
+/// The locale by which the user's system writes dates.
+std::string DateLocale() {
+    for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const char* const value = std::getenv(variable);
+        if (value != nullptr && *value != '\0') {
+            return value;
+        }
+    }
+    return {};
+}
+#endif
+
+// Some locales put blanks or invisible marks of the writing direction beside their separators. Left there, they would
+// be taken for separators themselves, or for one of the letters.
+void TakeOutBlanksAndMarks(QString& pattern) {
+    pattern.removeIf([](QChar each) { return each.isSpace() || each.category() == QChar::Other_Format; });
+}
+
+}  // namespace
+
+std::string ExecutableDirectory() {
+#ifdef __linux__
+    // A folder's name need not be text in any encoding; the system's own link has its very bytes.
+    std::error_code failure;
+    const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", failure);
+    if (!failure) {
+        return executable.parent_path().string();
+    }
+#endif
+    return QCoreApplication::applicationDirPath().toLocal8Bit().toStdString();
+}
+
+#ifdef _WIN32
+
+std::string SystemDirectory() {
+    std::array<char, 145> buffer{};
+    GetWindowsDirectoryA(buffer.data(), static_cast<UINT>(buffer.size()));
+    return buffer.data();
+}
+
+std::string ShortDatePattern(const std::string& systemDirectory) {
+    std::array<char, 64> buffer{};
+    GetPrivateProfileStringA("Intl", "sShortDate", "", buffer.data(), static_cast<DWORD>(buffer.size()),
+                             (systemDirectory + "win.ini").c_str());
+    return buffer.data();
+}
+
+#else
+
+std::string SystemDirectory() {
+    return "/";
+}
+
+std::string ShortDatePattern(const std::string&) {
+    return ShortDatePatternOfLocale(DateLocale());
+}
+
+#endif
+
+std::string ShortDatePatternOfLocale(const std::string& name) {
+    const std::string language = name.substr(0, name.find_first_of(".@"));
+    const QLocale locale(QString::fromStdString(language));
+    if (language.empty() || language == "POSIX" || locale.language() == QLocale::C) {
+        return {};
+    }
+    QString pattern = locale.dateFormat(QLocale::ShortFormat);
+    TakeOutBlanksAndMarks(pattern);
+    return FromQString(pattern);
+}
+
+std::chrono::year_month_day CurrentDate() {
+    const QDate current = QDate::currentDate();
+    return std::chrono::year{current.year()} / current.month() / current.day();
+}
+
+std::chrono::weekday FirstDayOfWeek() {
+    return std::chrono::weekday{static_cast<unsigned>(QLocale::system().firstDayOfWeek())};
+}
+
+std::string MonthName(std::chrono::month month) {
+    const auto number = static_cast<int>(static_cast<unsigned>(month));
+    return FromQString(QLocale::system().standaloneMonthName(number));
+}
+
+std::string ShortDayName(std::chrono::weekday day) {
+    return FromQString(QLocale::system().dayName(static_cast<int>(day.iso_encoding()), QLocale::ShortFormat));
+}
+
+}  // namespace ballhaven::platform

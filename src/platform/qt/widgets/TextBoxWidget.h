@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/controls/Controls.h"
+#include "platform/qt/widgets/ControlWidget.h"
+
+#include <QLineEdit>
+
+namespace ballhaven::platform {
+
+/// Shows a text box. What the user types is in the value at once.
+class TextBoxWidget final : public ControlWidget<QLineEdit> {
+  public:
+    TextBoxWidget(TextBox& shownBox, QWidget* parent);
+    void Refresh() override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    TextBox& box;
+};
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/controls/Window.h"
+
+#include <QMainWindow>
+
+class QEventLoop;
+
+namespace ballhaven::platform {
+
+class ActivationOrder;
+
+/// Shows a window: a menu bar above a client area in which the controls stand. The client area's size is the outer
+/// size of the window less the frame that the program reckons with, whatever the desktop's own frame takes.
+class WindowWidget final : public QMainWindow, public WindowView {
+  public:
+    WindowWidget(Window& shownWindow, ActivationOrder& activationOrder);
+
+    void Refresh() override;
+    void Show() override;
+    void ShowModal() override;
+    void ShowInFront() override;
+    void RepaintNow() override;
+    void MoveTo(int left, int top) override;
+    [[nodiscard]] int Left() const override;
+    [[nodiscard]] int Top() const override;
+
+    /// Parts the window and its controls from their widgets and hides the widget, whose deletion is the caller's: one
+    /// of its handlers may be running. Ends a modal showing.
+    void TearDown();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] QSize ClientSize() const;
+    void StartTimers();
+    void PlaceAlignedPanels(const QSize& client);
+    void FollowClientArea();
+    void BecomeActive();
+
+    Window& window;
+    ActivationOrder& activations;
+    QWidget* clientArea;
+    QEventLoop* modalLoop = nullptr;
+    bool everActive = false;
+};
+
+}  // namespace ballhaven::platform

@@ -1,0 +1,41 @@
+#include "platform/qt/system/Appearance.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStyle>
+#include <gtest/gtest.h>
+
+namespace ballhaven::platform {
+namespace {
+
+TEST(Appearance, EveryTextIsElevenPixelsHighMenusAndBoxesToo) {
+    QPushButton button;
+    QMenu menu;
+    QMessageBox box;
+    for (const QWidget* widget :
+         {static_cast<QWidget*>(&button), static_cast<QWidget*>(&menu), static_cast<QWidget*>(&box)}) {
+        EXPECT_EQ(widget->font().pixelSize(), 11) << widget->metaObject()->className();
+    }
+}
+
+TEST(Appearance, TheFontIsTheOneThatTheProgramAsksFor) {
+    EXPECT_EQ(QApplication::font().family(), QStringLiteral("Liberation Sans"));
+}
+
+TEST(Appearance, ListsDropDownBelowTheirBox) {
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_ComboBox_Popup), 0);
+}
+
+TEST(Appearance, TextStandsOutFromWhatItIsWrittenOn) {
+    const QPalette palette = QApplication::palette();
+
+    EXPECT_GT(palette.color(QPalette::Window).lightness() - palette.color(QPalette::WindowText).lightness(), 150);
+    EXPECT_GT(palette.color(QPalette::Base).lightness() - palette.color(QPalette::Text).lightness(), 150);
+    EXPECT_GT(palette.color(QPalette::HighlightedText).lightness() - palette.color(QPalette::Highlight).lightness(),
+              100);
+}
+
+}  // namespace
+}  // namespace ballhaven::platform

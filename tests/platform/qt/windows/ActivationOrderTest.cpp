@@ -1,0 +1,59 @@
+#include "platform/qt/windows/ActivationOrder.h"
+
+#include <QWidget>
+#include <gtest/gtest.h>
+
+namespace ballhaven::platform {
+namespace {
+
+TEST(ActivationOrder, AWindowThatComesBackFromABoxHasBeenActiveAllAlong) {
+    QWidget window;
+    ActivationOrder order;
+
+    EXPECT_TRUE(order.Activate(window));
+    EXPECT_FALSE(order.Activate(window));
+}
+
+TEST(ActivationOrder, AWindowBecomesActiveFromAnotherOne) {
+    QWidget first;
+    QWidget second;
+    ActivationOrder order;
+    order.Activate(first);
+    order.Activate(second);
+
+    EXPECT_TRUE(order.Activate(first));
+}
+
+TEST(ActivationOrder, TheWindowBelowBecomesActiveAnewWhenTheFrontOneGoes) {
+    QWidget first;
+    QWidget second;
+    ActivationOrder order;
+    order.Activate(first);
+    order.Activate(second);
+
+    order.Remove(second);
+
+    EXPECT_EQ(order.Front(), &first);
+    EXPECT_TRUE(order.Activate(first));
+}
+
+TEST(ActivationOrder, TheFrontWindowStaysActiveWhenOneBehindItGoes) {
+    QWidget first;
+    QWidget second;
+    ActivationOrder order;
+    order.Activate(first);
+    order.Activate(second);
+
+    order.Remove(first);
+
+    EXPECT_FALSE(order.Activate(second));
+}
+
+TEST(ActivationOrder, WithoutAWindowThereIsNoFront) {
+    const ActivationOrder order;
+
+    EXPECT_EQ(order.Front(), nullptr);
+}
+
+}  // namespace
+}  // namespace ballhaven::platform
