@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -31,9 +32,22 @@ class PlayPicks {
     std::int16_t& operator()(int pickColumn, int play, int slot) { return cells[Index(pickColumn, play, slot)]; }
     std::int16_t operator()(int pickColumn, int play, int slot) const { return cells[Index(pickColumn, play, slot)]; }
 
+    /// Slots 0 to 10 of a play's list, and those of its picks alone, 1 to 10.
+    using Entries = std::span<std::int16_t, picksPerPlay + 1>;
+    [[nodiscard]] Entries EntriesOf(int pickColumn, int play) {
+        return Entries(&(*this)(pickColumn, play, 0), Width());
+    }
+    [[nodiscard]] std::span<std::int16_t> Slots(int pickColumn, int play) {
+        return EntriesOf(pickColumn, play).subspan(1);
+    }
+    [[nodiscard]] std::span<const std::int16_t> Slots(int pickColumn, int play) const {
+        return {&cells[Index(pickColumn, play, 1)], picksPerPlay};
+    }
+
     bool operator==(const PlayPicks&) const = default;
 
   private:
+    [[nodiscard]] static constexpr std::size_t Width() { return picksPerPlay + 1; }
     [[nodiscard]] static std::size_t Index(int pickColumn, int play, int slot);
 
     std::vector<std::int16_t> cells = std::vector<std::int16_t>(2UL * (playCount + 1) * (picksPerPlay + 1));
