@@ -1,0 +1,23 @@
+#pragma once
+
+namespace ballhaven {
+
+/// The rules of a game: what is drawn, how many of it, and how the order counts.
+struct GameRules {
+    int gameType = 0;  ///< 0 to 5
+    int mainPickCount = 0;
+    int bonusPickCount = 0;
+    int mainLow = 0;
+    int mainHigh = 0;
+    int bonusLow = 0;
+    int bonusHigh = 0;
+    bool duplicatesAllowed = false;
+    bool orderMatters = false;
+
+    bool operator==(const GameRules&) const = default;
+};
+
+/// The rules of the game that the program works on.
+[[nodiscard]] GameRules CurrentRules();
+
+}  // namespace ballhaven
