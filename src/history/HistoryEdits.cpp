@@ -9,8 +9,6 @@
 #include "state/DateText.h"
 #include "state/modUTILS.h"
 
-#include <string>
-
 namespace ballhaven {
 
 namespace {
@@ -64,13 +62,12 @@ bool AsksToDelete(std::int16_t date) {
 
 }  // namespace
 
-bool IsPickInRange(int column) {
+bool IsPickInRange(int column, const std::string& text) {
     const bool isMain = column <= appState.mainPickCount;
     if (column == 0 || IsCardGame(appState.gameType) || (!isMain && appState.gameType == 0)) {
         return true;
     }
-    const std::string text = modUTILS::Trimmed(frmMainForm.grdHist.Text(column));
-    if (text.empty()) {
+    if (modUTILS::Trimmed(text).empty()) {
         return true;
     }
     const auto value = modUTILS::ValueOf(text);
@@ -78,9 +75,8 @@ bool IsPickInRange(int column) {
                   : appState.bonusLow <= value && value <= appState.bonusHigh;
 }
 
-void PostLogEdit(int column) {
-    const std::string text = modUTILS::Trimmed(frmMainForm.grdHist.Text(column));
-    StorePick(column, text.empty() ? std::int16_t{-1} : modUTILS::ValueOf16(text));
+void PostLogEdit(int column, const std::string& text) {
+    StorePick(column, modUTILS::Trimmed(text).empty() ? std::int16_t{-1} : modUTILS::ValueOf16(text));
 }
 
 void SetLogCard(std::int16_t code) {

@@ -17,16 +17,16 @@ namespace {
 constexpr int marginWidth = 255;
 constexpr int marginRowHeight = 225;
 
-bool AcceptPick(int column) {
-    if (IsPickInRange(column)) {
+bool AcceptPick(int column, const std::string& text) {
+    if (IsPickInRange(column, text)) {
         return true;
     }
     platform::Tell("Number out of range for this lottery game");
     return false;
 }
 
-void TakePick(int column) {
-    PostLogEdit(column);
+void TakePick(int column, const std::string& text) {
+    PostLogEdit(column, text);
     ComputeHotTable();
     if (column == appState.totalPicks) {
         frmMainForm.grdHist.ReadAgain();

@@ -93,12 +93,12 @@ TEST_F(HistoryEdits, ABonusIsCheckedAgainstItsOwnLimits) {
 
 TEST_F(HistoryEdits, InAGameWithoutBonusColumnsBehindTheMainPicksAreNotChecked) {
     ShowDraws(NumberGame().Picks(2).From(1).To(9), {{"01/01/1990", {1, 2}}});
-    EXPECT_TRUE(IsPickInRange(3));
+    EXPECT_TRUE(IsPickInRange(3, "99"));
 }
 
 TEST_F(HistoryEdits, CardsAreNotChecked) {
     ShowDraws(CardGame().Picks(2), {{"01/01/1990", {1, 2}}});
-    EXPECT_TRUE(IsPickInRange(1));
+    EXPECT_TRUE(IsPickInRange(1, "99"));
 }
 
 TEST_F(HistoryEdits, TwoRowsOfOneDateBothTakeTheValue) {

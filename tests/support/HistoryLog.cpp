@@ -64,8 +64,8 @@ void HistoryLogTest::StartAgain() const {
     appState.programDirectory = directory.Path();
     frmMainForm.grdHist.cellText = LogCellValue;
     frmMainForm.grdHist.acceptEdit = IsPickInRange;
-    frmMainForm.grdHist.edited = [](int column) {
-        PostLogEdit(column);
+    frmMainForm.grdHist.edited = [](int column, const std::string& text) {
+        PostLogEdit(column, text);
         ComputeHotTable();
     };
 }

@@ -84,9 +84,6 @@ void Grid::Move(int pane, int row, int column) {
 }
 
 std::string Grid::Text(int column) const {
-    if (pendingEdit && pendingEdit->column == column) {
-        return pendingEdit->text;
-    }
     if (currentRow < 0 || !cellText) {
         return {};
     }
@@ -97,20 +94,12 @@ bool Grid::CanType(int column) const {
     return currentRow >= 0 && !Pane(currentPane).locked && !Column(column).locked;
 }
 
-bool Grid::Edit(int column, std::string text) {
-    if (!IsOn() || !CanType(column)) {
-        return false;
-    }
-    pendingEdit = PendingEdit{column, std::move(text)};
-    struct Forget {
-        std::optional<PendingEdit>& pending;
-        ~Forget() { pending.reset(); }
-    } forget{pendingEdit};
-    if (acceptEdit && !acceptEdit(column)) {
+bool Grid::Edit(int column, const std::string& text) {
+    if (!IsOn() || !CanType(column) || (acceptEdit && !acceptEdit(column, text))) {
         return false;
     }
     if (edited) {
-        edited(column);
+        edited(column, text);
     }
     return true;
 }

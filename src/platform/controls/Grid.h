@@ -60,14 +60,13 @@ class Grid : public Control {
     /// The user's move to a cell, for the widget: it ends no editor. Reports a change.
     void MoveByUser(int pane, int row, int column);
 
-    /// Text of a column in the current row; the value being checked or just accepted where an edit is on its way.
-    /// Empty where there is none.
+    /// Text of a column in the current row as its owner answers it; empty where there is none.
     [[nodiscard]] std::string Text(int column) const;
 
-    /// The end of an edit of the current row: `acceptEdit` may refuse the value; if it passes, `edited` follows.
-    /// Meanwhile `Text` answers with the new value. Returns false, with nothing changed, when it was refused, or when
-    /// the column or its pane is locked, or while the grid is switched off.
-    bool Edit(int column, std::string text);
+    /// The end of an edit of the current row: `acceptEdit` may refuse the text; if it passes, `edited` follows. Returns
+    /// false, with nothing changed, when it was refused, or when the column or its pane is locked, or while the grid is
+    /// switched off.
+    bool Edit(int column, const std::string& text);
 
     /// Whether the current pane lets text be typed into a column.
     [[nodiscard]] bool CanType(int column) const;
@@ -118,9 +117,9 @@ class Grid : public Control {
     /// A key going down; true when it has been served and the grid does nothing more with it.
     std::function<bool(GridKey key)> keyDown;
 
-    /// The check of an edited value in a column of the current row; false refuses it.
-    std::function<bool(int column)> acceptEdit;
-    std::function<void(int column)> edited;
+    /// The check of a text that was typed into a column of the current row; false refuses it. Then the taking of it.
+    std::function<bool(int column, const std::string& text)> acceptEdit;
+    std::function<void(int column, const std::string& text)> edited;
 
     /// A click on the drop-down button of a column in the current row.
     std::function<void(int column)> dropDown;
@@ -129,17 +128,11 @@ class Grid : public Control {
     Handler painted;
 
   private:
-    struct PendingEdit {
-        int column;
-        std::string text;
-    };
-
     void Move(int pane, int row, int column);
     [[nodiscard]] GridView* Widget() const { return static_cast<GridView*>(view); }
 
     std::deque<GridColumn> columns;
     std::deque<GridPane> panes;
-    std::optional<PendingEdit> pendingEdit;
     int rowCount = 0;
     int currentPane = 0;
     int currentRow = -1;

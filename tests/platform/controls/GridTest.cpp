@@ -140,25 +140,27 @@ TEST_F(GridValue, WithoutACurrentRowItsTextIsEmpty) {
     EXPECT_EQ(grid.Text(1), "");
 }
 
-TEST_F(GridValue, TheCheckAndTheNoticeBehindItSeeTheNewText) {
+TEST_F(GridValue, TheCheckAndTheNoticeBehindItGetColumnAndText) {
     Texts seen;
-    grid.acceptEdit = [&](int column) {
-        seen.push_back("check " + grid.Text(column));
+    grid.acceptEdit = [&](int column, const std::string& text) {
+        seen.push_back("check " + std::to_string(column) + " " + text);
         return true;
     };
-    grid.edited = [&](int column) { seen.push_back("edited " + grid.Text(column)); };
+    grid.edited = [&](int column, const std::string& text) {
+        seen.push_back("edited " + std::to_string(column) + " " + text);
+    };
     grid.GoTo(2, 1);
 
     EXPECT_TRUE(grid.Edit(1, "17"));
 
-    EXPECT_EQ(seen, (Texts{"check 17", "edited 17"}));
+    EXPECT_EQ(seen, (Texts{"check 1 17", "edited 1 17"}));
     EXPECT_EQ(grid.Text(1), "2/1");
 }
 
 TEST_F(GridValue, ARefusedTextChangesNothing) {
     bool edited = false;
-    grid.acceptEdit = [](int) { return false; };
-    grid.edited = [&](int) { edited = true; };
+    grid.acceptEdit = [](int, const std::string&) { return false; };
+    grid.edited = [&](int, const std::string&) { edited = true; };
     grid.GoTo(2, 1);
 
     EXPECT_FALSE(grid.Edit(1, "99"));
@@ -203,7 +205,7 @@ TEST_F(GridValue, WhileOffItMovesWithoutANotice) {
 
 TEST_F(GridValue, WhileOffItTakesNoEdit) {
     int checks = 0;
-    grid.acceptEdit = [&](int) { return ++checks > 0; };
+    grid.acceptEdit = [&](int, const std::string&) { return ++checks > 0; };
     grid.GoToColumn(1);
     const GridPause pause(grid);
 

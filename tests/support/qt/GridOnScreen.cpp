@@ -79,17 +79,17 @@ void GridOnScreen::ListenToMouse() {
 }
 
 void GridOnScreen::ListenToEdits() {
-    grid.acceptEdit = [this](int column) {
-        notices.push_back("check " + std::to_string(column) + " " + grid.Text(column));
-        if (std::atoi(grid.Text(column).c_str()) > highest) {
+    grid.acceptEdit = [this](int column, const std::string& text) {
+        notices.push_back("check " + std::to_string(column) + " " + text);
+        if (std::atoi(text.c_str()) > highest) {
             platform::Tell("Too high");
             return false;
         }
         return true;
     };
-    grid.edited = [this](int column) {
+    grid.edited = [this](int column, const std::string& text) {
         notices.push_back("edited " + std::to_string(column));
-        cells[static_cast<std::size_t>(grid.CurrentRow())][static_cast<std::size_t>(column)] = grid.Text(column);
+        cells[static_cast<std::size_t>(grid.CurrentRow())][static_cast<std::size_t>(column)] = text;
     };
 }
 

@@ -202,7 +202,7 @@ TEST_F(GridEditing, AMoveByTheProgramEndsTheEditInItsOwnRow) {
 
 TEST_F(GridEditing, WhatFollowsTheValueMayMoveTheCurrentCell) {
     grid.GoTo(2, 6);
-    grid.edited = [this](int) {
+    grid.edited = [this](int, const std::string&) {
         grid.ReadAgain();
         grid.GoToPane(0);
         grid.GoToColumn(0);
@@ -374,7 +374,7 @@ TEST_F(GridEditing, ARefusedValueCanBeGivenUp) {
 }
 
 TEST_F(GridEditing, TheGridMayGoWhileItsEditIsTold) {
-    grid.edited = [this](int) {
+    grid.edited = [this](int, const std::string&) {
         grid.view = nullptr;
         widget->deleteLater();
         QApplication::sendPostedEvents(widget, QEvent::DeferredDelete);
