@@ -13,9 +13,19 @@ constexpr int rowsOfOneBlock = 12;
 BoardGeometry BoardOf(int gameType) {
     const int rows = HasBonus(gameType) ? 2 * rowsOfOneBlock : rowsOfOneBlock;
     if (IsCardGame(gameType)) {
-        return {.columns = 6, .rows = rows, .mainCells = 52, .firstWordCell = 66, .firstBonusCell = 72};
+        return {.columns = 6,
+                .rows = rows,
+                .mainCells = 52,
+                .firstWordRowCell = 66,
+                .firstWordCell = 66,
+                .firstBonusCell = 72};
     }
-    return {.columns = 9, .rows = rows, .mainCells = 101, .firstWordCell = 101, .firstBonusCell = 108};
+    return {.columns = 9,
+            .rows = rows,
+            .mainCells = 101,
+            .firstWordRowCell = 99,
+            .firstWordCell = 101,
+            .firstBonusCell = 108};
 }
 
 std::optional<int> BonusLetterAt(int gameType, int cell) {

@@ -8,10 +8,11 @@ namespace ballhaven {
 /// The board on which the picks of a kind of game are clicked on and off. Its cells count from 0, along the rows.
 struct BoardGeometry {
     int columns;
-    int rows;            ///< 12 without bonus picks, else 24
-    int mainCells;       ///< the main picks stand in the cells below
-    int firstWordCell;   ///< of the word BONUS, one letter a cell
-    int firstBonusCell;  ///< the bonus picks stand from this cell on
+    int rows;              ///< 12 without bonus picks, else 24
+    int mainCells;         ///< the main picks stand in the cells below
+    int firstWordRowCell;  ///< the row between main and bonus picks, which ends before these
+    int firstWordCell;     ///< of the word BONUS in it, one letter a cell
+    int firstBonusCell;    ///< the bonus picks stand from this cell on
 };
 
 /// The word between the main and the bonus picks of a board.
