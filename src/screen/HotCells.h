@@ -1,11 +1,28 @@
 #pragma once
 
+#include "platform/controls/Color.h"
 #include "platform/controls/Grid.h"
+#include "statistics/HotTableKinds.h"
 
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace ballhaven {
+
+/// The text of a table's cell, columns 0 to 3, from the cells of its row (`CellsOfRow`) in a view of so many games. A
+/// null where the row has too few cells. Raises the failures of `HotCellValue`.
+[[nodiscard]] std::optional<std::string> HotCellText(HotTable table, std::span<const std::int16_t> cells, int column,
+                                                     int games, int gameType);
+
+/// The colour of a card's text, or of that of a pair of cards. A pair is blue with a club and no spade or a spade and
+/// no club; else, and for a single card, hearts and diamonds are red, clubs and spades black.
+[[nodiscard]] platform::Color SuitColor(std::string_view cards);
+
+/// Whether a box with this text hi-lites a row with the picks of this text: one pick, or two with ", " between them.
+[[nodiscard]] bool IsHiLitedBy(std::string_view box, std::string_view picks);
 
 /// The text of a cell of `grdHot`, columns 0 to 3: the pick or the pair, and, where the table counts, its hits, the
 /// percentage of the draws cut to a whole number, and the game interval. A null outside the rows and columns of the
@@ -16,9 +33,5 @@ namespace ballhaven {
 /// The colours of a cell of `grdHot`: in column 0 the suits of cards, and the hi-lite while `colorMode` is not 0; black
 /// on white in all others.
 void HotCellStyle(int row, int column, platform::CellStyle& style);
-
-/// The average number of games from one hit to the next by the mask "##.0": one decimal, halves rounded away from zero,
-/// and no digit before the point of a value below 1. Raises the failure of a division by zero for 0 hits.
-[[nodiscard]] std::string IntervalText(int games, int hits);
 
 }  // namespace ballhaven

@@ -112,8 +112,12 @@ std::int16_t TextToCard(std::string& text) {
     return modUTILS::ToInt16(suitNumber * ranks - ranks + rank);
 }
 
+std::string PickToText(int pick, int gameType) {
+    return IsCardGame(gameType) ? CardToText(pick) : std::to_string(pick);
+}
+
 std::string PickToText(int pick) {
-    return IsCardGame(appState.gameType) ? CardToText(pick) : std::to_string(pick);
+    return PickToText(pick, appState.gameType);
 }
 
 std::string PickCellText(int cell) {

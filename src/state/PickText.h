@@ -13,7 +13,10 @@ namespace ballhaven {
 /// beyond 16 bits.
 [[nodiscard]] std::int16_t TextToCard(std::string& text);
 
-/// The text of a pick in the game at hand: a number's digits, or a card's text.
+/// The text of a pick in a kind of game: a number's digits, or a card's text.
+[[nodiscard]] std::string PickToText(int pick, int gameType);
+
+/// The text of a pick in the game at hand.
 [[nodiscard]] std::string PickToText(int pick);
 
 /// The text of a cell of a pick grid, `cell` being row * `slipColumns` + column: a pick in decimal, a letter of BONUS

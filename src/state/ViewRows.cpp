@@ -3,6 +3,7 @@
 #include "state/AppState.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace ballhaven {
 
@@ -11,6 +12,19 @@ namespace {
 constexpr int dateColumn = 0;
 
 }  // namespace
+
+std::span<const std::int16_t> DrawRows::Picks(int row) const {
+    const int first = std::max(1, columns.first);
+    const int last = std::min(columns.last, view->Columns() - 1);
+    if (first > last || !view->Has(0, row)) {
+        return {};
+    }
+    return view->Row(row).subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(last - first + 1));
+}
+
+DrawRows ViewedDraws() {
+    return {appState.historyView, appState.historyViewLast + 1, {1, appState.totalPicks}};
+}
 
 int RowOfDate(std::int16_t date) {
     for (int row = 0; row <= appState.historyViewLast; ++row) {
@@ -22,12 +36,7 @@ int RowOfDate(std::int16_t date) {
 }
 
 std::span<const std::int16_t> PicksOfDraw(int row) {
-    const Table& view = appState.historyView;
-    const int picks = std::min<int>(appState.totalPicks, view.Columns() - 1);
-    if (picks < 1 || !view.Has(0, row)) {
-        return {};
-    }
-    return view.Row(row).subspan(1, static_cast<std::size_t>(picks));
+    return ViewedDraws().Picks(row);
 }
 
 }  // namespace ballhaven

@@ -1,12 +1,11 @@
 #include "statistics/HotNumbers.h"
 
 #include "state/AppState.h"
-#include "statistics/HotTableKinds.h"
 
 #include <algorithm>
 #include <array>
-#include <numeric>
-#include <vector>
+#include <cstddef>
+#include <iterator>
 
 namespace ballhaven {
 
@@ -15,39 +14,11 @@ namespace {
 /// Hits by pick value.
 using HitCounts = std::array<std::int16_t, pickValues>;
 
-struct PickColumns {
-    int first;
-    int last;
-};
-
-PickColumns CountedColumns() {
-    const int total = appState.totalPicks;
-    const int mainColumns = total - appState.bonusPickCount;
-    if (!HasBonus(appState.gameType)) {
-        return {1, total};
-    }
-    switch (CountedPicks{appState.hotSortChoice}) {
-        case CountedPicks::Main:
-            return {1, mainColumns};
-        case CountedPicks::Bonus:
-            return {mainColumns + 1, total};
-        case CountedPicks::All:
-            break;
-    }
-    return {1, total};
-}
-
-HitCounts CountHits(const Table& view, int games, PickColumns counted) {
+HitCounts CountHits(const DrawRows& draws) {
     HitCounts hits{};
-    const int first = std::max(1, counted.first);
-    const int last = std::min(counted.last, view.Columns() - 1);
-    if (first > last) {
-        return hits;
-    }
-    const auto columns = static_cast<std::size_t>(last - first + 1);
-    for (int game = 0; game < std::min(games, view.Rows()); ++game) {
-        for (const std::int16_t pick : view.Row(game).subspan(static_cast<std::size_t>(first), columns)) {
-            if (0 <= pick && pick < std::ssize(hits)) {
+    for (int game = 0; game < draws.Games(); ++game) {
+        for (const std::int16_t pick : draws.Picks(game)) {
+            if (0 <= pick && pick < pickValues) {
                 ++hits[static_cast<std::size_t>(pick)];
             }
         }
@@ -55,50 +26,51 @@ HitCounts CountHits(const Table& view, int games, PickColumns counted) {
     return hits;
 }
 
-/// The picks from 0 to `highest` that have hits, in ascending order.
-std::vector<std::int16_t> PicksWithHits(const HitCounts& hits, int highest) {
-    std::vector<std::int16_t> picks;
-    // QUIRK HOT-NUMBERS-1: the list ends at the highest main pick. Where the bonus pool reaches higher, its upper
-    // values are counted and never listed. It is meant: the other tables take their candidates from this list, and a
-    // longer one would change them all.
-    for (std::int16_t pick = 0; pick <= std::min<std::ptrdiff_t>(highest, std::ssize(hits) - 1); ++pick) {
-        if (hits[static_cast<std::size_t>(pick)] > 0) {
-            picks.push_back(pick);
-        }
+}  // namespace
+
+PickColumns CountedColumns(int gameType, int totalPicks, int bonusPicks, CountedPicks counted) {
+    const int mainColumns = totalPicks - bonusPicks;
+    if (HasBonus(gameType) && counted == CountedPicks::Main) {
+        return {1, mainColumns};
     }
-    return picks;
+    if (HasBonus(gameType) && counted == CountedPicks::Bonus) {
+        return {mainColumns + 1, totalPicks};
+    }
+    return {1, totalPicks};
 }
 
-/// The rows of Hot Numbers for ascending picks that all have hits: the most hits first, equal ones in the given order.
-Table RowsByHits(const std::vector<std::int16_t>& picks, const HitCounts& hits) {
-    const auto hitsOf = [&hits](std::int16_t pick) { return hits[static_cast<std::size_t>(pick)]; };
-    const auto most = static_cast<std::size_t>(hitsOf(*std::ranges::max_element(picks, {}, hitsOf)));
-
-    // Place h holds the next free row among those with h hits: at first, the number of picks with more than h.
-    std::vector<int> nextRow(most + 1);
-    for (const std::int16_t pick : picks) {
-        ++nextRow[static_cast<std::size_t>(hitsOf(pick) - 1)];
+std::vector<PickHits> FindHotNumbers(const DrawRows& draws, int highest) {
+    const HitCounts hits = CountHits(draws);
+    std::vector<PickHits> rows;
+    // QUIRK HOT-NUMBERS-1: the list ends at the highest main pick. Where the bonus pool reaches higher, its upper
+    // values are counted and never listed. The other tables take their candidates from this list, and a longer one
+    // would change them all.
+    for (int pick = 0; pick <= std::min(highest, pickValues - 1); ++pick) {
+        if (const std::int16_t hitsOfPick = hits[static_cast<std::size_t>(pick)]; hitsOfPick > 0) {
+            rows.push_back({static_cast<std::int16_t>(pick), hitsOfPick});
+        }
     }
-    std::partial_sum(nextRow.rbegin(), nextRow.rend(), nextRow.rbegin());
-
-    Table rows(4, static_cast<int>(picks.size()));
-    for (const std::int16_t pick : picks) {
-        const int row = nextRow[static_cast<std::size_t>(hitsOf(pick))]++;
-        rows(1, row) = pick;
-        rows(2, row) = hitsOf(pick);
-    }
+    std::ranges::sort(rows);
     return rows;
 }
 
-}  // namespace
-
 void CountHotNumbers() {
-    const HitCounts hits = CountHits(appState.historyView, appState.historyViewLast + 1, CountedColumns());
-    const std::vector<std::int16_t> picks = PicksWithHits(hits, appState.mainHigh);
-    appState.hotNumberLast = static_cast<std::int16_t>(std::ssize(picks) - 1);
-    if (!picks.empty()) {
-        appState.hotNumberTable = RowsByHits(picks, hits);
+    const PickColumns counted = CountedColumns(appState.gameType, appState.totalPicks, appState.bonusPickCount,
+                                               CountedPicks{appState.hotSortChoice});
+    const DrawRows draws(appState.historyView, appState.historyViewLast + 1, counted);
+    const std::vector<PickHits> rows = FindHotNumbers(draws, appState.mainHigh);
+    appState.hotNumberLast = static_cast<std::int16_t>(std::ssize(rows) - 1);
+    if (!rows.empty()) {
+        appState.hotNumberTable = TableOf(rows, 4);
     }
+}
+
+std::vector<std::int16_t> HotNumberPicks() {
+    std::vector<std::int16_t> picks;
+    for (int row = 0; row <= appState.hotNumberLast; ++row) {
+        picks.push_back(appState.hotNumberTable(1, row));
+    }
+    return picks;
 }
 
 }  // namespace ballhaven

@@ -1,13 +1,24 @@
 #pragma once
 
+#include "state/ViewRows.h"
+#include "statistics/HotRows.h"
+
+#include <cstdint>
+#include <span>
+
 namespace ballhaven {
 
-/// Puts the pairs of picks that stand together in two or more games of the view into `hotPairTable`: the most frequent
-/// first, equal ones by their lower and then by their higher pick. Candidates are the picks of `hotNumberTable`, which
-/// has to be current; they count in all columns of a game, main and bonus, whatever `hotSortChoice` says. A pair with a
-/// pick outside `mainLow` to `mainHigh` leaves a row of zeros at the end. A view of fewer than two games has no pairs.
-/// Sets `hotPairLast` (-1 for none), `hotPairTable` (which stays as it was then), and, while Hot Pairs is on show, the
-/// caption of `grdHot`; clears `hotPairStale`. Raises the subscript failure at the 502nd pair.
+/// The pairs of candidates that stand together in two or more draws, in whatever columns: the most frequent first,
+/// equal ones by their lower and then by their higher pick. A pair with a pick outside the main range leaves a row of
+/// zeros at the end. The 502nd pair is a subscript failure.
+[[nodiscard]] FoundRows<PairHits> FindHotPairs(const DrawRows& draws, std::span<const std::int16_t> candidates,
+                                               PickRange mainPicks);
+
+/// Puts the pairs that stand together in two or more games of the view into `hotPairTable`, as `FindHotPairs` finds
+/// them. Candidates are the picks of `hotNumberTable`, which has to be current; they count in all columns of a game,
+/// main and bonus, whatever `hotSortChoice` says. Sets `hotPairLast` (-1 for none), `hotPairTable` (which stays as it
+/// was then), and, while Hot Pairs is on show, the caption of `grdHot`; clears `hotPairStale`. Raises the subscript
+/// failure at the 502nd pair, with the pairs before it counted in `hotPairLast` and nothing else set.
 void ComputeHotPairs();
 
 }  // namespace ballhaven

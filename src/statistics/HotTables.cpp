@@ -11,26 +11,30 @@
 
 #include <array>
 #include <cstddef>
+#include <iterator>
+#include <vector>
 
 namespace ballhaven {
 
 namespace {
 
-/// What `appState` keeps of a table, and the routine that builds it. Hot Numbers is never stale.
+/// What `appState` keeps of a table, and the routine that builds it. Hot Numbers is never stale, and No-Hitters has a
+/// list for its rows.
 struct KeptTable {
     void (*build)();
     bool AppState::*stale;
     std::int16_t AppState::*last;
+    Table AppState::*rows;
 };
 
 /// By `hotTableChoice` - 1.
 constexpr std::array<KeptTable, 5> keptTables{{
     // clang-format off
-    {nullptr,           nullptr,                    &AppState::hotNumberLast},
-    {ComputeHotPairs,   &AppState::hotPairStale,    &AppState::hotPairLast},
-    {ComputePairedOnce, &AppState::pairedOnceStale, &AppState::pairedOnceLast},
-    {ComputeRepeaters,  &AppState::repeaterStale,   &AppState::repeaterLast},
-    {ComputeNoHitters,  &AppState::noHitterStale,   &AppState::noHitterLast},
+    {nullptr,           nullptr,                    &AppState::hotNumberLast,  &AppState::hotNumberTable},
+    {ComputeHotPairs,   &AppState::hotPairStale,    &AppState::hotPairLast,    &AppState::hotPairTable},
+    {ComputePairedOnce, &AppState::pairedOnceStale, &AppState::pairedOnceLast, &AppState::pairedOnceTable},
+    {ComputeRepeaters,  &AppState::repeaterStale,   &AppState::repeaterLast,   &AppState::repeaterTable},
+    {ComputeNoHitters,  &AppState::noHitterStale,   &AppState::noHitterLast,   nullptr},
     // clang-format on
 }};
 
@@ -38,24 +42,17 @@ const KeptTable& Kept(HotTable table) {
     return keptTables.at(static_cast<std::size_t>(table) - 1);
 }
 
-/// Builds the table on show from the new count.
-void RebuildShownTable() {
-    const HotTable shown = ShownHotTable();
-    if (shown == HotTable::HotNumbers) {
-        ShowHotNumbersCaption();
-    } else {
-        BuildHotTable(shown);
-    }
-    frmMainForm.hotRowCount = static_cast<std::int16_t>(LastRowOf(shown) + 1);
-}
-
 }  // namespace
 
 void ComputeHotTable() {
-    const bool isChosen = appState.hotTableChoice > 0;
     CountHotNumbers();
+    const bool isChosen = appState.hotTableChoice > 0;
     if (isChosen) {
-        RebuildShownTable();
+        if (ShownHotTable() == HotTable::HotNumbers) {
+            ShowHotNumbersCaption();
+        }
+        BuildHotTable(ShownHotTable());
+        frmMainForm.hotRowCount = static_cast<std::int16_t>(LastRowOf(ShownHotTable()) + 1);
     }
     frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
     if (isChosen) {
@@ -78,6 +75,16 @@ void RefreshHotTable(HotTable table) {
 
 std::int16_t LastRowOf(HotTable table) {
     return appState.*Kept(table).last;
+}
+
+std::span<const std::int16_t> CellsOfRow(HotTable table, int row) {
+    const std::vector<std::int16_t>& noHitters = appState.noHitterTable;
+    if (table == HotTable::NoHitters) {
+        return 0 <= row && row < std::ssize(noHitters) ? std::span(noHitters).subspan(static_cast<std::size_t>(row), 1)
+                                                       : std::span<const std::int16_t>();
+    }
+    const Table& rows = appState.*Kept(table).rows;
+    return rows.Has(1, row) ? rows.Row(row).subspan(1) : std::span<const std::int16_t>();
 }
 
 }  // namespace ballhaven

@@ -3,6 +3,7 @@
 #include "statistics/HotTableKinds.h"
 
 #include <cstdint>
+#include <span>
 
 namespace ballhaven {
 
@@ -20,5 +21,9 @@ void RefreshHotTable(HotTable table);
 
 /// The last row of a table, -1 where it has none.
 [[nodiscard]] std::int16_t LastRowOf(HotTable table);
+
+/// The cells of a row from column 1 on: a pick or the two of a pair, and behind them what the table counts. Empty where
+/// the table has no such row.
+[[nodiscard]] std::span<const std::int16_t> CellsOfRow(HotTable table, int row);
 
 }  // namespace ballhaven

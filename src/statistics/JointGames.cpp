@@ -1,41 +1,38 @@
 #include "statistics/JointGames.h"
 
-#include "state/AppState.h"
-#include "state/ViewRows.h"
-#include "statistics/HotNumbers.h"
+#include "statistics/HotRows.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <span>
 #include <vector>
 
 namespace ballhaven {
 
 namespace {
 
-/// Rows of `hotNumberTable` by pick value, -1 for a pick that is not in it.
-using RowsByPick = std::array<int, pickValues>;
+/// The places of the candidates by pick value, -1 for a pick that is none.
+using PlacesByPick = std::array<int, pickValues>;
 
-RowsByPick RowsOfCandidates() {
-    RowsByPick rows;
-    rows.fill(-1);
-    for (int row = 0; row <= appState.hotNumberLast; ++row) {
-        rows.at(static_cast<std::size_t>(appState.hotNumberTable(1, row))) = row;
+PlacesByPick PlacesOf(std::span<const std::int16_t> candidates) {
+    PlacesByPick places;
+    places.fill(-1);
+    for (int place = 0; const std::int16_t pick : candidates) {
+        places.at(static_cast<std::size_t>(pick)) = place++;
     }
-    return rows;
+    return places;
 }
 
-int RowOf(std::int16_t pick, const RowsByPick& rows) {
-    return 0 <= pick && pick < pickValues ? rows[static_cast<std::size_t>(pick)] : -1;
+int PlaceOf(std::int16_t pick, const PlacesByPick& places) {
+    return 0 <= pick && pick < pickValues ? places[static_cast<std::size_t>(pick)] : -1;
 }
 
-/// The rows of the candidates among the picks of a game, each once, ascending.
-void FindRows(std::span<const std::int16_t> picks, const RowsByPick& rows, std::vector<int>& found) {
+/// The places of the candidates among the picks of a draw, each once, ascending.
+void FindPlaces(std::span<const std::int16_t> picks, const PlacesByPick& places, std::vector<int>& found) {
     found.clear();
     for (const std::int16_t pick : picks) {
-        if (const int row = RowOf(pick, rows); row >= 0) {
-            found.push_back(row);
+        if (const int place = PlaceOf(pick, places); place >= 0) {
+            found.push_back(place);
         }
     }
     std::ranges::sort(found);
@@ -44,22 +41,13 @@ void FindRows(std::span<const std::int16_t> picks, const RowsByPick& rows, std::
 
 }  // namespace
 
-PickPair PairOfRows(int row, int otherRow) {
-    const auto [lower, higher] = std::minmax({appState.hotNumberTable(1, row), appState.hotNumberTable(1, otherRow)});
-    return {lower, higher};
-}
-
-bool IsOfMainPicks(PickPair pair) {
-    return appState.mainLow <= pair.lower && pair.higher <= appState.mainHigh;
-}
-
-Table CountJointGames() {
-    const int candidates = appState.hotNumberLast + 1;
-    const RowsByPick rows = RowsOfCandidates();
-    Table jointGames(candidates, candidates);
+Table CountJointGames(const DrawRows& draws, std::span<const std::int16_t> candidates) {
+    const int count = static_cast<int>(candidates.size());
+    const PlacesByPick places = PlacesOf(candidates);
+    Table jointGames(count, count);
     std::vector<int> inGame;
-    for (int game = 0; game <= appState.historyViewLast; ++game) {
-        FindRows(PicksOfDraw(game), rows, inGame);
+    for (int game = 0; game < draws.Games(); ++game) {
+        FindPlaces(draws.Picks(game), places, inGame);
         for (auto first = inGame.begin(); first != inGame.end(); ++first) {
             const std::span<std::int16_t> counts = jointGames.Row(*first);
             for (auto second = first; second != inGame.end(); ++second) {

@@ -1,80 +1,78 @@
 #include "statistics/PairedOnce.h"
 
 #include "state/AppState.h"
-#include "state/RuntimeFailure.h"
+#include "state/Table.h"
 #include "statistics/HotCaptions.h"
+#include "statistics/HotNumbers.h"
 #include "statistics/HotTableKinds.h"
 #include "statistics/JointGames.h"
 
-#include <algorithm>
-#include <cstddef>
-#include <vector>
+#include <iterator>
 
 namespace ballhaven {
 
 namespace {
 
-constexpr std::size_t mostPairs = 1001;
+constexpr std::ptrdiff_t mostPairs = 1001;
+constexpr int fewestGames = 2;
 
-/// Raises the failure for a row that the table does not take.
-void CheckRow(std::size_t row) {
-    // QUIRK PAIR-LIMIT-1: as for Hot Pairs. The 0, 0 of a pick paired with itself fails only when it is sorted, since
-    // nothing is written for it before.
-    if (row >= mostPairs) {
-        throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
-    }
-}
-
-/// The pairs in the order of their rows in `hotNumberTable`. Counts them in `pairedOnceLast` as it finds them.
-std::vector<PickPair> FindPairsOfOneGame() {
-    const Table jointGames = CountJointGames();
-    std::vector<PickPair> pairs;
-    for (int i = 0; i < appState.hotNumberLast; ++i) {
-        // QUIRK PAIRED-ONCE-1: the inner walk starts mainLow rows after the outer one, not one row after it. Where the
-        // lowest number is 0 a value meets itself, and a value drawn in exactly one game takes a row that shows "0, 0".
-        // Users of such games know these rows; starting at i + 1 would take them away.
-        for (int j = appState.mainLow + i; j <= appState.hotNumberLast; ++j) {
+/// The pairs in the order of their candidates.
+FoundRows<PickPair> PairsOfOneGame(const Table& jointGames, std::span<const std::int16_t> candidates, int lowest) {
+    FoundRows<PickPair> found;
+    const int count = static_cast<int>(candidates.size());
+    for (int i = 0; i < count - 1; ++i) {
+        // QUIRK PAIRED-ONCE-1: the inner walk starts mainLow places after the outer one, not one place after it. Where
+        // the lowest number is 0 a value meets itself, and a value drawn in exactly one game takes a row that shows
+        // "0, 0". Habits rest on these rows; starting at i + 1 would take them away.
+        for (int j = lowest + i; j < count; ++j) {
             if (jointGames(j, i) != 1) {
                 continue;
             }
             if (i == j) {
-                pairs.emplace_back();
-            } else {
-                CheckRow(pairs.size());
-                pairs.push_back(PairOfRows(i, j));
+                found.rows.emplace_back();
+                continue;
             }
-            ++appState.pairedOnceLast;
+            // QUIRK PAIR-LIMIT-1: as for Hot Pairs. The 0, 0 of a pick paired with itself fails only when it is sorted,
+            // since nothing is written for it before.
+            if (std::ssize(found.rows) >= mostPairs) {
+                found.failure = RuntimeFailure::Kind::SubscriptOutOfRange;
+                return found;
+            }
+            found.rows.push_back(
+                PairOf(candidates[static_cast<std::size_t>(i)], candidates[static_cast<std::size_t>(j)]));
         }
     }
-    return pairs;
-}
-
-void FillSorted(Table& table, std::vector<PickPair> pairs) {
-    table = Table(3, static_cast<int>(pairs.size()));
-    CheckRow(pairs.size() - 1);
-    // QUIRK PAIR-ZEROS-1: as for Hot Pairs.
-    std::erase_if(pairs, [](PickPair pair) { return !IsOfMainPicks(pair); });
-    std::ranges::sort(pairs);
-    for (int row = 0; const PickPair pair : pairs) {
-        table(1, row) = pair.lower;
-        table(2, row) = pair.higher;
-        ++row;
-    }
+    return found;
 }
 
 }  // namespace
 
+FoundRows<PickPair> FindPairsDrawnOnce(const DrawRows& draws, std::span<const std::int16_t> candidates,
+                                       PickRange mainPicks) {
+    if (draws.Games() < fewestGames) {
+        return {};
+    }
+    FoundRows<PickPair> found = PairsOfOneGame(CountJointGames(draws, candidates), candidates, mainPicks.low);
+    if (!found.failure) {
+        SortRows(found.rows, mainPicks);
+    }
+    return found;
+}
+
 void ComputePairedOnce() {
-    appState.pairedOnceLast = -1;
-    const std::vector<PickPair> pairs = appState.historyViewLast > 0 ? FindPairsOfOneGame() : std::vector<PickPair>();
-    const bool isShown = ShownHotTable() == HotTable::PairedOnce;
-    if (!pairs.empty()) {
-        if (isShown) {
-            ShowHotCaption("Paired once");
-        }
-        FillSorted(appState.pairedOnceTable, pairs);
-    } else if (isShown) {
-        ShowNoneFoundCaption("Paired once");
+    const FoundRows<PickPair> found =
+        FindPairsDrawnOnce(ViewedDraws(), HotNumberPicks(), {appState.mainLow, appState.mainHigh});
+    appState.pairedOnceLast = static_cast<std::int16_t>(std::ssize(found.rows) - 1);
+    if (found.failure) {
+        throw RuntimeFailure(*found.failure);
+    }
+    ShowBuiltCaption(HotTable::PairedOnce, !found.rows.empty());
+    if (std::ssize(found.rows) > mostPairs) {
+        appState.pairedOnceTable = Table(3, static_cast<int>(found.rows.size()));
+        throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
+    }
+    if (!found.rows.empty()) {
+        appState.pairedOnceTable = TableOf(found.rows, 3);
     }
     appState.pairedOnceStale = false;
 }

@@ -1,14 +1,28 @@
 #pragma once
 
+#include "state/ViewRows.h"
+#include "statistics/HotRows.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
 namespace ballhaven {
 
-/// Puts the pairs of picks that stand together in exactly one game of the view into `pairedOnceTable`, by their lower
-/// and then by their higher pick. Candidates and games are those of `ComputeHotPairs`, and so are the rows of zeros of
-/// pairs outside the main range. Where `mainLow` is 0, each pick that stands in one game only has a row 0, 0 too, but
-/// for the last one of `hotNumberTable`; where it is above 1, a pick is not paired with the `mainLow` - 1 picks that
-/// follow it there. Sets `pairedOnceLast` (-1 for none), `pairedOnceTable` (which stays as it was then), and, while
-/// Paired Once is on show, the caption of `grdHot`; clears `pairedOnceStale`. Raises the subscript failure at the
-/// 1002nd pair.
+/// The pairs of candidates that stand together in exactly one draw, by their lower and then by their higher pick; none
+/// in fewer than two draws. A pair with a pick outside the main range leaves a row of zeros at the end. Where the main
+/// range begins with 0, each candidate that stands in one draw only has a row 0, 0 too, but for the last one; where it
+/// begins above 1, a candidate is not paired with the next ones, one fewer than that beginning. The 1002nd row is a
+/// subscript failure if it is one of two picks; rows 0, 0 of one pick may stand beyond.
+[[nodiscard]] FoundRows<PickPair> FindPairsDrawnOnce(const DrawRows& draws, std::span<const std::int16_t> candidates,
+                                                     PickRange mainPicks);
+
+/// Puts the pairs that stand together in exactly one game of the view into `pairedOnceTable`, as `FindPairsDrawnOnce`
+/// finds them. Candidates and games are those of `ComputeHotPairs`. Sets `pairedOnceLast` (-1 for none),
+/// `pairedOnceTable` (which stays as it was then), and, while Paired Once is on show, the caption of `grdHot`; clears
+/// `pairedOnceStale`. Raises the subscript failure at the 1002nd pair, with the pairs before it counted in
+/// `pairedOnceLast` and nothing else set; and for a row 0, 0 in that place, with all but the flag set and the table
+/// empty of pairs.
 void ComputePairedOnce();
 
 }  // namespace ballhaven

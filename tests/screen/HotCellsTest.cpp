@@ -10,8 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <span>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ballhaven {
@@ -37,6 +40,8 @@ constexpr Color magenta{255, 0, 255};
 constexpr Color yellow{255, 255, 0};
 
 constexpr int gamesInView = 20;
+constexpr int numberGame = 0;
+constexpr int cardGame = 3;
 
 /// Puts a table of its rows' columns 1, 2 and 3 on show, over a view of 20 games.
 void ShowTable(HotTable choice, const std::vector<std::vector<int>>& rows) {
@@ -242,30 +247,59 @@ TEST(HotCellValue, APairOfZerosHasNoInterval) {
     EXPECT_EQ(RowTexts(0), (Texts{"0, 0", "0", "0", ""}));
 }
 
-TEST(IntervalText, ShowsOneDecimalPlace) {
-    EXPECT_EQ(IntervalText(100, 7), "14.3");
-    EXPECT_EQ(IntervalText(10, 10), "1.0");
-    EXPECT_EQ(IntervalText(1000, 3), "333.3");
-    EXPECT_EQ(IntervalText(1000, 1), "1000.0");
+TEST(HotCellText, TellsARowByItsCellsAlone) {
+    const std::vector<std::int16_t> pair{1, 23, 5};
+
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, cardGame), "Ah, 10c");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, numberGame), "1, 23");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 1, 10, numberGame), "5");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 2, 10, numberGame), "50");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 3, 10, numberGame), "2.0");
+    EXPECT_EQ(HotCellText(HotTable::PairedOnce, pair, 0, 10, numberGame), "1, 23");
+    EXPECT_EQ(HotCellText(HotTable::PairedOnce, pair, 1, 10, numberGame), "");
 }
 
-TEST(IntervalText, ShowsNoDigitBeforeThePointOfAValueBelowOne) {
-    EXPECT_EQ(IntervalText(10, 20), ".5");
-    EXPECT_EQ(IntervalText(1, 30), ".0");
-    EXPECT_EQ(IntervalText(96, 100), "1.0");
-    EXPECT_EQ(IntervalText(94, 100), ".9");
+TEST(HotCellText, OfARowWithTooFewCellsIsANull) {
+    const std::vector<std::int16_t> cells{7, 8, 9};
+    const auto rowOf = [&cells](std::size_t count) { return std::span(cells).first(count); };
+
+    for (const auto& [table, needed] : std::vector<std::pair<HotTable, std::size_t>>{{HotTable::HotNumbers, 2},
+                                                                                     {HotTable::HotPairs, 3},
+                                                                                     {HotTable::PairedOnce, 2},
+                                                                                     {HotTable::Repeaters, 2},
+                                                                                     {HotTable::NoHitters, 1}}) {
+        EXPECT_NE(HotCellText(table, rowOf(needed), 0, 10, numberGame), std::nullopt) << static_cast<int>(table);
+        EXPECT_EQ(HotCellText(table, rowOf(needed - 1), 0, 10, numberGame), std::nullopt) << static_cast<int>(table);
+    }
 }
 
-TEST(IntervalText, RoundsHalvesAwayFromZero) {
-    EXPECT_EQ(IntervalText(1, 4), ".3");
-    EXPECT_EQ(IntervalText(5, 4), "1.3");
-    EXPECT_EQ(IntervalText(11, 4), "2.8");
+TEST(SuitColor, IsRedBlackOrBlue) {
+    EXPECT_EQ(SuitColor("10h"), red);
+    EXPECT_EQ(SuitColor("Kd"), red);
+    EXPECT_EQ(SuitColor("Ac"), black);
+    EXPECT_EQ(SuitColor("2s"), black);
+    EXPECT_EQ(SuitColor("Ah, Kd"), red);
+    EXPECT_EQ(SuitColor("Ah, Kh"), red);
+    EXPECT_EQ(SuitColor("Ac, Ks"), black);
+    EXPECT_EQ(SuitColor("2c, 9c"), blue);
+    EXPECT_EQ(SuitColor("2s, 9s"), blue);
+    EXPECT_EQ(SuitColor("Ah, Kc"), blue);
+    EXPECT_EQ(SuitColor("4d, 5s"), blue);
 }
 
-TEST(IntervalText, RoundsTheExactValueOfTheSinglePrecisionNumber) {
-    // 2.35 is a little less in single precision, 2.45 a little more.
-    EXPECT_EQ(IntervalText(47, 20), "2.3");
-    EXPECT_EQ(IntervalText(49, 20), "2.5");
+TEST(IsHiLitedBy, TheBoxHoldsTheWholePickAndIsNotEmpty) {
+    EXPECT_TRUE(IsHiLitedBy("7", "7"));
+    EXPECT_FALSE(IsHiLitedBy("7", "77"));
+    EXPECT_FALSE(IsHiLitedBy("77", "7"));
+    EXPECT_FALSE(IsHiLitedBy("", "7"));
+    EXPECT_FALSE(IsHiLitedBy("", ""));
+}
+
+// Not a bug: PAIR-HILITE-1 in docs/not-bugs.md.
+TEST(QuirkPairHilite1, TheRightPickOfAPairIsComparedWithTheBlankBeforeIt) {
+    EXPECT_TRUE(IsHiLitedBy("7", "7, 12"));
+    EXPECT_FALSE(IsHiLitedBy("12", "7, 12"));
+    EXPECT_TRUE(IsHiLitedBy(" 12", "7, 12"));
 }
 
 TEST(HotCellStyle, NumbersAreBlackOnWhite) {

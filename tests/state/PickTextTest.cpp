@@ -125,6 +125,11 @@ RC_GTEST_FIXTURE_PROP(PickText, ANormalisedTextStaysAsItIs, (std::string text)) 
     RC_ASSERT(text == normalised);
 }
 
+TEST(PickToText, TellsACardOnlyInAKindOfGameThatIsPlayedWithCards) {
+    EXPECT_EQ(PickToText(36, 2), "36");
+    EXPECT_EQ(PickToText(36, 3), "10d");
+}
+
 TEST_F(PickText, APickIsDigitsInANumberGameAndACardInACardGame) {
     SetUpGame(NumberGame());
     EXPECT_EQ(PickToText(0), "0");

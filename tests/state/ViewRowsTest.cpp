@@ -27,6 +27,43 @@ Picks PicksOf(int row) {
     return {picks.begin(), picks.end()};
 }
 
+Picks PicksOf(const DrawRows& draws, int row) {
+    const auto picks = draws.Picks(row);
+    return {picks.begin(), picks.end()};
+}
+
+TEST(DrawRows, GiveSomeColumnsOfAView) {
+    Table view(4, 2);
+    for (const int row : {0, 1}) {
+        for (const int column : {0, 1, 2, 3}) {
+            view(column, row) = static_cast<std::int16_t>(10 * row + column);
+        }
+    }
+
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {1, 3}), 0), (Picks{1, 2, 3}));
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {2, 3}), 1), (Picks{12, 13}));
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {2, 2}), 1), (Picks{12}));
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {2, 1}), 1), Picks());
+}
+
+TEST(DrawRows, LookAtNoColumnOrRowThatTheViewDoesNotHave) {
+    const Table view(3, 2, 7);
+
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {0, 9}), 0), (Picks{7, 7}));
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {3, 9}), 0), Picks());
+    EXPECT_EQ(PicksOf(DrawRows(view, 9, {1, 2}), 2), Picks());
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {1, 2}), -1), Picks());
+    EXPECT_EQ(DrawRows(view, 9, {1, 2}).Games(), 9);
+}
+
+TEST(ViewedDraws, AreTheGamesOfTheViewWithAllTheirPicks) {
+    support::StartWith(support::NumberGame().Picks(3).OldestFirst());
+    support::ShowDraws({{1, 2, 3}, {4, -1, 6}});
+
+    EXPECT_EQ(ViewedDraws().Games(), 2);
+    EXPECT_EQ(PicksOf(ViewedDraws(), 1), (Picks{4, -1, 6}));
+}
+
 TEST(RowOfDate, IsTheFirstRowOfTheViewWithTheDate) {
     ShowDates({1000, 1007, 1007, 1010});
 

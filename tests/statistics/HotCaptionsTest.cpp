@@ -78,15 +78,42 @@ TEST(ShowChosenHotCaption, OnlyHotNumbersSayThatNoneWereFound) {
     EXPECT_EQ(CaptionOf(HotTable::HotPairs), "Hot Pairs in last 0 games");
 }
 
-TEST(HotCaptions, JoinTheWordsAndTheGamesWithSingleBlanks) {
-    StartWith(NumberGame().Picks(1));
-    ShowDraws(std::vector<DrawPicks>(25, DrawPicks{1}));
+TEST(ShowHotNumbersCaption, SaysWhetherThereAreRows) {
+    StartWith(CardGame().Picks(1));
+    ShowDraws({{1}, {2}});
+    appState.hotTableChoice = static_cast<std::int16_t>(HotTable::NoHitters);
 
-    ShowHotCaption("Hot Pairs");
-    EXPECT_EQ(*frmMainForm.grdHot.caption, "Hot Pairs in last 25 games");
+    appState.hotNumberLast = 0;
+    ShowHotNumbersCaption();
+    EXPECT_EQ(*frmMainForm.grdHot.caption, "Hot Cards in last 2 games");
 
-    ShowNoneFoundCaption("Pairs");
-    EXPECT_EQ(*frmMainForm.grdHot.caption, "Pairs (none found)");
+    appState.hotNumberLast = -1;
+    ShowHotNumbersCaption();
+    EXPECT_EQ(*frmMainForm.grdHot.caption, "Hot Cards (none found)");
+}
+
+TEST(HotCaption, OfHotNumbersSpeaksOfCardsInCardGamesOnly) {
+    for (const int gameType : {0, 1, 2}) {
+        EXPECT_EQ(HotCaption(HotTable::HotNumbers, gameType, 7), "Hot Numbers in last 7 games");
+        EXPECT_EQ(NoneFoundCaption(HotTable::HotNumbers, gameType), "Hot Numbers (none found)");
+    }
+    for (const int gameType : {3, 4, 5}) {
+        EXPECT_EQ(HotCaption(HotTable::HotNumbers, gameType, 7), "Hot Cards in last 7 games");
+        EXPECT_EQ(NoneFoundCaption(HotTable::HotNumbers, gameType), "Hot Cards (none found)");
+    }
+}
+
+TEST(HotCaption, OfTheOtherTablesIsTheSameInNumberAndCardGames) {
+    for (const int gameType : {0, 3}) {
+        EXPECT_EQ(HotCaption(HotTable::HotPairs, gameType, 7), "Hot Pairs in last 7 games");
+        EXPECT_EQ(HotCaption(HotTable::PairedOnce, gameType, 7), "Paired once in last 7 games");
+        EXPECT_EQ(HotCaption(HotTable::Repeaters, gameType, 7), "Hot Repeaters in last 7 games");
+        EXPECT_EQ(HotCaption(HotTable::NoHitters, gameType, 7), "No Hitters in last 7 games");
+        EXPECT_EQ(NoneFoundCaption(HotTable::HotPairs, gameType), "Pairs (none found)");
+        EXPECT_EQ(NoneFoundCaption(HotTable::PairedOnce, gameType), "Paired once (none found)");
+        EXPECT_EQ(NoneFoundCaption(HotTable::Repeaters, gameType), "Hot Repeaters (none found)");
+        EXPECT_EQ(NoneFoundCaption(HotTable::NoHitters, gameType), "No Hitters (none found)");
+    }
 }
 
 }  // namespace

@@ -3,12 +3,13 @@
 #include "forms/MainForm.h"
 #include "statistics/HotTableKinds.h"
 #include "statistics/HotTables.h"
-#include "support/MainScreen.h"
+#include "support/Views.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,23 +17,14 @@
 namespace ballhaven {
 namespace {
 
+using support::AllDraws;
 using support::BonusPool;
 using support::CardGame;
 using support::DrawPicks;
 using support::NumberGame;
 using support::ShowDraws;
 using support::StartWith;
-
-struct PickHits {
-    int pick;
-    int hits;
-
-    bool operator==(const PickHits&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const PickHits& row) {
-    return out << row.pick << " x" << row.hits;
-}
+using support::ViewOf;
 
 using Rows = std::vector<PickHits>;
 
@@ -56,6 +48,48 @@ void Show(HotTable table) {
 
 std::string Caption() {
     return frmMainForm.grdHot.caption;
+}
+
+TEST(CountedColumns, AreThoseOfTheChoiceInAGameWithBonusPicks) {
+    for (const int gameType : {1, 2, 4, 5}) {
+        EXPECT_EQ(CountedColumns(gameType, 7, 2, CountedPicks::Main), (PickColumns{1, 5}));
+        EXPECT_EQ(CountedColumns(gameType, 7, 2, CountedPicks::Bonus), (PickColumns{6, 7}));
+        EXPECT_EQ(CountedColumns(gameType, 7, 2, CountedPicks::All), (PickColumns{1, 7}));
+    }
+}
+
+TEST(CountedColumns, AreAllInAGameWithoutBonusPicks) {
+    for (const int gameType : {0, 3}) {
+        for (const CountedPicks counted : {CountedPicks::Main, CountedPicks::Bonus, CountedPicks::All}) {
+            EXPECT_EQ(CountedColumns(gameType, 7, 2, counted), (PickColumns{1, 7}));
+        }
+    }
+}
+
+TEST(FindHotNumbers, CountsThePicksOfSomeColumns) {
+    const Table view = ViewOf({{9, 30, 4}, {30, 4, 8}, {30, 49, 9}});
+
+    EXPECT_EQ(FindHotNumbers(AllDraws(view), 49), (Rows{{30, 3}, {4, 2}, {9, 2}, {8, 1}, {49, 1}}));
+    EXPECT_EQ(FindHotNumbers({view, 3, {2, 2}}, 49), (Rows{{4, 1}, {30, 1}, {49, 1}}));
+    EXPECT_EQ(FindHotNumbers({view, 2, {1, 3}}, 49), (Rows{{4, 2}, {30, 2}, {8, 1}, {9, 1}}));
+}
+
+TEST(FindHotNumbers, WithoutDrawsGivesNothing) {
+    EXPECT_EQ(FindHotNumbers(AllDraws(ViewOf({})), 49), Rows());
+}
+
+TEST(FindHotNumbers, TakesPicksFrom0To1000) {
+    const Table view = ViewOf({{0, 1000, -2, 1001}});
+
+    EXPECT_EQ(FindHotNumbers(AllDraws(view), 2000), (Rows{{0, 1}, {1000, 1}}));
+}
+
+TEST(HotNumberPicks, StandInTheOrderOfTheTable) {
+    StartWith(NumberGame().Picks(2));
+    ShowDraws({{3, 9}, {9, 1}});
+    ComputeHotTable();
+
+    EXPECT_EQ(HotNumberPicks(), (std::vector<std::int16_t>{9, 1, 3}));
 }
 
 TEST(ComputeHotTable, AnEmptyLogGivesNoRowsAndSaysSo) {
@@ -353,7 +387,7 @@ Rows RowsByNestedWalks(const std::vector<DrawPicks>& draws) {
     for (int hits = mostHits; hits >= 1; --hits) {
         for (int value = 0; value <= appState.mainHigh; ++value) {
             if (HitsOf(value, draws) == hits) {
-                rows.push_back({value, hits});
+                rows.push_back({static_cast<std::int16_t>(value), static_cast<std::int16_t>(hits)});
             }
         }
     }

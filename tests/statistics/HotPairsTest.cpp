@@ -7,7 +7,7 @@
 #include "statistics/HotNumbers.h"
 #include "statistics/HotTableKinds.h"
 #include "statistics/HotTables.h"
-#include "support/MainScreen.h"
+#include "support/Views.h"
 
 #include <gtest/gtest.h>
 
@@ -21,13 +21,16 @@
 namespace ballhaven {
 namespace {
 
+using support::AllDraws;
 using support::BonusPool;
 using support::CardGame;
 using support::DrawPicks;
 using support::NumberGame;
 using support::ShowDraws;
 using support::StartWith;
+using support::ViewOf;
 
+using Picks = std::vector<std::int16_t>;
 using Texts = std::vector<std::string>;
 
 /// Puts the table on show as the hot selector would, and builds it.
@@ -80,6 +83,45 @@ std::vector<DrawPicks> DrawsOf501Pairs() {
     }
     draws.insert(draws.end(), 2, DrawPicks{3, 13, 23, 33});
     return draws;
+}
+
+TEST(FindHotPairs, GivesThePairsOfTwoAndMoreDrawsWithMostHitsFirst) {
+    const Table view = ViewOf({{1, 2, 3}, {3, 2, 9}, {2, 3, 1}, {8, 9}});
+
+    const FoundRows<PairHits> found = FindHotPairs(AllDraws(view), Picks{3, 2, 9, 1, 8}, {1, 9});
+
+    EXPECT_EQ(found.rows, (std::vector<PairHits>{{{2, 3}, 3}, {{1, 2}, 2}, {{1, 3}, 2}}));
+    EXPECT_EQ(found.failure, std::nullopt);
+}
+
+TEST(FindHotPairs, TakesNoPickThatIsNoCandidate) {
+    const Table view = ViewOf({{1, 2, 3}, {1, 2, 3}});
+
+    EXPECT_EQ(FindHotPairs(AllDraws(view), Picks{3, 1}, {1, 9}).rows, (std::vector<PairHits>{{{1, 3}, 2}}));
+    EXPECT_TRUE(FindHotPairs(AllDraws(view), Picks{}, {1, 9}).rows.empty());
+}
+
+// Not a bug: PAIR-ZEROS-1 in docs/not-bugs.md.
+TEST(QuirkPairZeros1, FindHotPairsGivesZerosForAPairOutsideTheMainRange) {
+    const Table view = ViewOf({{1, 2, 10}, {1, 2, 10}});
+
+    EXPECT_EQ(FindHotPairs(AllDraws(view), Picks{1, 2, 10}, {1, 9}).rows,
+              (std::vector<PairHits>{{{1, 2}, 2}, {{0, 0}, 0}, {{0, 0}, 0}}));
+}
+
+// Not a bug: PAIR-LIMIT-1 in docs/not-bugs.md.
+TEST(QuirkPairLimit1, FindHotPairsEndsAtThe502ndPairWithThoseBeforeItAsFound) {
+    std::vector<DrawPicks> draws = DrawsOf501Pairs();
+    Picks descending(100);
+    std::iota(descending.rbegin(), descending.rend(), 0);
+    EXPECT_EQ(FindHotPairs(AllDraws(ViewOf(draws)), descending, {0, 99}).failure, std::nullopt);
+
+    draws.insert(draws.end(), 2, DrawPicks{4, 14});
+    const FoundRows<PairHits> found = FindHotPairs(AllDraws(ViewOf(draws)), descending, {0, 99});
+
+    EXPECT_EQ(found.failure, RuntimeFailure::Kind::SubscriptOutOfRange);
+    EXPECT_EQ(found.rows.size(), 501U);
+    EXPECT_EQ(found.rows.front(), (PairHits{{82, 92}, 2}));
 }
 
 TEST(ComputeHotPairs, OneGameHasNoPairsWhateverWasDrawn) {
@@ -183,44 +225,6 @@ TEST(ComputeHotPairs, CardsArePairedByTheirCodes) {
     ShowHotPairs();
 
     EXPECT_EQ(CellsOfRow(0), (Texts{"Ah, 10c", "2", "100", "1.0"}));
-}
-
-TEST(ComputeHotPairs, ATableThatFindsNothingKeepsItsOldArrayAndIsNotStale) {
-    StartWith(NumberGame().Picks(2));
-    ShowDraws({{1, 2}, {1, 2}});
-    ShowHotPairs();
-    appState.hotPairStale = true;
-    ShowDraws({{1, 2}});
-
-    ShowHotPairs();
-
-    EXPECT_EQ(appState.hotPairLast, -1);
-    EXPECT_EQ(appState.hotPairTable.Rows(), 1);
-    EXPECT_FALSE(appState.hotPairStale);
-}
-
-TEST(ComputeHotPairs, TheCaptionStaysWhileAnotherTableIsOnShow) {
-    StartWith(NumberGame().Picks(2));
-    ShowDraws({{1, 2}, {1, 2}});
-    ComputeHotTable();
-
-    ComputeHotPairs();
-    EXPECT_EQ(appState.hotPairLast, 0);
-    EXPECT_EQ(Caption(), "Hot Numbers in last 2 games");
-
-    ShowDraws({});
-    ComputeHotPairs();
-    EXPECT_EQ(Caption(), "Hot Numbers in last 2 games");
-}
-
-TEST(ComputeHotPairs, AViewWithFewerColumnsThanTheGameIsCountedAsFarAsItGoes) {
-    StartWith(NumberGame().Picks(2));
-    ShowDraws({{1, 2}, {1, 2}});
-    appState.totalPicks = 6;
-
-    ShowHotPairs();
-
-    EXPECT_EQ(Rows(), (Texts{"1, 2 x2"}));
 }
 
 // Not a bug: PAIR-ZEROS-1 in docs/not-bugs.md.

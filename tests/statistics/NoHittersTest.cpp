@@ -6,7 +6,7 @@
 #include "statistics/HotNumbers.h"
 #include "statistics/HotTableKinds.h"
 #include "statistics/HotTables.h"
-#include "support/MainScreen.h"
+#include "support/Views.h"
 
 #include <gtest/gtest.h>
 
@@ -18,11 +18,13 @@
 namespace ballhaven {
 namespace {
 
+using support::AllDraws;
 using support::BonusPool;
 using support::CardGame;
 using support::NumberGame;
 using support::ShowDraws;
 using support::StartWith;
+using support::ViewOf;
 
 using Picks = std::vector<std::int16_t>;
 
@@ -47,6 +49,29 @@ std::string Caption() {
     return frmMainForm.grdHot.caption;
 }
 
+TEST(FindNoHitters, GivesThePicksOfTheRangeThatStandInNoDraw) {
+    EXPECT_EQ(FindNoHitters(AllDraws(ViewOf({{2, 9, -1}, {7, 4, 2}})), {2, 8}), (Picks{3, 5, 6, 8}));
+    EXPECT_EQ(FindNoHitters(AllDraws(ViewOf({{0, 3}})), {0, 3}), (Picks{1, 2}));
+    EXPECT_EQ(FindNoHitters(AllDraws(ViewOf({})), {2, 4}), (Picks{2, 3, 4}));
+}
+
+TEST(FindNoHitters, OfARangeThatEndsBeforeItBeginsGivesNothing) {
+    EXPECT_EQ(FindNoHitters(AllDraws(ViewOf({{0, 1}})), {0, -1}), Picks());
+}
+
+TEST(NoHitterRange, IsTheMainRangeWithoutDuplicates) {
+    EXPECT_EQ(NoHitterRange({0, 9}, 3, false), (PickRange{0, 9}));
+}
+
+// Not a bug: NO-HITTERS-TOP-1 in docs/not-bugs.md.
+TEST(QuirkNoHittersTop1, WithDuplicatesTheRangeEndsAtItsShareForOneMainPick) {
+    EXPECT_EQ(NoHitterRange({0, 9}, 3, true), (PickRange{0, 2}));
+    EXPECT_EQ(NoHitterRange({1, 9}, 3, true), (PickRange{1, 3}));
+    EXPECT_EQ(NoHitterRange({1, 10}, 4, true), (PickRange{1, 2}));
+    EXPECT_EQ(NoHitterRange({0, 9}, 1, true), (PickRange{0, 8}));
+    EXPECT_EQ(NoHitterRange({1, 9}, 0, true), (PickRange{1, 9}));
+}
+
 TEST(ComputeNoHitters, ASingleGameLeavesAllValuesThatAreNotInIt) {
     StartWith(NumberGame().Picks(3).To(7));
     ShowDraws({{2, 7, 4}});
@@ -58,7 +83,8 @@ TEST(ComputeNoHitters, ASingleGameLeavesAllValuesThatAreNotInIt) {
     EXPECT_EQ(frmMainForm.hotRowCount, 4);
 }
 
-TEST(ComputeNoHitters, WhereAllValuesWereDrawnThereAreNoRowsAndTheCaptionRemains) {
+// Not a bug: NO-HITTERS-CAPTION-1 in docs/not-bugs.md.
+TEST(QuirkNoHittersCaption1, WhereAllValuesWereDrawnThereAreNoRowsAndTheCaptionRemains) {
     StartWith(NumberGame().Picks(3).To(6));
     ShowDraws({{1, 2, 3}, {4, 5, 6}});
     frmMainForm.grdHot.caption = "No Hitters in last 2 games";
@@ -122,20 +148,6 @@ TEST(ComputeNoHitters, TheChoiceOfPicksMakesNoDifference) {
     }
 }
 
-TEST(ComputeNoHitters, ATableThatFindsNothingKeepsItsOldArrayAndIsNotStale) {
-    StartWith(NumberGame().Picks(2).To(3));
-    ShowDraws({{1, 2}});
-    ShowNoHitters();
-    appState.noHitterStale = true;
-    ShowDraws({{1, 2}, {2, 3}});
-
-    ShowNoHitters();
-
-    EXPECT_EQ(appState.noHitterLast, -1);
-    EXPECT_EQ(appState.noHitterTable, (Picks{3}));
-    EXPECT_FALSE(appState.noHitterStale);
-}
-
 TEST(ComputeNoHitters, ADamagedGameWithoutMainPicksIsOneOfOnePick) {
     StartWith(NumberGame().Picks(1).From(1).To(5).WithDuplicates());
     ShowDraws({});
@@ -174,26 +186,6 @@ TEST(QuirkNoHittersTop1, AShareOfNothingListsNothing) {
     ShowNoHitters();
 
     EXPECT_EQ(appState.noHitterLast, -1);
-}
-
-// Not a bug: NO-HITTERS-CAPTION-1 in docs/not-bugs.md.
-TEST(QuirkNoHittersCaption1, TheCaptionIsSetWhileRepeatersIsOnShowAndAtNoOtherTime) {
-    StartWith(NumberGame().Picks(2).To(3));
-    ShowDraws({{1, 2}});
-    for (const int choice : {1, 2, 3, 5}) {
-        appState.hotTableChoice = static_cast<std::int16_t>(choice);
-        frmMainForm.grdHot.caption = "As it was";
-        ComputeNoHitters();
-        EXPECT_EQ(Caption(), "As it was") << choice;
-    }
-
-    appState.hotTableChoice = 4;
-    ComputeNoHitters();
-    EXPECT_EQ(Caption(), "No Hitters in last 1 games");
-
-    ShowDraws({{1, 2}, {2, 3}});
-    ComputeNoHitters();
-    EXPECT_EQ(Caption(), "No Hitters (none found)");
 }
 
 }  // namespace

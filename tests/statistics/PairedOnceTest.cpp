@@ -7,11 +7,13 @@
 #include "statistics/HotNumbers.h"
 #include "statistics/HotTableKinds.h"
 #include "statistics/HotTables.h"
-#include "support/MainScreen.h"
+#include "support/Views.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,13 +21,17 @@
 namespace ballhaven {
 namespace {
 
+using support::AllDraws;
 using support::BonusPool;
 using support::CardGame;
 using support::DrawPicks;
 using support::NumberGame;
 using support::ShowDraws;
 using support::StartWith;
+using support::ViewOf;
 
+using Pairs = std::vector<PickPair>;
+using Picks = std::vector<std::int16_t>;
 using Texts = std::vector<std::string>;
 
 /// Puts the table on show as the hot selector would, and builds it.
@@ -63,6 +69,24 @@ DrawPicks Line(int first, int step, int count) {
         picks.push_back(first + i * step);
     }
     return picks;
+}
+
+TEST(FindPairsDrawnOnce, GivesThePairsOfOneDrawByTheirPicks) {
+    const Table view = ViewOf({{30, 2, 9}, {9, 30, 1}});
+
+    const FoundRows<PickPair> found = FindPairsDrawnOnce(AllDraws(view), Picks{30, 9, 2, 1}, {1, 49});
+
+    EXPECT_EQ(found.rows, (Pairs{{1, 9}, {1, 30}, {2, 9}, {2, 30}}));
+    EXPECT_EQ(found.failure, std::nullopt);
+}
+
+TEST(FindPairsDrawnOnce, NeedsTwoDraws) {
+    EXPECT_TRUE(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}})), Picks{1, 2}, {1, 9}).rows.empty());
+    EXPECT_EQ(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}, {3}})), Picks{1, 2}, {1, 9}).rows, (Pairs{{1, 2}}));
+}
+
+TEST(FindPairsDrawnOnce, WithoutCandidatesGivesNothing) {
+    EXPECT_TRUE(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}, {3}})), Picks{}, {0, 9}).rows.empty());
 }
 
 TEST(ComputePairedOnce, OneGameHasNoPairsWhateverWasDrawn) {
@@ -125,32 +149,17 @@ TEST(ComputePairedOnce, CardGamesNeverShowAZeroPair) {
     EXPECT_EQ(Rows(), (Texts{"Ah, 10c", "2h, 3h"}));
 }
 
-TEST(ComputePairedOnce, ATableThatFindsNothingKeepsItsOldArrayAndIsNotStale) {
-    StartWith(NumberGame().Picks(2));
-    ShowDraws({{1, 2}, {3, 4}});
-    ShowPairedOnce();
-    appState.pairedOnceStale = true;
-    ShowDraws({{1, 2}});
+// Not a bug: PAIRED-ONCE-1 in docs/not-bugs.md.
+TEST(QuirkPairedOnce1, TheBeginningOfTheMainRangeSaysWhereTheInnerWalkStarts) {
+    const Table view = ViewOf({{5, 6, 7}, {8}});
+    const auto pairsFrom = [&view](std::int16_t low) {
+        return FindPairsDrawnOnce(AllDraws(view), Picks{5, 6, 7, 8}, {low, 9}).rows;
+    };
 
-    ShowPairedOnce();
-
-    EXPECT_EQ(appState.pairedOnceLast, -1);
-    EXPECT_EQ(appState.pairedOnceTable.Rows(), 2);
-    EXPECT_FALSE(appState.pairedOnceStale);
-}
-
-TEST(ComputePairedOnce, TheCaptionStaysWhileAnotherTableIsOnShow) {
-    StartWith(NumberGame().Picks(2));
-    ShowDraws({{1, 2}, {3, 4}});
-    ComputeHotTable();
-
-    ComputePairedOnce();
-    EXPECT_EQ(appState.pairedOnceLast, 1);
-    EXPECT_EQ(Caption(), "Hot Numbers in last 2 games");
-
-    ShowDraws({});
-    ComputePairedOnce();
-    EXPECT_EQ(Caption(), "Hot Numbers in last 2 games");
+    EXPECT_EQ(pairsFrom(0), (Pairs{{0, 0}, {0, 0}, {0, 0}, {5, 6}, {5, 7}, {6, 7}}));
+    EXPECT_EQ(pairsFrom(1), (Pairs{{5, 6}, {5, 7}, {6, 7}}));
+    EXPECT_EQ(pairsFrom(2), (Pairs{{5, 7}}));
+    EXPECT_EQ(pairsFrom(3), Pairs());
 }
 
 // Not a bug: PAIRED-ONCE-1 in docs/not-bugs.md.
@@ -213,6 +222,22 @@ std::vector<DrawPicks> DrawsOf1001Pairs() {
     draws.push_back(Line(1, 11, 5));
     draws.push_back(Line(2, 11, 2));
     return draws;
+}
+
+// Not a bug: PAIR-LIMIT-1 in docs/not-bugs.md.
+TEST(QuirkPairLimit1, FindPairsDrawnOnceEndsAtThe1002ndPairWithThoseBeforeItAsFound) {
+    Picks descending(100);
+    std::iota(descending.rbegin(), descending.rend(), 0);
+    // The main range begins with 1, so that no value meets itself: 1001 pairs of 100 values.
+    std::vector<DrawPicks> draws = DrawsOf1001Pairs();
+    EXPECT_EQ(FindPairsDrawnOnce(AllDraws(ViewOf(draws)), descending, {1, 99}).failure, std::nullopt);
+
+    draws.push_back({5, 16});
+    const FoundRows<PickPair> found = FindPairsDrawnOnce(AllDraws(ViewOf(draws)), descending, {1, 99});
+
+    EXPECT_EQ(found.failure, RuntimeFailure::Kind::SubscriptOutOfRange);
+    EXPECT_EQ(found.rows.size(), 1001U);
+    EXPECT_EQ(found.rows.front(), (PickPair{98, 99}));
 }
 
 // Not a bug: PAIR-LIMIT-1 in docs/not-bugs.md.

@@ -7,10 +7,11 @@
 #include "statistics/HotNumbers.h"
 #include "statistics/HotTableKinds.h"
 #include "statistics/HotTables.h"
-#include "support/MainScreen.h"
+#include "support/Views.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,13 +19,16 @@
 namespace ballhaven {
 namespace {
 
+using support::AllDraws;
 using support::BonusPool;
 using support::CardGame;
 using support::DrawPicks;
 using support::NumberGame;
 using support::ShowDraws;
 using support::StartWith;
+using support::ViewOf;
 
+using Picks = std::vector<std::int16_t>;
 using Texts = std::vector<std::string>;
 
 /// Puts the table on show and builds it.
@@ -47,17 +51,47 @@ std::string Caption() {
     return frmMainForm.grdHot.caption;
 }
 
-TEST(ComputeRepeaters, ASingleGameHasNone) {
-    StartWith(NumberGame().Picks(3));
-    ShowDraws({{1, 2, 3}});
+TEST(FindRepeaters, GivesTheCandidatesThatCameAgainInTheNextDraw) {
+    const Table view = ViewOf({{9, 5, 2}, {2, 9, 7}, {9, 5, 30}});
 
-    ShowRepeaters();
+    const FoundRows<PickHits> found = FindRepeaters(AllDraws(view), Picks{30, 9, 2, 5}, {1, 49});
 
-    EXPECT_EQ(appState.repeaterLast, -1);
-    EXPECT_EQ(frmMainForm.hotRowCount, 0);
+    EXPECT_EQ(found.rows, (std::vector<PickHits>{{9, 2}, {2, 1}}));
+    EXPECT_EQ(found.failure, std::nullopt);
 }
 
-TEST(ComputeRepeaters, WhereNoValueRepeatsThereAreNoRowsAndTheCaptionRemains) {
+TEST(FindRepeaters, TakesNoPickThatIsNoCandidate) {
+    EXPECT_EQ(FindRepeaters(AllDraws(ViewOf({{1, 2}, {1, 2}})), Picks{2}, {1, 9}).rows,
+              (std::vector<PickHits>{{2, 1}}));
+}
+
+TEST(FindRepeaters, TheLowestAndTheHighestValueOfAPickCount) {
+    const Table view = ViewOf({{0, 1000, -2, 1001}, {0, 1000, -2, 1001}});
+
+    EXPECT_EQ(FindRepeaters(AllDraws(view), Picks{0, 1000}, {0, 1000}).rows,
+              (std::vector<PickHits>{{0, 1}, {1000, 1}}));
+}
+
+TEST(FindRepeaters, AnOverflowLeavesTheRepeatersBeforeItAsFound) {
+    // 4681 pairs of draws with seven pairs of columns each.
+    std::vector<DrawPicks> draws;
+    for (int game = 0; game < 4682; ++game) {
+        draws.push_back(game % 2 == 0 ? DrawPicks{7, 1, 2} : DrawPicks{7, 7, 7, 7, 7, 7, 7, 3});
+    }
+    const Table atLimit = ViewOf(draws);
+    const FoundRows<PickHits> fits = FindRepeaters(AllDraws(atLimit), Picks{9, 7}, {1, 9});
+    EXPECT_EQ(fits.failure, std::nullopt);
+    EXPECT_EQ(fits.rows, (std::vector<PickHits>{{7, 32767}}));
+
+    draws.push_back({3, 7});
+    const Table beyond = ViewOf(draws);
+    const FoundRows<PickHits> found = FindRepeaters(AllDraws(beyond), Picks{3, 7, 2}, {5, 9});
+    EXPECT_EQ(found.failure, RuntimeFailure::Kind::Overflow);
+    EXPECT_EQ(found.rows, (std::vector<PickHits>{{3, 1}}));
+}
+
+// Not a bug: REPEATERS-CAPTION-1 in docs/not-bugs.md.
+TEST(QuirkRepeatersCaption1, WhereNoValueRepeatsThereAreNoRowsAndTheCaptionRemains) {
     StartWith(NumberGame().Picks(2));
     ShowDraws({{1, 2}, {3, 4}});
     frmMainForm.grdHot.caption = "Hot Repeaters in last 2 games";
@@ -164,26 +198,13 @@ TEST(ComputeRepeaters, CardsShowTheirTexts) {
     EXPECT_EQ(HotCellValue(0, 0), "10c");
 }
 
-TEST(ComputeRepeaters, ATableThatFindsNothingKeepsItsOldArrayAndIsNotStale) {
-    StartWith(NumberGame().Picks(1));
-    ShowDraws({{1}, {1}});
-    ShowRepeaters();
-    appState.repeaterStale = true;
-    ShowDraws({});
-
-    ShowRepeaters();
-
-    EXPECT_EQ(appState.repeaterLast, -1);
-    EXPECT_EQ(appState.repeaterTable.Rows(), 1);
-    EXPECT_FALSE(appState.repeaterStale);
-}
-
 TEST(ComputeRepeaters, RepeatsBeyondSixteenBitsOverflow) {
     StartWith(NumberGame().Picks(10).From(0).To(9).WithDuplicates());
     ShowDraws(std::vector<DrawPicks>(328, DrawPicks(10, 3)));
     ShowRepeaters();
     EXPECT_EQ(Rows(), (Texts{"3 x32700"}));
 
+    appState.repeaterStale = true;
     ShowDraws(std::vector<DrawPicks>(329, DrawPicks(10, 3)));
     std::optional<RuntimeFailure::Kind> failure;
     try {
@@ -192,6 +213,9 @@ TEST(ComputeRepeaters, RepeatsBeyondSixteenBitsOverflow) {
         failure = raised.GetKind();
     }
     EXPECT_EQ(failure, RuntimeFailure::Kind::Overflow);
+    EXPECT_EQ(appState.repeaterLast, -1);
+    EXPECT_EQ(appState.repeaterTable(2, 0), 32700);
+    EXPECT_TRUE(appState.repeaterStale);
 }
 
 // Not a bug: REPEATER-ZEROS-1 in docs/not-bugs.md.
@@ -204,27 +228,6 @@ TEST(QuirkRepeaterZeros1, ARepeaterBelowTheMainRangeLeavesARowOfZerosWhoseInterv
     EXPECT_EQ(Rows(), (Texts{"5 x1", "0 x0"}));
     EXPECT_EQ(HotCellValue(1, 0), "0");
     EXPECT_THROW(static_cast<void>(HotCellValue(1, 3)), RuntimeFailure);
-}
-
-// Not a bug: REPEATERS-CAPTION-1 in docs/not-bugs.md.
-TEST(QuirkRepeatersCaption1, TheCaptionIsSetWhilePairedOnceIsOnShowAndAtNoOtherTime) {
-    StartWith(NumberGame().Picks(1));
-    ShowDraws({{1}, {1}});
-    ComputeHotTable();
-    for (const int choice : {1, 2, 4, 5}) {
-        appState.hotTableChoice = static_cast<std::int16_t>(choice);
-        frmMainForm.grdHot.caption = "As it was";
-        ComputeRepeaters();
-        EXPECT_EQ(Caption(), "As it was") << choice;
-    }
-
-    appState.hotTableChoice = 3;
-    ComputeRepeaters();
-    EXPECT_EQ(Caption(), "Hot Repeaters in last 2 games");
-
-    ShowDraws({{1}, {2}});
-    ComputeRepeaters();
-    EXPECT_EQ(Caption(), "Hot Repeaters (none found)");
 }
 
 }  // namespace
