@@ -6,7 +6,7 @@
 namespace ballhaven {
 
 void WireSinglePlay() {
-    frmMainForm.grdPlay.cellText = PlayBoardText;
+    frmMainForm.grdPlay.cellText = platform::ByRowAndColumn(PlayBoardText);
 }
 
 }  // namespace ballhaven

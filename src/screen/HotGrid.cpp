@@ -6,8 +6,8 @@
 namespace ballhaven {
 
 void WireHotGrid() {
-    frmMainForm.grdHot.cellText = HotCellValue;
-    frmMainForm.grdHot.cellStyle = HotCellStyle;
+    frmMainForm.grdHot.cellText = platform::ByRowAndColumn(HotCellValue);
+    frmMainForm.grdHot.cellStyle = platform::ByRowAndColumn(HotCellStyle);
 }
 
 }  // namespace ballhaven

@@ -97,8 +97,8 @@ void ServeMove() {
 }  // namespace
 
 void WireLogGrid() {
-    frmMainForm.grdHist.cellText = LogCellValue;
-    frmMainForm.grdHist.cellStyle = LogCellStyle;
+    frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
+    frmMainForm.grdHist.cellStyle = platform::ByRowAndColumn(LogCellStyle);
     frmMainForm.grdHist.acceptEdit = AcceptPick;
     frmMainForm.grdHist.edited = TakePick;
     frmMainForm.grdHist.keyDown = ServeKey;

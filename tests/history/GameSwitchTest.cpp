@@ -30,8 +30,8 @@ class SwitchingGames : public testing::Test {
     void SetUp() override {
         support::ResetMainForm();
         appState.programDirectory = directory.Path();
-        frmMainForm.grdHist.cellText = LogCellValue;
-        frmMainForm.grdHot.cellText = HotCellValue;
+        frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
+        frmMainForm.grdHot.cellText = platform::ByRowAndColumn(HotCellValue);
     }
 
     /// Stores a configured game in a slot of the game table.

@@ -32,7 +32,7 @@ class HistoryEdits : public testing::Test {
         support::SetUpGame(game);
         support::SetUpDraws(draws);
         frmMainForm.logLastColumn = appState.totalPicks;
-        frmMainForm.grdHist.cellText = LogCellValue;
+        frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
         BuildHistoryView();
     }
 
@@ -168,7 +168,7 @@ TEST(QuirkLogDirty1, TypingAloneLeavesTheHistoryAsCleanAsItWas) {
     support::SetUpGame(NumberGame().Picks(3).From(1).To(9));
     support::SetUpDraws(twoDraws);
     frmMainForm.logLastColumn = 3;
-    frmMainForm.grdHist.cellText = LogCellValue;
+    frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
     frmMainForm.grdHist.edited = PostLogEdit;
     BuildHistoryView();
     frmMainForm.grdHist.GoToColumn(1);

@@ -2,30 +2,17 @@
 
 #include "forms/MainForm.h"
 #include "plays/PlayFile.h"
+#include "support/IdleGridView.h"
 
 #include <gtest/gtest.h>
-
-#include <optional>
 
 namespace ballhaven {
 namespace {
 
 /// A board that only counts how often it is read again.
-class CountingBoard : public platform::GridView {
+class CountingBoard : public support::IdleGridView {
   public:
-    void Refresh() override {}
-    void TakeFocus() override {}
-    void BringToFront() override {}
-    [[nodiscard]] platform::Bounds ScreenPlace() const override { return {}; }
     void ReadAgain() override { ++readings; }
-    void Repaint() override {}
-    void ShowCurrentCell() override {}
-    bool EndEdit() override { return true; }
-    void SelectCellText() override {}
-    [[nodiscard]] bool HasSelectedText() const override { return false; }
-    [[nodiscard]] int FirstVisibleRow() const override { return 0; }
-    [[nodiscard]] int VisibleRows() const override { return 0; }
-    [[nodiscard]] std::optional<int> RowTop(int) const override { return {}; }
 
     int readings = 0;
 };

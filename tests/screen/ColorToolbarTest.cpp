@@ -253,9 +253,9 @@ class ColorToolbarOfALongLog : public ColorToolbar {
 
 TEST_F(ColorToolbarOfALongLog, ApplyingTheColoursReadsNoRowAgain) {
     int readsOfFirstRow = 0;
-    frmMainForm.grdHist.cellText = [&readsOfFirstRow, read = frmMainForm.grdHist.cellText](int row, int column) {
-        readsOfFirstRow += row == 0 ? 1 : 0;
-        return read(row, column);
+    frmMainForm.grdHist.cellText = [&, read = frmMainForm.grdHist.cellText](const platform::GridCell& cell) {
+        readsOfFirstRow += cell.row == 0 ? 1 : 0;
+        return read(cell);
     };
     TypeInBox("txtHiLite(0)", "7\r");
     EXPECT_EQ(CellColor("grdHist", 55, 1), magenta);

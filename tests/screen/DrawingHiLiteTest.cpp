@@ -22,7 +22,7 @@ class DrawingHiLite : public testing::Test {
   protected:
     static void Show(const support::Game& game, const std::vector<DrawPicks>& draws) {
         support::StartWith(game);
-        frmMainForm.grdHist.cellText = LogCellValue;
+        frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
         support::ShowDraws(draws);
     }
 
@@ -145,7 +145,7 @@ TEST_F(DrawingHiLite, TheTextsOfTheBoxesAreNotCompared) {
 // Not a bug: HILITE-BLANK-1 in docs/not-bugs.md.
 TEST(QuirkHiLiteBlank1, ADrawWithABlankPickIsHiLitedAgainByEachClick) {
     support::StartWith(NumberGame().Picks(2));
-    frmMainForm.grdHist.cellText = LogCellValue;
+    frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
     support::ShowDraws({{7, -1}});
     for (int click = 0; click < 3; ++click) {
         HiLiteDrawing();

@@ -62,7 +62,7 @@ HistoryLogTest::HistoryLogTest() : servicesBefore(platform::services) {
 void HistoryLogTest::StartAgain() const {
     ResetMainForm();
     appState.programDirectory = directory.Path();
-    frmMainForm.grdHist.cellText = LogCellValue;
+    frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
     frmMainForm.grdHist.acceptEdit = IsPickInRange;
     frmMainForm.grdHist.edited = [](int column, const std::string& text) {
         PostLogEdit(column, text);
@@ -88,7 +88,7 @@ void HistoryLogTest::ShowLog(const Game& game, const std::vector<Draw>& draws) c
 
 void HistoryLogTest::GoToDate(const std::string& date) {
     for (int row = 0; row < frmMainForm.grdHist.RowCount(); ++row) {
-        if (frmMainForm.grdHist.cellText(row, 0) == date) {
+        if (frmMainForm.grdHist.cellText({datePane, row, 0}) == date) {
             frmMainForm.grdHist.GoToRow(row);
             return;
         }
@@ -99,7 +99,7 @@ void HistoryLogTest::GoToDate(const std::string& date) {
 std::vector<std::string> HistoryLogTest::ShownDates() {
     std::vector<std::string> dates;
     for (int row = 0; row < frmMainForm.grdHist.RowsRead(); ++row) {
-        dates.push_back(frmMainForm.grdHist.cellText(row, 0).value_or("none"));
+        dates.push_back(frmMainForm.grdHist.cellText({datePane, row, 0}).value_or("none"));
     }
     return dates;
 }

@@ -18,6 +18,12 @@ void Grid::AddPane(int firstColumn, int lastColumn) {
     ShowChange();
 }
 
+void Grid::AddBoards(int count) {
+    for (int board = 0; board < count; ++board) {
+        AddPane(0, ColumnCount() - 1);
+    }
+}
+
 void Grid::SetRowCount(int count) {
     const bool hadNoRow = currentRow < 0;
     rowCount = count;
@@ -30,7 +36,7 @@ int Grid::RowsRead() const {
         return 0;
     }
     int rows = 0;
-    while (rows < rowCount && cellText(rows, panes.front().firstColumn)) {
+    while (rows < rowCount && cellText({0, rows, panes.front().firstColumn})) {
         ++rows;
     }
     return rows;
@@ -49,7 +55,7 @@ void Grid::GoToPane(int pane) {
         return;
     }
     const GridPane& wanted = Pane(pane);
-    Move(pane, currentRow, wanted.Has(currentColumn) ? currentColumn : wanted.firstColumn);
+    Move({pane, currentRow, wanted.Has(currentColumn) ? currentColumn : wanted.firstColumn});
 }
 
 void Grid::GoTo(int row, int column) {
@@ -61,20 +67,21 @@ void Grid::GoTo(int row, int column) {
         const auto found = std::ranges::find_if(panes, [column](const GridPane& each) { return each.Has(column); });
         pane = found == panes.end() ? currentPane : static_cast<int>(found - panes.begin());
     }
-    Move(pane, row, column);
+    Move({pane, row, column});
 }
 
-void Grid::MoveByUser(int pane, int row, int column) {
-    Move(pane, row, column);
+void Grid::GoTo(const GridCell& cell) {
+    if (EndEdit()) {
+        Move(cell);
+    }
 }
 
-void Grid::Move(int pane, int row, int column) {
-    const int wantedRow = rowCount == 0 ? -1 : std::clamp(row, 0, rowCount - 1);
-    const int wantedColumn = std::clamp(column, 0, std::max(0, ColumnCount() - 1));
-    const bool moves = pane != currentPane || wantedRow != currentRow || wantedColumn != currentColumn;
-    currentPane = pane;
-    currentRow = wantedRow;
-    currentColumn = wantedColumn;
+void Grid::Move(const GridCell& cell) {
+    const GridCell before = CurrentCell();
+    currentPane = std::clamp(cell.pane, 0, std::max(0, PaneCount() - 1));
+    currentRow = rowCount == 0 ? -1 : std::clamp(cell.row, 0, rowCount - 1);
+    currentColumn = std::clamp(cell.column, 0, std::max(0, ColumnCount() - 1));
+    const bool moves = CurrentCell() != before;
     if (view != nullptr) {
         Widget()->ShowCurrentCell();
     }
@@ -87,7 +94,7 @@ std::string Grid::Text(int column) const {
     if (currentRow < 0 || !cellText) {
         return {};
     }
-    return cellText(currentRow, column).value_or(std::string());
+    return cellText({currentPane, currentRow, column}).value_or(std::string());
 }
 
 bool Grid::CanType(int column) const {
@@ -140,6 +147,19 @@ int Grid::VisibleRows() const {
 
 std::optional<int> Grid::RowTop(int row) const {
     return view != nullptr ? Widget()->RowTop(row) : std::nullopt;
+}
+
+int Grid::PaneLeft(int pane) const {
+    if (view != nullptr) {
+        return Widget()->PaneLeft(pane);
+    }
+    int left = 0;
+    for (int before = 0; before < pane; ++before) {
+        for (int column = Pane(before).firstColumn; column <= Pane(before).lastColumn; ++column) {
+            left += Column(column).visible ? *Column(column).width : 0;
+        }
+    }
+    return left;
 }
 
 void Grid::SwitchOff() {

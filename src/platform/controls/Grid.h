@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/Controls.h"
+#include "platform/controls/GridCell.h"
 #include "platform/controls/GridColumns.h"
 #include "platform/controls/GridView.h"
 
@@ -15,7 +16,11 @@ namespace ballhaven::platform {
 enum class GridKey { Insert, Left, Right, Tab, Other };
 
 /// A grid without storage of its own: it asks its owner for the text and the colours of a cell as it draws it, and
-/// keeps no copy. Rows and columns count from 0; a row or column of -1 is none.
+/// keeps no copy. Rows, columns and panes count from 0; a row or column of -1 is none.
+///
+/// Its panes stand side by side and share the rows. Each shows a run of the columns: either runs of their own, so that
+/// the panes together are one table, or each the same one, as boards of one kind. Owners are told the pane of a cell
+/// with its row and its column, and a pane's column is the grid's own: the third column of each board is column 2.
 ///
 /// Notices of one mouse click: `mousePress`, before anything moves; then, at the release, `click`, `currentCellChanged`
 /// if the current cell changed, and `settled`. Of a key: `keyDown`, then `currentCellChanged`. A move by the program
@@ -24,10 +29,11 @@ class Grid : public Control {
   public:
     Grid() : Control(ControlKind::Grid) {}
 
-    /// Gives the grid its columns, without panes, and then its panes, each with its first and last column; for the
-    /// layout.
+    /// Gives the grid its columns, without panes, and then its panes, each with its first and last column, or boards,
+    /// which are panes with all columns; for the layout.
     void SetColumns(int count);
     void AddPane(int firstColumn, int lastColumn);
+    void AddBoards(int count);
 
     [[nodiscard]] GridColumn& Column(int column) { return columns.at(static_cast<std::size_t>(column)); }
     [[nodiscard]] const GridColumn& Column(int column) const { return columns.at(static_cast<std::size_t>(column)); }
@@ -47,6 +53,7 @@ class Grid : public Control {
     [[nodiscard]] int CurrentPane() const { return currentPane; }
     [[nodiscard]] int CurrentRow() const { return currentRow; }
     [[nodiscard]] int CurrentColumn() const { return currentColumn; }
+    [[nodiscard]] GridCell CurrentCell() const { return {currentPane, currentRow, currentColumn}; }
 
     /// Moves the current cell. A row or column outside the grid is held at its ends; a column is looked for in the
     /// current pane first; a pane that does not show the current column takes its own first column. An open editor is
@@ -56,11 +63,12 @@ class Grid : public Control {
     void GoToColumn(int column);
     void GoToPane(int pane);
     void GoTo(int row, int column);
+    void GoTo(const GridCell& cell);
 
     /// The user's move to a cell, for the widget: it ends no editor. Reports a change.
-    void MoveByUser(int pane, int row, int column);
+    void MoveByUser(const GridCell& cell) { Move(cell); }
 
-    /// Text of a column in the current row as its owner answers it; empty where there is none.
+    /// Text of a column in the current pane and row as its owner answers it; empty where there is none.
     [[nodiscard]] std::string Text(int column) const;
 
     /// The end of an edit of the current row: `acceptEdit` may refuse the text; if it passes, `edited` follows. Returns
@@ -89,6 +97,10 @@ class Grid : public Control {
     [[nodiscard]] int VisibleRows() const;
     [[nodiscard]] std::optional<int> RowTop(int row) const;
 
+    /// Left edge of a pane in twips right of the grid's own. Without a window nothing stands around and between the
+    /// panes.
+    [[nodiscard]] int PaneLeft(int pane) const;
+
     /// Off, the grid neither reads nor reports; an open editor is ended before. The calls nest: each `SwitchOff` wants
     /// its `SwitchOn`.
     void SwitchOff();
@@ -100,11 +112,16 @@ class Grid : public Control {
     Property<bool> showsRowMargin{*this, false};  ///< the row-selector margin at the left
     Property<int> rowHeight{*this, 225};          ///< in twips; the heading row has always 225
 
+    int rowNameColumn = -1;  ///< its text names a row to assistive tools; -1 for none. Fixed by the layout
+
     /// The text of a cell, a null ending the reading.
-    std::function<std::optional<std::string>(int row, int column)> cellText;
+    std::function<std::optional<std::string>(const GridCell& cell)> cellText;
 
     /// Changes the colours of a cell of a styled column.
-    std::function<void(int row, int column, CellStyle& style)> cellStyle;
+    std::function<void(const GridCell& cell, CellStyle& style)> cellStyle;
+
+    /// What assistive tools are told of a cell instead of its text, such as "17, chosen"; none where the text says it.
+    std::function<std::string(const GridCell& cell)> cellDescription;
 
     /// A press of a mouse button, in twips from the grid's top left corner.
     std::function<void(int x, int y)> mousePress;
@@ -128,7 +145,7 @@ class Grid : public Control {
     Handler painted;
 
   private:
-    void Move(int pane, int row, int column);
+    void Move(const GridCell& cell);
     [[nodiscard]] GridView* Widget() const { return static_cast<GridView*>(view); }
 
     std::deque<GridColumn> columns;

@@ -20,6 +20,7 @@ class GridColumn {
   public:
     explicit GridColumn(const Shown& grid)
         : heading(grid),
+          accessibleHeading(grid),
           width(grid, 600),
           visible(grid, true),
           locked(grid, false),
@@ -29,7 +30,8 @@ class GridColumn {
           hasButton(grid, false) {}
 
     Property<std::string> heading;
-    Property<int> width;  ///< in twips
+    Property<std::string> accessibleHeading;  ///< what assistive tools are told where the heading does not say it
+    Property<int> width;                      ///< in twips
     Property<bool> visible;
     Property<bool> locked;       ///< nothing can be typed in it
     Property<bool> focusable;    ///< its cells can become current
@@ -46,7 +48,8 @@ class GridPane {
           lastColumn(last),
           columnsWide(grid, 0),
           locked(grid, false),
-          marksCurrentCell(grid, true) {}
+          marksCurrentCell(grid, true),
+          accessibleName(grid) {}
 
     [[nodiscard]] bool Has(int column) const { return firstColumn <= column && column <= lastColumn; }
 
@@ -58,6 +61,9 @@ class GridPane {
     Property<int> columnsWide;
     Property<bool> locked;            ///< nothing can be typed in it
     Property<bool> marksCurrentCell;  ///< its current cell is marked; else only the row is
+
+    /// What a person would call a board; other panes need no name of their own.
+    Property<std::string> accessibleName;
 };
 
 }  // namespace ballhaven::platform

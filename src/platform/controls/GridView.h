@@ -36,6 +36,9 @@ class GridView : public ControlView {
 
     /// Upper edge of a row in twips below the grid's own; none for a row outside the visible part.
     [[nodiscard]] virtual std::optional<int> RowTop(int row) const = 0;
+
+    /// Left edge of a pane in twips right of the grid's own.
+    [[nodiscard]] virtual int PaneLeft(int pane) const = 0;
 };
 
 }  // namespace ballhaven::platform

@@ -1,5 +1,7 @@
 #include "platform/controls/Grid.h"
 
+#include "support/IdleGridView.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -19,26 +21,20 @@ class GridValue : public testing::Test {
         grid.AddPane(1, 3);
         grid.Pane(0).locked = true;
         grid.Column(3).locked = true;
-        grid.cellText = [this](int row, int column) -> std::optional<std::string> {
-            if (row >= rowsKnown) {
+        grid.cellText = [this](const GridCell& cell) -> std::optional<std::string> {
+            if (cell.row >= rowsKnown) {
                 return std::nullopt;
             }
-            return std::to_string(row) + "/" + std::to_string(column);
+            return std::to_string(cell.row) + "/" + std::to_string(cell.column);
         };
         grid.currentCellChanged = [this] { notices.emplace_back("change"); };
         grid.SetRowCount(5);
-    }
-
-    [[nodiscard]] std::vector<int> Place() const {
-        return {grid.CurrentPane(), grid.CurrentRow(), grid.CurrentColumn()};
     }
 
     Grid grid;
     int rowsKnown = 5;
     Texts notices;
 };
-
-using Cell = std::vector<int>;
 
 TEST_F(GridValue, AGridWithoutRowsHasNoCurrentRow) {
     Grid empty;
@@ -51,7 +47,7 @@ TEST_F(GridValue, AGridWithoutRowsHasNoCurrentRow) {
 }
 
 TEST_F(GridValue, ItsFirstRowsMakeRowZeroTheCurrentOneWithoutANotice) {
-    EXPECT_EQ(Place(), (Cell{0, 0, 0}));
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{0, 0, 0}));
     EXPECT_EQ(notices, Texts{});
 }
 
@@ -97,15 +93,15 @@ TEST_F(GridValue, AColumnOutsideTheGridIsHeldAtItsEnds) {
 
 TEST_F(GridValue, AMoveToAColumnTakesThePaneThatShowsIt) {
     grid.GoToColumn(2);
-    EXPECT_EQ(Place(), (Cell{1, 0, 2}));
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{1, 0, 2}));
     grid.GoToColumn(0);
-    EXPECT_EQ(Place(), (Cell{0, 0, 0}));
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{0, 0, 0}));
 }
 
 TEST_F(GridValue, AMoveToAnotherPaneTakesItsFirstColumn) {
     grid.GoToPane(1);
 
-    EXPECT_EQ(Place(), (Cell{1, 0, 1}));
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{1, 0, 1}));
 }
 
 TEST_F(GridValue, AMoveToThePaneOfTheCurrentColumnStaysThere) {
@@ -113,7 +109,7 @@ TEST_F(GridValue, AMoveToThePaneOfTheCurrentColumnStaysThere) {
 
     grid.GoToPane(1);
 
-    EXPECT_EQ(Place(), (Cell{1, 0, 2}));
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{1, 0, 2}));
 }
 
 TEST_F(GridValue, RowsAreReadUpToTheFirstNull) {
@@ -199,7 +195,7 @@ TEST_F(GridValue, WhileOffItMovesWithoutANotice) {
 
     grid.GoTo(3, 2);
 
-    EXPECT_EQ(Place(), (Cell{1, 3, 2}));
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{1, 3, 2}));
     EXPECT_EQ(notices, Texts{});
 }
 
@@ -232,12 +228,8 @@ TEST_F(GridValue, WithoutAWindowAllRowsAreInView) {
 }
 
 /// A widget that keeps its editor open until it is told otherwise.
-class StubbornView : public GridView {
+class StubbornView : public support::IdleGridView {
   public:
-    void Refresh() override {}
-    void TakeFocus() override {}
-    void BringToFront() override {}
-    [[nodiscard]] Bounds ScreenPlace() const override { return {}; }
     void ReadAgain() override { ++readings; }
     void Repaint() override { ++repaints; }
     void ShowCurrentCell() override { ++shown; }
@@ -245,11 +237,6 @@ class StubbornView : public GridView {
         ++ends;
         return !refuses;
     }
-    void SelectCellText() override {}
-    [[nodiscard]] bool HasSelectedText() const override { return false; }
-    [[nodiscard]] int FirstVisibleRow() const override { return 0; }
-    [[nodiscard]] int VisibleRows() const override { return 0; }
-    [[nodiscard]] std::optional<int> RowTop(int) const override { return std::nullopt; }
 
     bool refuses = false;
     int readings = 0;
@@ -274,7 +261,7 @@ TEST_F(ShownGridValue, AnOpenEditorIsEndedBeforeAMoveByTheProgram) {
 }
 
 TEST_F(ShownGridValue, AMoveByTheUserEndsNoEditor) {
-    grid.MoveByUser(0, 2, 0);
+    grid.MoveByUser({0, 2, 0});
 
     EXPECT_EQ(view.ends, 0);
     EXPECT_EQ(grid.CurrentRow(), 2);
@@ -288,7 +275,7 @@ TEST_F(ShownGridValue, ARefusedValueStopsEveryMove) {
     grid.GoToPane(1);
     grid.GoTo(2, 2);
 
-    EXPECT_EQ(Place(), (Cell{0, 0, 0}));
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{0, 0, 0}));
     EXPECT_EQ(notices, Texts{});
 }
 
@@ -324,6 +311,95 @@ TEST_F(ShownGridValue, OnItIsReadAndRepaintedOnDemand) {
 
     EXPECT_EQ(view.readings, 1);
     EXPECT_EQ(view.repaints, 1);
+}
+
+/// Three boards of four columns, the last of them hidden.
+class GridBoards : public testing::Test {
+  protected:
+    GridBoards() {
+        grid.SetColumns(4);
+        grid.AddBoards(3);
+        for (int column = 0; column < 4; ++column) {
+            grid.Column(column).width = 220;
+        }
+        grid.Column(3).visible = false;
+        grid.cellText = [this](const GridCell& cell) {
+            asked.push_back(cell);
+            return std::to_string(cell.pane) + "/" + std::to_string(cell.row) + "/" + std::to_string(cell.column);
+        };
+        grid.currentCellChanged = [this] { moves.push_back(grid.CurrentCell()); };
+        grid.SetRowCount(5);
+    }
+
+    using Cells = std::vector<GridCell>;
+
+    Grid grid;
+    Cells asked;
+    Cells moves;
+};
+
+TEST_F(GridBoards, EachIsAPaneWithAllColumns) {
+    ASSERT_EQ(grid.PaneCount(), 3);
+    for (int board = 0; board < 3; ++board) {
+        EXPECT_EQ(grid.Pane(board).firstColumn, 0);
+        EXPECT_EQ(grid.Pane(board).lastColumn, 3);
+    }
+}
+
+TEST_F(GridBoards, TheCellsOfEachCountTheirColumnsFromZero) {
+    grid.GoTo({2, 4, 1});
+
+    EXPECT_EQ(grid.CurrentPane(), 2);
+    EXPECT_EQ(grid.CurrentRow(), 4);
+    EXPECT_EQ(grid.CurrentColumn(), 1);
+    EXPECT_EQ(grid.Text(0), "2/4/0");
+}
+
+TEST_F(GridBoards, AMoveToAColumnOrRowStaysOnItsBoard) {
+    grid.GoToPane(1);
+
+    grid.GoToColumn(2);
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{1, 0, 2}));
+    grid.GoTo(3, 0);
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{1, 3, 0}));
+}
+
+TEST_F(GridBoards, AMoveToAnotherBoardKeepsRowAndColumnAndIsAChange) {
+    grid.GoTo(3, 2);
+    moves.clear();
+
+    grid.GoToPane(2);
+
+    EXPECT_EQ(moves, (Cells{{2, 3, 2}}));
+}
+
+TEST_F(GridBoards, ACellOutsideIsHeldAtTheEnds) {
+    grid.GoTo({7, 99, 99});
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{2, 4, 3}));
+    grid.GoTo({-1, -1, -1});
+    EXPECT_EQ(grid.CurrentCell(), (GridCell{0, 0, 0}));
+}
+
+TEST_F(GridBoards, TheFirstOneTellsHowManyRowsThereAre) {
+    EXPECT_EQ(grid.RowsRead(), 5);
+
+    EXPECT_EQ(asked, (Cells{{0, 0, 0}, {0, 1, 0}, {0, 2, 0}, {0, 3, 0}, {0, 4, 0}}));
+}
+
+TEST_F(GridBoards, WithoutAWindowTheyStandSideBySideAsWideAsTheirVisibleColumns) {
+    EXPECT_EQ(grid.PaneLeft(0), 0);
+    EXPECT_EQ(grid.PaneLeft(1), 660);
+    EXPECT_EQ(grid.PaneLeft(2), 1320);
+}
+
+TEST(RoutineOfRowAndColumn, ServesTheCellsOfAnyPane) {
+    const auto text = ByRowAndColumn([](int row, int column) { return row * 10 + column; });
+    const auto style = ByRowAndColumn([](int row, int, CellStyle& cell) { cell.background = Color(row, 0, 0); });
+
+    EXPECT_EQ(text(GridCell{3, 4, 2}), 42);
+    CellStyle styled;
+    style(GridCell{3, 4, 2}, styled);
+    EXPECT_EQ(styled.background, Color(4, 0, 0));
 }
 
 }  // namespace

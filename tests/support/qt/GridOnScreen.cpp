@@ -2,7 +2,6 @@
 
 #include "platform/Boxes.h"
 
-#include <QAbstractProxyModel>
 #include <QApplication>
 #include <QTest>
 #include <QWindow>
@@ -36,12 +35,12 @@ const char* KeyName(platform::GridKey key) {
 GridOnScreen::GridOnScreen() : before(new QLineEdit(&window)), after(nullptr) {
     before->setGeometry(10, 2, 100, 16);
     grid.name = "grid";
-    grid.cellText = [this](int row, int column) -> std::optional<std::string> {
+    grid.cellText = [this](const platform::GridCell& cell) -> std::optional<std::string> {
         ++cellsRead;
-        if (row >= static_cast<int>(cells.size())) {
+        if (cell.row >= static_cast<int>(cells.size())) {
             return std::nullopt;
         }
-        return cells[static_cast<std::size_t>(row)].at(static_cast<std::size_t>(column));
+        return cells[static_cast<std::size_t>(cell.row)].at(static_cast<std::size_t>(cell.column));
     };
     ListenToMouse();
     ListenToEdits();
@@ -109,14 +108,16 @@ void GridOnScreen::Show() {
 
 QPoint GridOnScreen::MiddleOf(int row, int column) const {
     for (int pane = 0; pane < grid.PaneCount(); ++pane) {
-        const QTableView* view = PaneView(pane);
-        const auto* columns = qobject_cast<const QAbstractProxyModel*>(view->model());
-        const QModelIndex cell = columns->mapFromSource(columns->sourceModel()->index(row, column));
-        if (cell.isValid()) {
-            return view->viewport()->mapTo(widget, view->visualRect(cell).center());
+        if (grid.Pane(pane).Has(column)) {
+            return MiddleOf({pane, row, column});
         }
     }
     return {-1, -1};
+}
+
+QPoint GridOnScreen::MiddleOf(const platform::GridCell& cell) const {
+    const platform::GridPaneView* view = PaneView(cell.pane);
+    return view->viewport()->mapTo(widget, view->CellPlace(cell).center());
 }
 
 void GridOnScreen::Click(QPoint position) {
@@ -190,6 +191,7 @@ LogOnScreen::LogOnScreen() {
     grid.Pane(1).columnsWide = used;
     grid.showsRowMargin = true;
     grid.accessibleName = "Log";
+    grid.rowNameColumn = 0;
     grid.Column(0).heading = "Historical Log";
     grid.Column(0).width = 1500;
     grid.Column(0).hasButton = true;
@@ -202,6 +204,39 @@ LogOnScreen::LogOnScreen() {
         }
     }
     grid.SetRowCount(40);
+}
+
+BoardsOnScreen::BoardsOnScreen() {
+    constexpr int boards = 5;
+    constexpr int columns = 9;
+    constexpr int rows = 24;
+    grid.bounds = {150, 300, 220 * columns * boards + 160, 4660};
+    grid.SetColumns(columns);
+    grid.AddBoards(boards);
+    grid.showsHeadings = false;
+    grid.rowHeight = 180;
+    grid.accessibleName = "Boards";
+    for (int board = 0; board < boards; ++board) {
+        grid.Pane(board).locked = true;
+        grid.Pane(board).accessibleName = std::string("Line ") + static_cast<char>('A' + board);
+    }
+    for (int column = 0; column < columns; ++column) {
+        grid.Column(column).width = 220;
+        grid.Column(column).styled = true;
+    }
+    grid.cellText = [](const platform::GridCell& cell) {
+        return std::string(1, static_cast<char>('A' + cell.pane)) + std::to_string(cell.row * columns + cell.column);
+    };
+    grid.cellStyle = [this](const platform::GridCell& cell, platform::CellStyle& style) {
+        if (cell == chosen) {
+            style = {platform::white, platform::black};
+        }
+    };
+    grid.currentCellChanged = [this] {
+        notices.push_back("change " + std::to_string(grid.CurrentPane()) + "," +
+                          Numbers(grid.CurrentRow(), grid.CurrentColumn()));
+    };
+    grid.SetRowCount(rows);
 }
 
 }  // namespace ballhaven::support

@@ -26,6 +26,7 @@ class GridOnScreen {
 
     /// The middle of a cell in pixels from the grid's top left corner.
     [[nodiscard]] QPoint MiddleOf(int row, int column) const;
+    [[nodiscard]] QPoint MiddleOf(const platform::GridCell& cell) const;
 
     void Click(QPoint position);
     void ClickCell(int row, int column) { Click(MiddleOf(row, column)); }
@@ -48,7 +49,7 @@ class GridOnScreen {
 
     /// Takes what has been written down since the last time.
     [[nodiscard]] std::vector<std::string> TakeNotices();
-    [[nodiscard]] platform::GridCell Current() const { return platform::CurrentCell(grid); }
+    [[nodiscard]] platform::GridCell Current() const { return grid.CurrentCell(); }
 
     QWidget window;
     QLineEdit* before;
@@ -80,6 +81,16 @@ class GridOnScreen {
 class LogOnScreen : public GridOnScreen {
   public:
     LogOnScreen();
+};
+
+/// Five boards of 24 rows and nine columns, whose cells tell their board and their number: the first is "A0". "change"
+/// is told with the board before row and column.
+class BoardsOnScreen : public GridOnScreen {
+  public:
+    BoardsOnScreen();
+
+    /// The one cell that is white on black.
+    platform::GridCell chosen;
 };
 
 }  // namespace ballhaven::support

@@ -1,6 +1,7 @@
 #include "platform/qt/grid/GridCellEditor.h"
 
 #include "platform/Guard.h"
+#include "platform/qt/grid/GridNames.h"
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QFocusEvent>
@@ -19,9 +20,9 @@ GridCellEditor::GridCellEditor(Grid& editedGrid) : grid(editedGrid) {
 
 void GridCellEditor::Open(QWidget& viewport, const QRect& place, const QString& text, Start start) {
     open = true;
-    cell = CurrentCell(grid);
+    cell = grid.CurrentCell();
     setParent(&viewport);
-    setAccessibleName(ToQString(*grid.Column(cell.column).heading));
+    setAccessibleName(NameOfEditor(grid, cell));
     setText(text);
     setModified(start == Start::Typed);
     PutOver(place);
@@ -56,10 +57,12 @@ bool GridCellEditor::Leave() {
         return false;
     }
     checking = false;
-    if (accepted || CurrentCell(grid) != cell) {
+    if (accepted || grid.CurrentCell() != cell) {
         Close();
     } else {
+        refused();
         setFocus(Qt::OtherFocusReason);
+        selectAll();
     }
     return !open;
 }

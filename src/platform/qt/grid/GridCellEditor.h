@@ -37,6 +37,9 @@ class GridCellEditor : public QLineEdit {
     /// A key; true when it has been served and is not for the text.
     std::function<bool(QKeyEvent& key)> keyPressed;
 
+    /// The grid has refused the text; the editor takes the keyboard again, with its whole text selected.
+    std::function<void()> refused;
+
     /// The keyboard has gone to another control by the given reason, while the editor was open.
     std::function<void(Qt::FocusReason reason)> focusLost;
 

@@ -1,6 +1,5 @@
 #include "platform/qt/grid/GridCellPainter.h"
 
-#include "platform/qt/grid/GridNavigation.h"
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QGuiApplication>
@@ -51,14 +50,13 @@ void DrawMark(QPainter& painter, const QRect& cell, bool hasFocus) {
 
 }  // namespace
 
-GridCellPainter::GridCellPainter(const Grid& shownGrid, int shownPane, const GridModel& shownModel,
-                                 const PaneColumns& paneColumns)
-    : grid(shownGrid), pane(shownPane), model(shownModel), columns(paneColumns) {}
+GridCellPainter::GridCellPainter(const Grid& shownGrid, const GridPaneModel& shownCells)
+    : grid(shownGrid), cells(shownCells) {}
 
 void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const QModelIndex cell = columns.mapToSource(index);
-    const GridColumn& column = grid.Column(cell.column());
-    const CellStyle style = model.StyleOf(cell.row(), cell.column());
+    const GridCell cell = cells.CellOf(index);
+    const GridColumn& column = grid.Column(cell.column);
+    const CellStyle style = cells.StyleOf(cell);
     painter->fillRect(option.rect, ToQColor(style.background));
     DrawLines(*painter, option.rect, lineColor);
 
@@ -70,13 +68,12 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
     painter->setPen(ToQColor(style.foreground));
     painter->drawText(text,
                       Qt::AlignVCenter | Qt::TextSingleLine | (column.hasButton ? Qt::AlignLeft : Qt::AlignHCenter),
-                      model.CellText(cell.row(), cell.column()));
+                      cells.CellText(cell));
 
-    if (column.hasButton && cell.row() == grid.CurrentRow()) {
+    if (column.hasButton && cell.row == grid.CurrentRow()) {
         DrawButton(*painter, ButtonIn(option.rect));
     }
-    const bool current = CurrentCell(grid) == GridCell{pane, cell.row(), cell.column()};
-    if (current && grid.Pane(pane).marksCurrentCell) {
+    if (cell == grid.CurrentCell() && grid.Pane(cell.pane).marksCurrentCell) {
         DrawMark(*painter, option.rect, option.state.testFlag(QStyle::State_HasFocus));
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/controls/Grid.h"
-#include "platform/qt/grid/GridModel.h"
+#include "platform/qt/grid/GridPaneModel.h"
 
 #include <QHeaderView>
 #include <QStyledItemDelegate>
@@ -11,7 +11,7 @@ namespace ballhaven::platform {
 /// Draws the cells of one pane of a grid. Text and colours are asked of the grid's owner for each cell as it is drawn.
 class GridCellPainter : public QStyledItemDelegate {
   public:
-    GridCellPainter(const Grid& shownGrid, int shownPane, const GridModel& shownModel, const PaneColumns& paneColumns);
+    GridCellPainter(const Grid& shownGrid, const GridPaneModel& shownCells);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
@@ -20,9 +20,7 @@ class GridCellPainter : public QStyledItemDelegate {
 
   private:
     const Grid& grid;
-    const int pane;
-    const GridModel& model;
-    const PaneColumns& columns;
+    const GridPaneModel& cells;
 };
 
 /// The headings of one pane.

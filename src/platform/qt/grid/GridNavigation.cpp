@@ -30,13 +30,13 @@ bool IsLeftOf(const GridCell& one, const GridCell& other) {
 
 std::optional<GridCell> NextStop(const Grid& grid) {
     const auto stops = Stops(grid, grid.CurrentRow());
-    const auto found = std::ranges::upper_bound(stops, CurrentCell(grid), IsLeftOf);
+    const auto found = std::ranges::upper_bound(stops, grid.CurrentCell(), IsLeftOf);
     return found == stops.end() ? std::nullopt : std::optional(*found);
 }
 
 std::optional<GridCell> PreviousStop(const Grid& grid) {
     const auto stops = Stops(grid, grid.CurrentRow());
-    const auto found = std::ranges::lower_bound(stops, CurrentCell(grid), IsLeftOf);
+    const auto found = std::ranges::lower_bound(stops, grid.CurrentCell(), IsLeftOf);
     return found == stops.begin() ? std::nullopt : std::optional(*std::prev(found));
 }
 
@@ -55,10 +55,6 @@ std::optional<GridCell> EndOfPane(const Grid& grid, bool last, int row) {
 }
 
 }  // namespace
-
-GridCell CurrentCell(const Grid& grid) {
-    return {grid.CurrentPane(), grid.CurrentRow(), grid.CurrentColumn()};
-}
 
 GridKey KeyOf(const QKeyEvent& key) {
     switch (key.key()) {
@@ -86,7 +82,7 @@ bool IsTyping(const QKeyEvent& key) {
 }
 
 std::optional<GridCell> CellByKey(const Grid& grid, const QKeyEvent& key, int rowCount, int pageRows) {
-    const GridCell current = CurrentCell(grid);
+    const GridCell current = grid.CurrentCell();
     if (current.row < 0 || rowCount == 0 || (key.modifiers() & (Qt::AltModifier | Qt::MetaModifier))) {
         return std::nullopt;
     }

@@ -8,17 +8,6 @@
 
 namespace ballhaven::platform {
 
-/// A cell of a grid in one of its panes.
-struct GridCell {
-    int pane = 0;
-    int row = -1;
-    int column = 0;
-
-    bool operator==(const GridCell&) const = default;
-};
-
-[[nodiscard]] GridCell CurrentCell(const Grid& grid);
-
 /// What the owner is told of a key.
 [[nodiscard]] GridKey KeyOf(const QKeyEvent& key);
 

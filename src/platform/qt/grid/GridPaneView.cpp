@@ -8,16 +8,11 @@
 
 namespace ballhaven::platform {
 
-GridPaneView::GridPaneView(Grid& shownGrid, int shownPane, GridModel& model, QWidget* parent)
-    : QTableView(parent),
-      grid(shownGrid),
-      pane(shownPane),
-      rows(model),
-      columns(shownGrid, shownPane, model),
-      painter(shownGrid, shownPane, model, columns) {
+GridPaneView::GridPaneView(Grid& shownGrid, int shownPane, QWidget* parent)
+    : QTableView(parent), grid(shownGrid), pane(shownPane), cells(shownGrid, shownPane), painter(shownGrid, cells) {
     setObjectName(QStringLiteral("%1.pane(%2)").arg(ToQString(grid.name)).arg(pane));
     setHorizontalHeader(new GridHeadings(this));
-    setModel(&columns);
+    setModel(&cells);
     setItemDelegate(&painter);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
@@ -42,45 +37,42 @@ void GridPaneView::Place(const GridMeasures::PanePlace& place) {
     horizontalHeader()->setVisible(grid.showsHeadings);
     horizontalHeader()->setFixedHeight(gridHeadingHeight);
     verticalHeader()->setDefaultSectionSize(RowPixels(grid));
-    columns.ChooseColumns();
-    const int shown = std::min(columns.columnCount(), static_cast<int>(place.columnWidths.size()));
-    for (int column = 0; column < shown; ++column) {
+    if (cells.TakeColumns()) {
+        FollowCurrentCell();
+    }
+    for (int column = 0; column < cells.columnCount(); ++column) {
         horizontalHeader()->resizeSection(column, place.columnWidths[static_cast<std::size_t>(column)]);
     }
     setGeometry(place.place);
     updateGeometries();
 }
 
+void GridPaneView::TakeRows(int count) {
+    cells.TakeRows(count);
+    FollowCurrentCell();
+}
+
 void GridPaneView::FollowCurrentCell() {
     following = true;
-    const GridCell current = CurrentCell(grid);
-    selectionModel()->setCurrentIndex(current.pane == pane ? IndexOf(current) : QModelIndex(),
-                                      QItemSelectionModel::NoUpdate);
+    selectionModel()->setCurrentIndex(cells.IndexOf(grid.CurrentCell()), QItemSelectionModel::NoUpdate);
     following = false;
     viewport()->update();
 }
 
 void GridPaneView::ScrollTo(const GridCell& cell) {
-    const QModelIndex index = IndexOf(cell);
+    const QModelIndex index = cells.IndexOf(cell);
     if (index.isValid()) {
         scrollTo(index);
     }
 }
 
-QModelIndex GridPaneView::IndexOf(const GridCell& cell) const {
-    return cell.pane == pane ? columns.mapFromSource(rows.index(cell.row, cell.column)) : QModelIndex();
-}
-
 QRect GridPaneView::CellPlace(const GridCell& cell) const {
-    return visualRect(IndexOf(cell));
+    return visualRect(cells.IndexOf(cell));
 }
 
 std::optional<GridCell> GridPaneView::CellAt(QPoint position) const {
-    const QModelIndex cell = columns.mapToSource(indexAt(position));
-    if (!cell.isValid()) {
-        return std::nullopt;
-    }
-    return GridCell{pane, cell.row(), cell.column()};
+    const QModelIndex index = indexAt(position);
+    return index.isValid() ? std::optional(cells.CellOf(index)) : std::nullopt;
 }
 
 int GridPaneView::WholeRows() const {
@@ -123,8 +115,7 @@ void GridPaneView::scrollContentsBy(int dx, int dy) {
 void GridPaneView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     if (!following && current.isValid()) {
-        const QModelIndex cell = columns.mapToSource(current);
-        movedFromOutside({pane, cell.row(), cell.column()});
+        movedFromOutside(cells.CellOf(current));
     }
 }
 
@@ -133,8 +124,7 @@ bool GridPaneView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*) 
     if (trigger != AllEditTriggers || !index.flags().testFlag(Qt::ItemIsEditable)) {
         return false;
     }
-    const QModelIndex cell = columns.mapToSource(index);
-    movedFromOutside({pane, cell.row(), cell.column()});
+    movedFromOutside(cells.CellOf(index));
     editAsked();
     return true;
 }

@@ -3,8 +3,7 @@
 #include "platform/controls/Grid.h"
 #include "platform/qt/grid/GridCellPainter.h"
 #include "platform/qt/grid/GridMeasures.h"
-#include "platform/qt/grid/GridModel.h"
-#include "platform/qt/grid/GridNavigation.h"
+#include "platform/qt/grid/GridPaneModel.h"
 
 #include <QTableView>
 
@@ -16,10 +15,13 @@ namespace ballhaven::platform {
 /// which alone decides what moves and what is edited.
 class GridPaneView : public QTableView {
   public:
-    GridPaneView(Grid& shownGrid, int shownPane, GridModel& model, QWidget* parent);
+    GridPaneView(Grid& shownGrid, int shownPane, QWidget* parent);
 
     /// Takes over the place of the pane, its columns and the height of the rows.
     void Place(const GridMeasures::PanePlace& place);
+
+    /// Has so many rows from now on.
+    void TakeRows(int count);
 
     /// Makes the grid's current cell the table's own, for assistive tools; none if it is in another pane.
     void FollowCurrentCell();
@@ -32,6 +34,9 @@ class GridPaneView : public QTableView {
 
     /// The cell at a position in the viewport.
     [[nodiscard]] std::optional<GridCell> CellAt(QPoint position) const;
+
+    /// Text of a cell of the pane.
+    [[nodiscard]] QString CellText(const GridCell& cell) const { return cells.CellText(cell); }
 
     /// Rows that the viewport holds whole.
     [[nodiscard]] int WholeRows() const;
@@ -61,12 +66,9 @@ class GridPaneView : public QTableView {
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
 
   private:
-    [[nodiscard]] QModelIndex IndexOf(const GridCell& cell) const;
-
     Grid& grid;
     const int pane;
-    GridModel& rows;
-    PaneColumns columns;
+    GridPaneModel cells;
     GridCellPainter painter;
     QSize drawnSize;
     bool following = false;

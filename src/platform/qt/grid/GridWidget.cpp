@@ -1,6 +1,8 @@
 #include "platform/qt/grid/GridWidget.h"
 
+#include "platform/Guard.h"
 #include "platform/qt/grid/GridFrame.h"
+#include "platform/qt/grid/GridNames.h"
 #include "platform/qt/widgets/ControlWidget.h"
 #include "platform/qt/widgets/Conversions.h"
 
@@ -14,7 +16,6 @@ namespace ballhaven::platform {
 GridWidget::GridWidget(Grid& shownGrid, QWidget* parent)
     : QWidget(parent),
       grid(shownGrid),
-      model(shownGrid),
       rowBar(new QScrollBar(Qt::Vertical, this)),
       editor(new GridCellEditor(shownGrid)) {
     rowBar->setObjectName(ToQString(grid.name) + QStringLiteral(".rows"));
@@ -27,6 +28,7 @@ GridWidget::GridWidget(Grid& shownGrid, QWidget* parent)
     editor->setParent(this);
     editor->keyPressed = [this](QKeyEvent& key) { return ServeKey(key); };
     editor->focusLost = [this](Qt::FocusReason reason) { EditorLostFocus(reason); };
+    editor->refused = [this] { ShowEditedCell(); };
     editor->handFocusBack = [this] { TakeFocus(); };
     editor->installEventFilter(this);
     grid.view = this;
@@ -44,7 +46,7 @@ GridWidget::~GridWidget() {
 void GridWidget::AddMissingPanes() {
     while (static_cast<int>(panes.size()) < grid.PaneCount()) {
         const int number = static_cast<int>(panes.size());
-        auto* pane = new GridPaneView(grid, number, model, this);
+        auto* pane = new GridPaneView(grid, number, this);
         auto* bar = new QScrollBar(Qt::Horizontal, this);
         bar->setObjectName(QStringLiteral("%1.columns(%2)").arg(ToQString(grid.name)).arg(number));
         bar->setFocusPolicy(Qt::NoFocus);
@@ -81,22 +83,22 @@ void GridWidget::Refresh() {
     AddMissingPanes();
     NameParts();
     HandOutFocus();
-    if (wasOff || model.IsOutdated()) {
+    if (wasOff || rowsTold != grid.RowCount()) {
         wasOff = false;
         ReadRows();
     } else {
         PlaceParts();
     }
-    if (shownCell != CurrentCell(grid)) {
+    if (shownCell != grid.CurrentCell()) {
         ShowCurrentCell();
     }
     DrawAnew();
 }
 
 void GridWidget::NameParts() {
-    for (std::size_t pane = 0; pane < panes.size(); ++pane) {
-        const QString number = panes.size() > 1 ? QStringLiteral(" %1").arg(pane + 1) : QString();
-        panes[pane]->setAccessibleName(accessibleName() + number);
+    setAccessibleName(NameOfGrid(grid));
+    for (int pane = 0; pane < static_cast<int>(panes.size()); ++pane) {
+        panes[static_cast<std::size_t>(pane)]->setAccessibleName(NameOfPane(grid, pane));
     }
 }
 
@@ -110,16 +112,19 @@ void GridWidget::HandOutFocus() {
 
 void GridWidget::ReadRows() {
     const int firstRow = FirstVisibleRow();
-    model.ReadRows();
+    RunGuarded([this] { rowsRead = grid.RowsRead(); });
+    rowsTold = grid.RowCount();
+    for (GridPaneView* pane : panes) {
+        pane->TakeRows(rowsRead);
+    }
     PlaceParts();
     for (GridPaneView* pane : panes) {
         pane->verticalScrollBar()->setValue(firstRow);
-        pane->FollowCurrentCell();
     }
 }
 
 void GridWidget::PlaceParts() {
-    measures = MeasureGrid(grid, size(), model.rowCount(), style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    measures = MeasureGrid(grid, size(), rowsRead, style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     for (std::size_t pane = 0; pane < panes.size(); ++pane) {
         panes[pane]->Place(measures.panes[pane]);
     }
@@ -166,7 +171,7 @@ void GridWidget::ShowCurrentCell() {
         shownCell = {};
         return;
     }
-    shownCell = CurrentCell(grid);
+    shownCell = grid.CurrentCell();
     const bool hadKeyboard = HasKeyboard();
     for (GridPaneView* pane : panes) {
         pane->FollowCurrentCell();
@@ -200,7 +205,7 @@ int GridWidget::FirstVisibleRow() const {
 }
 
 int GridWidget::VisibleRows() const {
-    return panes.empty() ? 0 : std::min(panes.front()->WholeRows(), model.rowCount() - FirstVisibleRow());
+    return panes.empty() ? 0 : std::min(panes.front()->WholeRows(), rowsRead - FirstVisibleRow());
 }
 
 std::optional<int> GridWidget::RowTop(int row) const {
@@ -209,6 +214,10 @@ std::optional<int> GridWidget::RowTop(int row) const {
         return std::nullopt;
     }
     return ToTwips(measures.rows.top() + line * RowPixels(grid));
+}
+
+int GridWidget::PaneLeft(int pane) const {
+    return ToTwips(measures.panes.at(static_cast<std::size_t>(pane)).place.left());
 }
 
 void GridWidget::TakeFocus() {

@@ -3,7 +3,6 @@
 #include "platform/controls/Grid.h"
 #include "platform/qt/grid/GridCellEditor.h"
 #include "platform/qt/grid/GridMeasures.h"
-#include "platform/qt/grid/GridModel.h"
 #include "platform/qt/grid/GridNavigation.h"
 #include "platform/qt/grid/GridPaneView.h"
 #include "platform/qt/widgets/ControlWidget.h"
@@ -17,7 +16,7 @@
 
 namespace ballhaven::platform {
 
-/// Shows a grid: one table view for each pane, all over one model, scrolled in step by the grid's own scroll bars. The
+/// Shows a grid: one table view for each pane, scrolled in step by the grid's own scroll bars. The
 /// current cell is the grid's; the views only follow it. Mouse and keys of all parts come together here, so that the
 /// notices keep their order.
 class GridWidget : public QWidget, public GridView {
@@ -39,6 +38,7 @@ class GridWidget : public QWidget, public GridView {
     [[nodiscard]] int FirstVisibleRow() const override;
     [[nodiscard]] int VisibleRows() const override;
     [[nodiscard]] std::optional<int> RowTop(int row) const override;
+    [[nodiscard]] int PaneLeft(int pane) const override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -80,18 +80,20 @@ class GridWidget : public QWidget, public GridView {
     void EditorLostFocus(Qt::FocusReason reason);
     void DropComingPress();
     void PutEditorOverCell();
+    void ShowEditedCell();
 
     [[nodiscard]] bool HasKeyboard() const;
     [[nodiscard]] GridPaneView* CurrentPaneView() const;
 
     Grid& grid;
-    GridModel model;
     GridMeasures measures;
     std::vector<GridPaneView*> panes;
     std::vector<QScrollBar*> paneBars;
     QScrollBar* rowBar;
     GridCellEditor* editor;
     GridCell shownCell;
+    int rowsTold = 0;
+    int rowsRead = 0;
     bool wasOff = false;
     bool pressed = false;
     bool pressedTwice = false;

@@ -87,7 +87,7 @@ void GridWidget::FinishClick(QPoint position) {
     }
     if (onButton && grid.dropDown) {
         Report([&] { grid.dropDown(target->column); });
-    } else if (pressedTwice && target && *target == CurrentCell(grid)) {
+    } else if (pressedTwice && target && *target == grid.CurrentCell()) {
         SelectCellText();
     }
 }
@@ -174,17 +174,17 @@ bool GridWidget::ServeCellKey(QKeyEvent& key) {
 }
 
 bool GridWidget::MoveByKey(QKeyEvent& key) {
-    const GridCell before = CurrentCell(grid);
+    const GridCell before = grid.CurrentCell();
     if (!editor->Leave()) {
         return true;
     }
     // What follows an accepted value may have moved to another column already.
     const bool sideways = key.key() == Qt::Key_Left || key.key() == Qt::Key_Right || key.key() == Qt::Key_Tab ||
                           key.key() == Qt::Key_Backtab;
-    if (sideways && CurrentCell(grid) != before) {
+    if (sideways && grid.CurrentCell() != before) {
         return true;
     }
-    if (const auto target = CellByKey(grid, key, model.rowCount(), VisibleRows())) {
+    if (const auto target = CellByKey(grid, key, rowsRead, VisibleRows())) {
         MoveTo(*target);
         return true;
     }
@@ -199,7 +199,7 @@ void GridWidget::MoveTo(const GridCell& cell) {
     if (!grid.IsOn() || !editor->Leave()) {
         return;
     }
-    Report([&] { grid.MoveByUser(cell.pane, cell.row, cell.column); });
+    Report([&] { grid.MoveByUser(cell); });
 }
 
 void GridWidget::MoveFromOutside(const GridCell& cell) {
@@ -216,7 +216,7 @@ void GridWidget::MoveFromOutside(const GridCell& cell) {
 }
 
 void GridWidget::OpenEditor(GridCellEditor::Start start, const std::optional<QString>& typed) {
-    const GridCell cell = CurrentCell(grid);
+    const GridCell cell = grid.CurrentCell();
     GridPaneView* pane = CurrentPaneView();
     if (pane == nullptr || !grid.IsOn() || !grid.CanType(cell.column) || !editor->Leave()) {
         return;
@@ -224,13 +224,20 @@ void GridWidget::OpenEditor(GridCellEditor::Start start, const std::optional<QSt
     pane->ScrollTo(cell);
     const QRect place = pane->CellPlace(cell);
     if (!place.isEmpty()) {
-        editor->Open(*pane->viewport(), place, typed.value_or(model.CellText(cell.row, cell.column)), start);
+        editor->Open(*pane->viewport(), place, typed.value_or(pane->CellText(cell)), start);
     }
 }
 
 void GridWidget::PutEditorOverCell() {
     if (editor->IsOpen() && CurrentPaneView() != nullptr) {
-        editor->PutOver(CurrentPaneView()->CellPlace(CurrentCell(grid)));
+        editor->PutOver(CurrentPaneView()->CellPlace(grid.CurrentCell()));
+    }
+}
+
+void GridWidget::ShowEditedCell() {
+    if (CurrentPaneView() != nullptr) {
+        CurrentPaneView()->ScrollTo(grid.CurrentCell());
+        PutEditorOverCell();
     }
 }
 

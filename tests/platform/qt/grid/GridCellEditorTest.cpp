@@ -356,11 +356,38 @@ TEST_F(GridEditing, EveryTryChecksARefusedValueOnce) {
 TEST_F(GridEditing, ARefusedValueCanBeMended) {
     Type("99");
     Key(Qt::Key_Return);
-    Key(Qt::Key_Backspace);
+    Type("9");
     Key(Qt::Key_Return);
 
     EXPECT_EQ(cells[2][3], "9");
     EXPECT_EQ(boxes, 1);
+}
+
+TEST_F(GridEditing, ARefusedValueIsSelectedWhole) {
+    Type("99");
+    Key(Qt::Key_Return);
+
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_EQ(Editor()->selectedText(), QStringLiteral("99"));
+}
+
+TEST_F(GridEditing, TheCellOfARefusedValueComesBackIntoView) {
+    Type("99");
+    PaneView(0)->verticalScrollBar()->setValue(20);
+    ASSERT_EQ(grid.RowTop(2), std::nullopt);
+
+    Key(Qt::Key_Return);
+
+    EXPECT_TRUE(grid.RowTop(2).has_value());
+    EXPECT_EQ(widget->childAt(MiddleOf(2, 3)), Editor());
+}
+
+TEST_F(GridEditing, TheEditorIsCalledByItsColumnAndItsRow) {
+    grid.Column(3).accessibleHeading = "Pick 3";
+
+    Type("4");
+
+    EXPECT_EQ(Editor()->accessibleName(), QStringLiteral("Pick 3, 01/03/1999"));
 }
 
 TEST_F(GridEditing, ARefusedValueCanBeGivenUp) {

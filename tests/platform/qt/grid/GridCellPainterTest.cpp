@@ -17,9 +17,9 @@ constexpr QRgb paper = 0xFFFFFFFF;
 class GridDrawing : public testing::Test, protected support::LogOnScreen {
   protected:
     GridDrawing() {
-        grid.cellStyle = [this](int row, int column, CellStyle& style) {
-            styled.emplace_back(row, column);
-            if (row == 2 && column <= 6) {
+        grid.cellStyle = [this](const GridCell& cell, CellStyle& style) {
+            styled.emplace_back(cell.row, cell.column);
+            if (cell.row == 2 && cell.column <= 6) {
                 style = {Color(0, 0, 128), Color(255, 255, 0)};
             }
         };

@@ -9,7 +9,7 @@ QKeyEvent Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, con
     return {QEvent::KeyPress, key, modifiers, text};
 }
 
-/// Two boards of three columns side by side, the middle column of the first one out of reach.
+/// Two panes of three columns side by side, the middle column of the first one out of reach.
 class GridSteps : public testing::Test {
   protected:
     GridSteps() {
@@ -72,6 +72,43 @@ TEST_F(GridSteps, OnlyRowsThatAreShownAreReached) {
 
 TEST_F(GridSteps, WithAltNothingMoves) {
     EXPECT_EQ(Step(Qt::Key_Down, Qt::AltModifier), std::nullopt);
+}
+
+/// Two boards of three columns, the last of which is hidden.
+class BoardSteps : public testing::Test {
+  protected:
+    BoardSteps() {
+        grid.SetColumns(3);
+        grid.AddBoards(2);
+        grid.Column(2).visible = false;
+        grid.SetRowCount(10);
+    }
+
+    [[nodiscard]] std::optional<GridCell> Step(Qt::Key key) const { return CellByKey(grid, Key(key), 10, 4); }
+
+    Grid grid;
+};
+
+TEST_F(BoardSteps, ArrowsGoOnAtTheNextBoardInTheSameRow) {
+    grid.GoTo({0, 4, 1});
+    EXPECT_EQ(Step(Qt::Key_Right), (GridCell{1, 4, 0}));
+
+    grid.GoTo({1, 4, 0});
+    EXPECT_EQ(Step(Qt::Key_Left), (GridCell{0, 4, 1}));
+}
+
+TEST_F(BoardSteps, RowsAndPagesStayOnTheirBoard) {
+    grid.GoTo({1, 4, 1});
+
+    EXPECT_EQ(Step(Qt::Key_Down), (GridCell{1, 5, 1}));
+    EXPECT_EQ(Step(Qt::Key_PageUp), (GridCell{1, 0, 1}));
+    EXPECT_EQ(Step(Qt::Key_Home), (GridCell{1, 4, 0}));
+}
+
+TEST_F(BoardSteps, TheEndsOfTheRowEndTheSteps) {
+    EXPECT_EQ(Step(Qt::Key_Left), std::nullopt);
+    grid.GoTo({1, 0, 1});
+    EXPECT_EQ(Step(Qt::Key_Right), std::nullopt);
 }
 
 TEST(GridKeyWords, TypingIsWhatLeavesACharacter) {

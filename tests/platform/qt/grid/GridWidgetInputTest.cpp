@@ -350,5 +350,58 @@ TEST_F(GridKeys, WithoutRowsKeysMoveNothing) {
     EXPECT_EQ(Editor(), nullptr);
 }
 
+class BoardInput : public testing::Test, protected support::BoardsOnScreen {
+  protected:
+    BoardInput() { Show(); }
+};
+
+TEST_F(BoardInput, AClickMovesToItsBoardBeforeItIsSettled) {
+    const QPoint place = MiddleOf({3, 7, 2});
+
+    Click(place);
+
+    EXPECT_EQ(TakeNotices(), (Notices{"press " + std::to_string(place.x() * 15) + "," + std::to_string(place.y() * 15),
+                                      "click", "change 3,7,2", "settled"}));
+    EXPECT_EQ(Current(), (GridCell{3, 7, 2}));
+    EXPECT_EQ(grid.Text(grid.CurrentColumn()), "D65");
+}
+
+TEST_F(BoardInput, AClickOnTheSameCellOfAnotherBoardIsAMove) {
+    Click(MiddleOf({0, 0, 0}));
+    (void)TakeNotices();
+
+    Click(MiddleOf({1, 0, 0}));
+
+    const Notices told = TakeNotices();
+    EXPECT_EQ(Notices(told.begin() + 1, told.end()), (Notices{"click", "change 1,0,0", "settled"}));
+}
+
+TEST_F(BoardInput, ADragFromBoardToBoardIsAClickWhereItEnds) {
+    PressOnly(MiddleOf({0, 3, 3}));
+    EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
+
+    ReleaseOnly(MiddleOf({4, 3, 3}));
+
+    EXPECT_EQ(Current(), (GridCell{4, 3, 3}));
+}
+
+TEST_F(BoardInput, ArrowsCrossToTheNextBoardWithTheKeyboard) {
+    Click(MiddleOf({1, 2, 8}));
+
+    Key(Qt::Key_Right);
+    EXPECT_EQ(Current(), (GridCell{2, 2, 0}));
+    EXPECT_EQ(QApplication::focusWidget(), PaneView(2));
+    Key(Qt::Key_Left);
+    EXPECT_EQ(Current(), (GridCell{1, 2, 8}));
+}
+
+TEST_F(BoardInput, NothingCanBeTypedOnALockedBoard) {
+    Click(MiddleOf({2, 1, 1}));
+
+    Key(Qt::Key_5);
+
+    EXPECT_EQ(Editor(), nullptr);
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

@@ -262,5 +262,50 @@ TEST_F(GridShown, ItCanBeHiddenAndDisabled) {
     EXPECT_FALSE(widget->isEnabled());
 }
 
+class BoardsShown : public testing::Test, protected support::BoardsOnScreen {
+  protected:
+    BoardsShown() { Show(); }
+};
+
+TEST_F(BoardsShown, AllRowsAndColumnsOfFiveBoardsHaveRoom) {
+    EXPECT_EQ(grid.VisibleRows(), 24);
+    for (int board = 0; board < 5; ++board) {
+        EXPECT_TRUE(PaneView(board)->viewport()->rect().contains(PaneView(board)->CellPlace({board, 23, 8}))) << board;
+    }
+}
+
+TEST_F(BoardsShown, TheyStandSideBySide) {
+    // 671 pixels less 2 on each side and 4 between the boards are 663: 132 for each, and 3 over.
+    EXPECT_EQ(grid.PaneLeft(0), 2 * 15);
+    EXPECT_EQ(grid.PaneLeft(1), (2 + 132 + 1) * 15);
+    EXPECT_EQ(PaneView(1)->x(), 2 + 132 + 1);
+}
+
+TEST_F(BoardsShown, EachBearsItsOwnersName) {
+    EXPECT_EQ(PaneView(0)->accessibleName(), QStringLiteral("Line A"));
+    EXPECT_EQ(PaneView(4)->accessibleName(), QStringLiteral("Line E"));
+}
+
+TEST_F(BoardsShown, OnlyTheCellOfTheRightBoardHasItsColours) {
+    chosen = {3, 2, 1};
+    grid.cellText = [](const GridCell&) { return std::string(); };
+    grid.Repaint();
+
+    const QImage image = Draw();
+
+    for (int board = 0; board < 5; ++board) {
+        const QRgb expected = board == 3 ? 0xFF000000 : 0xFFFFFFFF;
+        EXPECT_EQ(support::PixelAt(image, MiddleOf({board, 2, 1})), expected) << board;
+    }
+}
+
+TEST_F(BoardsShown, OnlyTheBoardOfTheCurrentCellHasAMark) {
+    grid.GoTo({1, 5, 4});
+
+    EXPECT_TRUE(PaneView(1)->currentIndex().isValid());
+    EXPECT_FALSE(PaneView(0)->currentIndex().isValid());
+    EXPECT_FALSE(PaneView(2)->currentIndex().isValid());
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

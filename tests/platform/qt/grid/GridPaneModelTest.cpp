@@ -1,4 +1,4 @@
-#include "platform/qt/grid/GridModel.h"
+#include "platform/qt/grid/GridPaneModel.h"
 
 #include "support/qt/GridOnScreen.h"
 
@@ -133,10 +133,13 @@ TEST_F(GridAsAModel, AssistiveToolsMeetEachCellOnce) {
     EXPECT_EQ(met, cells[2]);
 }
 
-TEST_F(GridAsAModel, AssistiveToolsHearTheHeadings) {
-    QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(PaneView(0))->tableInterface();
+TEST_F(GridAsAModel, HeadingsForAssistiveToolsStandBesideThoseThatAreShown) {
+    grid.Column(3).accessibleHeading = "Pick 3";
 
-    EXPECT_EQ(table->columnDescription(0), QStringLiteral("Historical Log"));
+    EXPECT_EQ(Pane(1).headerData(2, Qt::Horizontal).toString(), QString());
+    EXPECT_EQ(Pane(1).headerData(2, Qt::Horizontal, Qt::AccessibleTextRole).toString(), QStringLiteral("Pick 3"));
+    EXPECT_EQ(Pane(0).headerData(0, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
+              QStringLiteral("Historical Log"));
 }
 
 TEST_F(GridAsAModel, AssistiveToolsFindTheCurrentCell) {
@@ -147,6 +150,31 @@ TEST_F(GridAsAModel, AssistiveToolsFindTheCurrentCell) {
 
     ASSERT_NE(focused, nullptr);
     EXPECT_EQ(focused->text(QAccessible::Name), QStringLiteral("30"));
+}
+
+TEST(BoardsAsModels, AssistiveToolsAreToldMoreOfACellThanItShows) {
+    support::BoardsOnScreen boards;
+    boards.grid.cellDescription = [&boards](const GridCell& cell) {
+        return cell == boards.chosen ? boards.grid.cellText(cell).value() + ", chosen" : "";
+    };
+    boards.chosen = {1, 0, 2};
+    boards.Show();
+
+    QAccessibleTableInterface* second = QAccessible::queryAccessibleInterface(boards.PaneView(1))->tableInterface();
+    EXPECT_EQ(second->cellAt(0, 2)->text(QAccessible::Name), QStringLiteral("B2, chosen"));
+    EXPECT_EQ(second->cellAt(0, 3)->text(QAccessible::Name), QStringLiteral("B3"));
+}
+
+TEST(BoardsAsModels, EachHasAllVisibleColumnsWithItsOwnTexts) {
+    support::BoardsOnScreen boards;
+    boards.grid.Column(8).visible = false;
+    boards.Show();
+
+    const QAbstractItemModel& third = *boards.PaneView(2)->model();
+    EXPECT_EQ(third.columnCount(), 8);
+    EXPECT_EQ(third.rowCount(), 24);
+    EXPECT_EQ(third.data(third.index(1, 0)).toString(), QStringLiteral("C9"));
+    EXPECT_EQ(third.data(third.index(1, 7)).toString(), QStringLiteral("C16"));
 }
 
 }  // namespace
