@@ -6,6 +6,7 @@
 #include "state/modUTILS.h"
 
 #include <algorithm>
+#include <string>
 
 namespace ballhaven {
 
@@ -26,6 +27,12 @@ constexpr int numberBoxLength = 2;
 constexpr int cardBoxLength = 3;
 constexpr int clearButtonGap = 50;
 constexpr int marginButtonOffset = 30;
+
+/// What assistive tools call a pick column of the log.
+std::string PickName(int column) {
+    return column <= appState.mainPickCount ? "Pick " + std::to_string(column)
+                                            : "Bonus " + std::to_string(column - appState.mainPickCount);
+}
 
 }  // namespace
 
@@ -60,6 +67,7 @@ void ArrangeLogColumns() {
         pick.focusable = isPick;
         pick.background = isPick ? platform::windowColor : platform::buttonFaceColor;
         pick.heading = isBonus ? "+" : "";
+        pick.accessibleHeading = isPick ? PickName(column) : "";
         pick.width = cards ? cardPickWidth : numberPickWidth;
     }
     platform::GridPane& picks = frmMainForm.grdHist.Pane(pickPane);

@@ -234,7 +234,9 @@ void SetUpGrids() {
     frmMainForm.grdHist.AddPane(1, logPickColumns);
     frmMainForm.grdHist.showsRowMargin = true;
     frmMainForm.grdHist.Pane(datePane).locked = true;
+    frmMainForm.grdHist.rowNameColumn = 0;
     frmMainForm.grdHist.Column(0).heading = "Historical Log";
+    frmMainForm.grdHist.Column(0).accessibleHeading = "Date";
     frmMainForm.grdHist.Column(0).width = dateColumnWidth;
     frmMainForm.grdHist.Column(0).hasButton = true;
 }

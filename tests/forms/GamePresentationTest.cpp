@@ -108,6 +108,16 @@ TEST_F(GamePresentation, AGameWithoutBonusHasNoHeadingsOverItsPicks) {
     EXPECT_EQ(PickHeadings(), std::vector<std::string>(10, ""));
 }
 
+TEST_F(GamePresentation, AssistiveToolsAreToldThePicksOfTheLogByNumber) {
+    Play(1, 3, 2);
+    ArrangeLogColumns();
+    std::vector<std::string> names;
+    for (int column = 1; column <= 6; ++column) {
+        names.push_back(frmMainForm.grdHist.Column(column).accessibleHeading);
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"Pick 1", "Pick 2", "Pick 3", "Bonus 1", "Bonus 2", ""}));
+}
+
 TEST_F(GamePresentation, AGameOfTenPicksFitsTheLogAndColumnsBehindThePicksAreGreyAndClosed) {
     Play(0, 10, 0);
     ArrangeLogColumns();

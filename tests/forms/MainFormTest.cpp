@@ -222,5 +222,10 @@ TEST_F(TheMainForm, ShowsTheLogInADatePaneAndAPickPane) {
     EXPECT_TRUE(log.Column(0).hasButton);
 }
 
+TEST_F(TheMainForm, NamesTheRowsOfTheLogByTheirDate) {
+    EXPECT_EQ(frmMainForm.grdHist.rowNameColumn, 0);
+    EXPECT_EQ(*frmMainForm.grdHist.Column(0).accessibleHeading, "Date");
+}
+
 }  // namespace
 }  // namespace ballhaven
