@@ -91,7 +91,7 @@ bool IsHiLitedBy(std::string_view box, std::string_view picks) {
 }
 
 std::optional<std::string> HotCellValue(int row, int column) {
-    if (row < 0 || row >= frmMainForm.hotRowCount || column < 0 || column >= frmMainForm.hotColumnCount) {
+    if (row >= frmMainForm.hotRowCount || column < 0 || column >= frmMainForm.hotColumnCount) {
         return std::nullopt;
     }
     return HotCellText(ShownHotTable(), CellsOfRow(ShownHotTable(), row), column, appState.historyViewLast + 1,

@@ -12,8 +12,8 @@ namespace ballhaven {
 /// The pairs of candidates that stand together in exactly one draw, by their lower and then by their higher pick; none
 /// in fewer than two draws. A pair with a pick outside the main range leaves a row of zeros at the end. Where the main
 /// range begins with 0, each candidate that stands in one draw only has a row 0, 0 too, but for the last one; where it
-/// begins above 1, a candidate is not paired with the next ones, one fewer than that beginning. The 1002nd row is a
-/// subscript failure if it is one of two picks; rows 0, 0 of one pick may stand beyond.
+/// begins with n above 1, a candidate is not paired with the n - 1 that follow it. The 1002nd row is a subscript
+/// failure if it is one of two picks; rows 0, 0 of one pick may stand beyond.
 [[nodiscard]] FoundRows<PickPair> FindPairsDrawnOnce(const DrawRows& draws, std::span<const std::int16_t> candidates,
                                                      PickRange mainPicks);
 

@@ -351,6 +351,26 @@ TEST(HotCellStyle, TheBoxThatHoldsThePickGivesItsColour) {
     EXPECT_EQ(StyleOf(1), (CellStyle{black, white}));
 }
 
+TEST(HotCellStyle, ABoxThatEqualsACountColoursNothing) {
+    StartWith(NumberGame().Picks(6));
+    ShowTable(HotTable::HotNumbers, {{7, 3}});
+    FillBox(0, "3");
+    appState.colorMode = 1;
+
+    EXPECT_EQ(StyleOf(0, 0), (CellStyle{black, white}));
+    EXPECT_EQ(StyleOf(0, 1), (CellStyle{black, white}));
+}
+
+TEST(HotCellStyle, ThePicksAreTrimmed) {
+    StartWith(CardGame().Picks(5));
+    ShowTable(HotTable::HotPairs, {{0, 0, 2}});
+    FillBox(0, " ");
+    appState.colorMode = 1;
+
+    ASSERT_EQ(HotCellValue(0, 0), ", ");
+    EXPECT_EQ(StyleOf(0), (CellStyle{black, white}));
+}
+
 TEST(HotCellStyle, WithTheHiLiteOffBoxesColourNothing) {
     StartWith(NumberGame().Picks(6));
     ShowTable(HotTable::HotNumbers, {{7, 3}});

@@ -44,6 +44,7 @@ TEST(DrawRows, GiveSomeColumnsOfAView) {
     EXPECT_EQ(PicksOf(DrawRows(view, 2, {2, 3}), 1), (Picks{12, 13}));
     EXPECT_EQ(PicksOf(DrawRows(view, 2, {2, 2}), 1), (Picks{12}));
     EXPECT_EQ(PicksOf(DrawRows(view, 2, {2, 1}), 1), Picks());
+    EXPECT_EQ(PicksOf(DrawRows(view, 2, {3, 1}), 1), Picks());
 }
 
 TEST(DrawRows, LookAtNoColumnOrRowThatTheViewDoesNotHave) {

@@ -143,6 +143,7 @@ TEST(ComputeHotTable, MostHitsComeFirstAndEqualOnesByAscendingValue) {
     ComputeHotTable();
 
     EXPECT_EQ(HotNumberRows(), (Rows{{30, 3}, {4, 2}, {9, 2}, {8, 1}, {49, 1}}));
+    EXPECT_EQ(appState.hotNumberTable.Columns(), 4);
 }
 
 TEST(ComputeHotTable, TheOrderOfTheLogDoesNotChangeTheTable) {

@@ -65,6 +65,12 @@ TEST(FindRepeaters, TakesNoPickThatIsNoCandidate) {
               (std::vector<PickHits>{{2, 1}}));
 }
 
+TEST(FindRepeaters, LooksAtNoRowBehindTheDraws) {
+    const Table view = ViewOf({{1}, {2}, {2}});
+
+    EXPECT_TRUE(FindRepeaters({view, 2, {1, 1}}, Picks{1, 2}, {1, 9}).rows.empty());
+}
+
 TEST(FindRepeaters, TheLowestAndTheHighestValueOfAPickCount) {
     const Table view = ViewOf({{0, 1000, -2, 1001}, {0, 1000, -2, 1001}});
 
@@ -83,7 +89,7 @@ TEST(FindRepeaters, AnOverflowLeavesTheRepeatersBeforeItAsFound) {
     EXPECT_EQ(fits.failure, std::nullopt);
     EXPECT_EQ(fits.rows, (std::vector<PickHits>{{7, 32767}}));
 
-    draws.push_back({3, 7});
+    draws.insert(draws.end(), {{3}, {7}, {7}});
     const Table beyond = ViewOf(draws);
     const FoundRows<PickHits> found = FindRepeaters(AllDraws(beyond), Picks{3, 7, 2}, {5, 9});
     EXPECT_EQ(found.failure, RuntimeFailure::Kind::Overflow);
