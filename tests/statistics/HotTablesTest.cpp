@@ -9,6 +9,7 @@
 #include "statistics/NoHitters.h"
 #include "statistics/PairedOnce.h"
 #include "statistics/Repeaters.h"
+#include "support/IdleGridView.h"
 #include "support/MainScreen.h"
 #include "support/PlainWalks.h"
 
@@ -38,6 +39,30 @@ using Texts = std::vector<std::string>;
 using Failure = std::optional<RuntimeFailure::Kind>;
 
 constexpr auto outOfRange = RuntimeFailure::Kind::SubscriptOutOfRange;
+
+/// A grid that only counts how often it is read again.
+class CountingGrid : public support::IdleGridView {
+  public:
+    void ReadAgain() override { ++readings; }
+
+    int readings = 0;
+};
+
+TEST(ComputeHotTable, HasTheGridReadAgainOnceATableIsChosen) {
+    StartWith(NumberGame().Picks(2));
+    ShowDraws({{1, 2}});
+    CountingGrid grid;
+    frmMainForm.grdHot.view = &grid;
+
+    appState.hotTableChoice = 0;
+    ComputeHotTable();
+    EXPECT_EQ(grid.readings, 0);
+
+    appState.hotTableChoice = 1;
+    ComputeHotTable();
+    EXPECT_EQ(grid.readings, 1);
+    frmMainForm.grdHot.view = nullptr;
+}
 
 TEST(BuildHotTable, BuildsEachTableByItsOwnRoutineAndClearsItsFlagAlone) {
     StartWith(NumberGame().Picks(2).To(5));
