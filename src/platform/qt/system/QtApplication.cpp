@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QPixmap>
+#include <QTimer>
 
 // The linker takes the pictures out of their library only when they are asked for, which has to be done outside every
 // namespace.
@@ -19,6 +21,18 @@ static void TakePictures() {
 
 namespace ballhaven::platform {
 
+namespace {
+
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const char* scale : {"1", "2"}) {
+        icon.addPixmap(QPixmap(QStringLiteral(":/pictures/%1/application.png").arg(QLatin1String(scale))));
+    }
+    return icon;
+}
+
+}  // namespace
+
 struct QtApplication::Parts {
     Parts(int& argc, char** argv) : application(argc, argv) {}
 
@@ -27,14 +41,16 @@ struct QtApplication::Parts {
     ProgramInstance instance;
 };
 
-QtApplication::QtApplication(int& argc, char** argv) : parts(std::make_unique<Parts>(argc, argv)) {
+QtApplication::QtApplication(int& argc, char** argv) {
+    QApplication::setDesktopSettingsAware(false);  // or a desktop's font would take the place of the program's
+    parts = std::make_unique<Parts>(argc, argv);
     TakePictures();
     QApplication::setApplicationName(ToQString(ApplicationTitle()));
     QApplication::setDesktopFileName(QStringLiteral("ballhaven"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/application.svg")));
     InstallAppearance(parts->application);
     InstallQtServices(parts->qtToolkit, parts->instance);
     toolkit = &parts->qtToolkit;
+    QTimer::singleShot(0, &parts->application, [] { QApplication::setWindowIcon(ProgramIcon()); });  // the window first
 }
 
 QtApplication::~QtApplication() {

@@ -11,8 +11,6 @@ namespace ballhaven::platform {
 
 namespace {
 
-constexpr int toolbarIcon = 32;  // of a toolbar's button
-constexpr int smallMargin = 2;   // around the picture of a button too small for an icon
 constexpr int focusMargin = 3;
 
 }  // namespace
@@ -21,6 +19,7 @@ ButtonWidget::ButtonWidget(Button& shownButton, QWidget* parent)
     : ControlWidget(shownButton, parent), button(shownButton) {
     setAutoDefault(true);  // Enter presses it, as the space bar does
     setAttribute(Qt::WA_Hover);
+    setAutoFillBackground(true);  // a flat button hides what it stands on
     connect(this, &QPushButton::clicked, this, [this] {
         Report([this] {
             if (button.click) {
@@ -80,10 +79,10 @@ void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
-QRectF ButtonWidget::PicturePlace() const {
-    const int room = qMin(width(), height());
-    const int side = room >= toolbarIcon ? toolbarIcon : room - 2 * smallMargin;
-    return {(width() - side) / 2.0, (height() - side) / 2.0, static_cast<qreal>(side), static_cast<qreal>(side)};
+QRect ButtonWidget::PicturePlace() const {
+    QRect place(QPoint(0, 0), picture.Size());
+    place.moveCenter(rect().center());
+    return place;
 }
 
 }  // namespace ballhaven::platform

@@ -20,7 +20,7 @@ class ButtonWidget final : public ControlWidget<QPushButton> {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    [[nodiscard]] QRectF PicturePlace() const;
+    [[nodiscard]] QRect PicturePlace() const;
 
     Button& button;
     PictureRenderer picture;

@@ -2,37 +2,71 @@
 
 #include "platform/qt/widgets/Conversions.h"
 
-#include <QFile>
 #include <QPainter>
-#include <QSvgRenderer>
 
 namespace ballhaven::platform {
 
-PictureRenderer::PictureRenderer() = default;
-PictureRenderer::~PictureRenderer() = default;
+namespace {
+
+// The scales above 1 that the build draws.
+constexpr const char* largerScales[] = {"1.5", "2", "3"};
+
+QPixmap Drawn(const std::string& name, const char* scale) {
+    return QPixmap(QStringLiteral(":/pictures/%1/%2.png").arg(QLatin1String(scale), ToQString(name)), "PNG");
+}
+
+/// The smallest drawing that is not smaller than wanted, the largest one where all are.
+QPixmap NextLarger(const std::string& name, const QSize& wanted) {
+    QPixmap drawn;
+    for (const char* scale : largerScales) {
+        drawn = Drawn(name, scale);
+        if (drawn.width() >= wanted.width() && drawn.height() >= wanted.height()) {
+            break;
+        }
+    }
+    return drawn;
+}
+
+}  // namespace
 
 void PictureRenderer::SetName(const std::string& name) {
-    if (name == current) {
-        return;
+    if (name != current) {
+        current = name;
+        isRead = name.empty();
+        original = QPixmap();
+        fitted = QPixmap();
     }
-    current = name;
-    const QString file = QStringLiteral(":/pictures/%1.svg").arg(ToQString(name));
-    renderer = QFile::exists(file) ? std::make_unique<QSvgRenderer>(file) : nullptr;
 }
 
-bool PictureRenderer::HasPicture() const {
-    return renderer != nullptr && renderer->isValid();
+const QPixmap& PictureRenderer::Original() const {
+    if (!isRead) {
+        isRead = true;
+        original = Drawn(current, "1");
+    }
+    return original;
 }
 
-QSizeF PictureRenderer::Size() const {
-    return HasPicture() ? QSizeF(renderer->defaultSize()) : QSizeF();
+const QPixmap& PictureRenderer::Fitting(const QSize& size) const {
+    if (original.size() == size) {
+        return original;
+    }
+    if (fitted.size() != size) {
+        const bool shrunk = size.width() < original.width() && size.height() < original.height();
+        const QPixmap source = shrunk ? original : NextLarger(current, size);
+        fitted = source.size() == size ? source : source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    return fitted;
 }
 
 void PictureRenderer::Paint(QPainter& painter, const QRectF& place) const {
-    if (HasPicture()) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        renderer->render(&painter, place);
+    if (!HasPicture()) {
+        return;
     }
+    const QTransform toScreen = painter.deviceTransform();
+    const QRectF onScreen = toScreen.mapRect(place);
+    const QRect pixels(onScreen.topLeft().toPoint(), onScreen.size().toSize());
+    painter.drawPixmap(toScreen.inverted().mapRect(QRectF(pixels)), Fitting(pixels.size()),
+                       QRectF(QPoint(), pixels.size()));
 }
 
 }  // namespace ballhaven::platform

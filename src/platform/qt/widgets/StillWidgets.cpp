@@ -71,15 +71,14 @@ void PictureWidget::Refresh() {
 }
 
 void PictureWidget::paintEvent(QPaintEvent*) {
-    const QSizeF size = renderer.Size();
-    const QRectF place((width() - size.width()) / 2, (height() - size.height()) / 2, size.width(), size.height());
+    QRect place(QPoint(0, 0), renderer.Size());
+    place.moveCenter(rect().center());
     QPainter painter(this);
-    renderer.Paint(painter, place);
     if (renderer.HasPicture() && !place.contains(rect())) {
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setPen(palette().color(QPalette::Dark));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.fillRect(rect(), palette().color(QPalette::Dark));  // what the picture leaves of it is its frame
+        painter.fillRect(rect().adjusted(1, 1, -1, -1), palette().color(QPalette::Window));
     }
+    renderer.Paint(painter, place);
 }
 
 // A press that is not accepted would take its release to the window.

@@ -4,8 +4,19 @@
 #include "platform/qt/windows/WindowWidget.h"
 
 #include <QApplication>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace ballhaven::platform {
+
+namespace {
+
+bool IsAnyWindowOnScreen() {
+    return std::ranges::any_of(QGuiApplication::topLevelWindows(), &QWindow::isExposed);
+}
+
+}  // namespace
 
 void QtToolkit::Build(Window& window) {
     window.view = new WindowWidget(window, activations);
@@ -21,8 +32,9 @@ void QtToolkit::TearDown(Window& window) {
     }
 }
 
+// Before there is a window nobody would see the hourglass, and the shapes of a pointer take long to read.
 void QtToolkit::ShowHourglass(bool shown) {
-    if (shown == hourglassShown) {
+    if (shown == hourglassShown || (shown && !IsAnyWindowOnScreen())) {
         return;
     }
     hourglassShown = shown;

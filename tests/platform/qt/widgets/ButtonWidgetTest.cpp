@@ -2,6 +2,7 @@
 
 #include "support/qt/TestWindow.h"
 
+#include <QApplication>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -105,6 +106,28 @@ TEST_F(ButtonWidgetTest, APictureThatThereIsNotLeavesAnEmptyButton) {
     button.picture = "no-such-picture";
 
     EXPECT_EQ(widget->grab().toImage(), empty);
+}
+
+TEST_F(ButtonWidgetTest, APictureIsDrawnAtItsOwnSizeInTheMiddleAndHidesWhatIsBehindIt) {
+    button.caption = "";
+    button.picture = "erase-play";
+    const QColor face = widget->palette().color(QPalette::Button);
+    QWidget& behind = *form.Find("clientArea");
+    QPalette reds = behind.palette();
+    reds.setColor(QPalette::Window, Qt::red);
+    behind.setPalette(reds);
+    behind.setAutoFillBackground(true);
+    widget->setPalette(QApplication::palette());
+    widget->clearFocus();
+    const QImage drawn =
+        form.Widget()->grab(QRect(widget->mapTo(form.Widget(), QPoint(0, 0)), widget->size())).toImage();
+
+    ASSERT_EQ(drawn.size(), QSize(20, 20));
+    for (int edge = 0; edge < 20; ++edge) {
+        EXPECT_EQ(drawn.pixelColor(edge, 0), face);
+        EXPECT_EQ(drawn.pixelColor(1, edge), face);
+        EXPECT_EQ(drawn.pixelColor(18, edge), face) << "16 pixels leave two on each side";
+    }
 }
 
 }  // namespace

@@ -4,12 +4,23 @@
 #include "platform/controls/Toolkit.h"
 
 #include <QApplication>
+#include <QTest>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 namespace ballhaven::platform {
 namespace {
 
+TEST(QtToolkit, ThereIsNoHourglassBeforeThereIsAWindow) {
+    toolkit->ShowHourglass(true);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    toolkit->ShowHourglass(false);
+}
+
 TEST(QtToolkit, TheHourglassIsShownOnceHoweverOftenItIsAskedFor) {
+    QWidget window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     toolkit->ShowHourglass(true);
     toolkit->ShowHourglass(true);
     ASSERT_NE(QApplication::overrideCursor(), nullptr);
