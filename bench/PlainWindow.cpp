@@ -1,5 +1,4 @@
-// The rival of the program's start: a window of the same size with nothing in it, or, with an argument, with these
-// words.
+// The rival of the program's start: a window of the same size with the words of its argument, or with nothing in it.
 
 #include <QApplication>
 #include <QLabel>
