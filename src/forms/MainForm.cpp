@@ -45,17 +45,17 @@ const Place places[] = {
     {frmMainForm.picToolbar[1],  "picToolbar",   1, nullptr,    {0, 0, 12015, 540},        "Toolbar"},
     {frmMainForm.picToolbar[0],  "picToolbar",   0, nullptr,    {0, 540, 2295, 7530},      "Selectors and play"},
     {frmMainForm.lblLabel[0],    "lblLabel",     0, leftColumn, {360, 80, 1455, 255},      ""},
-    {frmMainForm.cboList[0],     "cboList",      0, leftColumn, {120, 280, 2055, 315},     "Select Game"},
+    {frmMainForm.cboList[0],     "cboList",      0, leftColumn, {120, 280, 2055, 315},     ""},
     {frmMainForm.lblLabel[1],    "lblLabel",     1, leftColumn, {240, 740, 1695, 375},     ""},
-    {frmMainForm.cboList[1],     "cboList",      1, leftColumn, {120, 950, 2055, 315},     "Select History Set"},
+    {frmMainForm.cboList[1],     "cboList",      1, leftColumn, {120, 950, 2055, 315},     ""},
     {frmMainForm.lblLabel[2],    "lblLabel",     2, leftColumn, {360, 1420, 1455, 255},    ""},
-    {frmMainForm.cboList[2],     "cboList",      2, leftColumn, {120, 1620, 2055, 315},    "Select Hot Table"},
+    {frmMainForm.cboList[2],     "cboList",      2, leftColumn, {120, 1620, 2055, 315},    ""},
     {frmMainForm.optHot[2],      "optHot",       2, leftColumn, {120, 2040, 555, 195},     ""},
     {frmMainForm.optHot[0],      "optHot",       0, leftColumn, {1080, 2040, 795, 195},    ""},
     {frmMainForm.optHot[1],      "optHot",       1, leftColumn, {120, 2280, 1875, 195},    ""},
     {frmMainForm.Line1,          "Line1",       -1, leftColumn, {0, 2620, 2220, 0},        ""},
     {frmMainForm.lblLabel[3],    "lblLabel",     3, leftColumn, {600, 2640, 495, 255},     ""},
-    {frmMainForm.lblPlay,        "lblPlay",     -1, leftColumn, {1080, 2640, 375, 255},    "Current play"},
+    {frmMainForm.lblPlay,        "lblPlay",     -1, leftColumn, {1080, 2640, 375, 255},    ""},
     {frmMainForm.cmdPlayBttn[2], "cmdPlayBttn",  2, leftColumn, {60, 2685, 300, 300},      ""},
     {frmMainForm.cmdPlayBttn[0], "cmdPlayBttn",  0, leftColumn, {1560, 2685, 300, 300},    ""},
     {frmMainForm.cmdPlayBttn[1], "cmdPlayBttn",  1, leftColumn, {1840, 2685, 300, 300},    ""},
@@ -157,6 +157,13 @@ void PutPlaces() {
     for (const LabelText& each : labelTexts) {
         each.label.text = each.text;
         each.label.bold = each.bold;
+        each.label.centred = each.bold;
+    }
+}
+
+void NameLists() {
+    for (std::size_t i = 0; i < frmMainForm.cboList.size(); ++i) {
+        frmMainForm.cboList[i].label = &frmMainForm.lblLabel[i];
     }
 }
 
@@ -182,6 +189,7 @@ void PutHiLiteBoxes() {
         Put(box, Indexed("txtHiLite", i), toolbar, {left, boxTop, hiLiteWidth, boxHeight});
         swatch.bordered = true;
         swatch.background = hiLiteColors[static_cast<std::size_t>(i)].background;
+        swatch.accessibleName = hiLiteColors[static_cast<std::size_t>(i)].name;
         box.maxLength = 2;
         box.accessibleName = "Pick to hi-lite " + std::to_string(i + 1);
     }
@@ -267,6 +275,7 @@ void LayOutMainForm() {
     frmMainForm.window.name = "frmMainForm";
     frmMainForm.window.title = "Ballhaven";
     PutPlaces();
+    NameLists();
     PutToolbar();
     PutHiLiteBoxes();
     SetUpButtonsAndPictures();

@@ -81,7 +81,7 @@ void PutNameBox() {
     Put(box, "txtNewGame(0)", {wholeWidth.listLeft, firstTop, wholeWidth.listWidth, controlHeight});
     box.maxLength = gameNameLength;
     box.text = "";
-    box.accessibleName = "Name of the game";
+    box.label = &frmNewGame.lblNewGame[0];
 }
 
 void PutButton(int index, int left, const char* caption) {
@@ -113,7 +113,7 @@ void LayOutNewGameForm() {
         platform::DropDownList& list = ListOf(question.list);
         Put(list, Indexed("cboCombo", question.list),
             {question.column.listLeft, question.top, question.column.listWidth, controlHeight});
-        list.accessibleName = question.text;
+        list.label = &LabelOf(question.list);
         list.Fill({});
     }
     PutButton(1, 7230, "Save");

@@ -60,6 +60,9 @@ class Control : public Shown {
     /// The panel on which the control stands, null for the window itself. Fixed by the layout.
     Control* container = nullptr;
 
+    /// The label that names the control, built before it; null for none. Fixed by the layout.
+    const Control* label = nullptr;
+
     Property<Bounds> bounds{*this};
     Property<bool> visible{*this, true};
     Property<bool> enabled{*this, true};

@@ -20,6 +20,7 @@ class Label : public Control {
 
     Property<std::string> text{*this};
     Property<bool> bold{*this, false};
+    Property<bool> centred{*this, false};
     Property<bool> bordered{*this, false};
 
     /// A label with the colour of its surroundings has `buttonFaceColor`, which is not painted.

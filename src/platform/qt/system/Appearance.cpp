@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QFont>
-#include <QFontDatabase>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -24,9 +23,9 @@ constexpr PaletteRow paletteRows[] = {
     {QPalette::Button, 0xFFEBE8E1, 0xFFEBE8E1},
     {QPalette::Base, 0xFFFFFFFF, 0xFFF3F1EC},  // lists and boxes
     {QPalette::AlternateBase, 0xFFF5F3EE, 0xFFF3F1EC},
-    {QPalette::WindowText, 0xFF1E2226, 0xFF8C8A84},
-    {QPalette::ButtonText, 0xFF1E2226, 0xFF8C8A84},
-    {QPalette::Text, 0xFF1E2226, 0xFF8C8A84},
+    {QPalette::WindowText, 0xFF000000, 0xFF8C8A84},
+    {QPalette::ButtonText, 0xFF000000, 0xFF8C8A84},
+    {QPalette::Text, 0xFF000000, 0xFF8C8A84},
     {QPalette::BrightText, 0xFFFFFFFF, 0xFFFFFFFF},
     {QPalette::PlaceholderText, 0xFF8C8A84, 0xFF8C8A84},
     {QPalette::Light, 0xFFFCFBF9, 0xFFFCFBF9},
@@ -38,7 +37,7 @@ constexpr PaletteRow paletteRows[] = {
     {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFFFFFFF},
     {QPalette::Link, 0xFF2F6391, 0xFF8C8A84},
     {QPalette::ToolTipBase, 0xFFFFFBE6, 0xFFFFFBE6},
-    {QPalette::ToolTipText, 0xFF1E2226, 0xFF1E2226},
+    {QPalette::ToolTipText, 0xFF000000, 0xFF000000},
 };
 
 QPalette CalmPalette() {
@@ -52,8 +51,10 @@ QPalette CalmPalette() {
 }
 
 QFont ProgramFont() {
-    const QString wanted = QStringLiteral("Liberation Sans");
-    QFont font = QFontDatabase::hasFamily(wanted) ? QFont(wanted) : QFont();
+    QFont font;
+    // All have letters of the same widths, so that every caption has room in each of them.
+    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"), QStringLiteral("Arial"),
+                      QStringLiteral("Nimbus Sans"), QStringLiteral("TeX Gyre Heros"), QStringLiteral("Helvetica")});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(fontHeight);
     return font;

@@ -39,6 +39,25 @@ void TakeOutBlanksAndMarks(QString& pattern) {
     pattern.removeIf([](QChar each) { return each.isSpace() || each.category() == QChar::Other_Format; });
 }
 
+bool HasBytes(const QString& text) {
+    return ToQString(FromQString(text)) == text;
+}
+
+/// Whether all months and days of a language can be written in the program's code page.
+bool CanBeWritten(const QLocale& locale) {
+    for (int month = 1; month <= 12; ++month) {
+        if (!HasBytes(locale.standaloneMonthName(month))) {
+            return false;
+        }
+    }
+    for (int day = 1; day <= 7; ++day) {
+        if (!HasBytes(locale.dayName(day, QLocale::ShortFormat))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 std::string ExecutableDirectory() {
@@ -100,13 +119,18 @@ std::chrono::weekday FirstDayOfWeek() {
     return std::chrono::weekday{static_cast<unsigned>(QLocale::system().firstDayOfWeek())};
 }
 
+QLocale LocaleOfNames(const QLocale& user) {
+    return CanBeWritten(user) ? user : QLocale::c();
+}
+
 std::string MonthName(std::chrono::month month) {
     const auto number = static_cast<int>(static_cast<unsigned>(month));
-    return FromQString(QLocale::system().standaloneMonthName(number));
+    return FromQString(LocaleOfNames(QLocale::system()).standaloneMonthName(number));
 }
 
 std::string ShortDayName(std::chrono::weekday day) {
-    return FromQString(QLocale::system().dayName(static_cast<int>(day.iso_encoding()), QLocale::ShortFormat));
+    const auto number = static_cast<int>(day.iso_encoding());
+    return FromQString(LocaleOfNames(QLocale::system()).dayName(number, QLocale::ShortFormat));
 }
 
 }  // namespace ballhaven::platform

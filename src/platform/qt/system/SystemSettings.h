@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QLocale>
+
 #include <chrono>
 #include <string>
 
@@ -21,7 +23,11 @@ namespace ballhaven::platform {
 /// The current date in the user's time zone.
 [[nodiscard]] std::chrono::year_month_day CurrentDate();
 
-/// The day with which the week of the user's locale begins, and its names of months and short names of days.
+/// The locale that gives months and days their names: the user's own, or the English one where a letter of any of those
+/// names is outside the code page.
+[[nodiscard]] QLocale LocaleOfNames(const QLocale& user);
+
+/// The day with which the week of the user's locale begins, and the names of months and short names of days.
 [[nodiscard]] std::chrono::weekday FirstDayOfWeek();
 [[nodiscard]] std::string MonthName(std::chrono::month month);
 [[nodiscard]] std::string ShortDayName(std::chrono::weekday day);

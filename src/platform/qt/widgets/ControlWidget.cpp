@@ -2,6 +2,8 @@
 
 #include "platform/qt/widgets/Conversions.h"
 
+#include <QLabel>
+
 #include <algorithm>
 
 namespace ballhaven::platform {
@@ -30,6 +32,14 @@ void ShowCommon(const Control& control, QWidget& widget, const std::string& ownT
     widget.setGeometry(ToQRect(*control.bounds));
     widget.setEnabled(*control.enabled);
     widget.setVisible(*control.visible);
+}
+
+void NameByLabel(const Control& control, QWidget& widget) {
+    if (control.label != nullptr) {
+        if (auto* const shown = dynamic_cast<QLabel*>(control.label->view)) {
+            shown->setBuddy(&widget);
+        }
+    }
 }
 
 Bounds ScreenPlaceOf(const QWidget& widget) {

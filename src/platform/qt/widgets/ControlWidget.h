@@ -15,6 +15,9 @@ namespace ballhaven::platform {
 /// accessible name of its own is called by its text if that holds a letter or a digit, else by its tool tip.
 void ShowCommon(const Control& control, QWidget& widget, const std::string& ownText = {});
 
+/// Lets the label of a control, where it has one that is on show, be known as the name of its widget.
+void NameByLabel(const Control& control, QWidget& widget);
+
 /// Whether the release of a mouse button over a widget ends a click of it: the left button's, within the widget.
 [[nodiscard]] bool IsClick(const QMouseEvent& release, const QWidget& widget);
 
@@ -26,7 +29,10 @@ void ShowCommon(const Control& control, QWidget& widget, const std::string& ownT
 template <typename Widget, typename ShownView = ControlView>
 class ControlWidget : public Widget, public ShownView {
   public:
-    ControlWidget(Control& shownControl, QWidget* parent) : Widget(parent), shown(shownControl) { shown.view = this; }
+    ControlWidget(Control& shownControl, QWidget* parent) : Widget(parent), shown(shownControl) {
+        shown.view = this;
+        NameByLabel(shown, *this);
+    }
 
     void TakeFocus() override { this->setFocus(Qt::OtherFocusReason); }
     void BringToFront() override { this->raise(); }

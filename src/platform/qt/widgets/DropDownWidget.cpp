@@ -3,6 +3,8 @@
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 namespace ballhaven::platform {
@@ -10,6 +12,7 @@ namespace ballhaven::platform {
 namespace {
 
 constexpr int entriesInSight = 20;
+constexpr int textMargin = 1;  // of the style, at both ends of the text
 
 }  // namespace
 
@@ -44,6 +47,17 @@ bool DropDownWidget::ShowsTheEntries() const {
         }
     }
     return true;
+}
+
+// The style's own drawing cuts a long entry off in the middle of a letter.
+void DropDownWidget::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox look;
+    initStyleOption(&look);
+    const QRect place = style()->subControlRect(QStyle::CC_ComboBox, &look, QStyle::SC_ComboBoxEditField, this);
+    look.currentText = fontMetrics().elidedText(look.currentText, Qt::ElideRight, place.width() - 2 * textMargin);
+    painter.drawComplexControl(QStyle::CC_ComboBox, look);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, look);
 }
 
 // A wheel that turns over a list on its way to something else must not choose another game.

@@ -14,6 +14,7 @@ class DropDownWidget final : public ControlWidget<QComboBox> {
     void Refresh() override;
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:

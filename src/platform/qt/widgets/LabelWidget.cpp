@@ -8,7 +8,6 @@ namespace ballhaven::platform {
 
 LabelWidget::LabelWidget(Label& shownLabel, QWidget* parent) : ControlWidget(shownLabel, parent), label(shownLabel) {
     setTextFormat(Qt::PlainText);
-    setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setWordWrap(true);
     setMargin(0);
     setIndent(0);
@@ -18,6 +17,7 @@ LabelWidget::LabelWidget(Label& shownLabel, QWidget* parent) : ControlWidget(sho
 void LabelWidget::Refresh() {
     ShowCommon(label, *this, *label.text);
     setText(ToQString(*label.text));
+    setAlignment((*label.centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignTop);
     QFont ownFont = font();
     ownFont.setBold(*label.bold);
     setFont(ownFont);

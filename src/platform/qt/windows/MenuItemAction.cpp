@@ -11,8 +11,10 @@ namespace ballhaven::platform {
 MenuItemAction::MenuItemAction(MenuItem& shownItem, QObject* parent) : QAction(parent), item(shownItem) {
     item.view = this;
     setObjectName(ToQString(item.name));
-    setText(ToQString(item.caption));
     setSeparator(item.caption == "-");
+    if (!isSeparator()) {
+        setText(ToQString(item.caption));
+    }
     setMenuRole(QAction::NoRole);
     connect(this, &QAction::triggered, this, [this] {
         if (item.view != this) {

@@ -1,6 +1,7 @@
 #include "platform/qt/system/Appearance.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,7 +22,24 @@ TEST(Appearance, EveryTextIsElevenPixelsHighMenusAndBoxesToo) {
 }
 
 TEST(Appearance, TheFontIsTheOneThatTheProgramAsksFor) {
-    EXPECT_EQ(QApplication::font().family(), QStringLiteral("Liberation Sans"));
+    EXPECT_EQ(QFontInfo(QApplication::font()).family(), QStringLiteral("Liberation Sans"));
+}
+
+TEST(Appearance, FontsOfTheSameMeasuresStandInForTheFont) {
+    EXPECT_EQ(QApplication::font().families(),
+              (QStringList{"Liberation Sans", "Arimo", "Arial", "Nimbus Sans", "TeX Gyre Heros", "Helvetica"}));
+}
+
+TEST(Appearance, AFontOfTheDesktopDoesNotTakeTheProgramsPlace) {
+    EXPECT_FALSE(QApplication::desktopSettingsAware());
+}
+
+TEST(Appearance, ThereIsOneBlack) {
+    const QPalette palette = QApplication::palette();
+    for (const QPalette::ColorRole role :
+         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::ToolTipText}) {
+        EXPECT_EQ(palette.color(QPalette::Active, role), QColor(0, 0, 0)) << role;
+    }
 }
 
 TEST(Appearance, ListsDropDownBelowTheirBox) {

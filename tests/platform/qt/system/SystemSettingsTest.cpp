@@ -118,10 +118,18 @@ TEST(SystemSettings, TheCurrentDateIsTheOneOfTheUsersTimeZone) {
 }
 
 TEST(SystemSettings, MonthsDaysAndTheFirstDayOfTheWeekComeFromTheUsersLocale) {
-    const QLocale locale = QLocale::system();
+    const QLocale locale = LocaleOfNames(QLocale::system());
     EXPECT_EQ(QString::fromStdString(MonthName(std::chrono::May)), locale.standaloneMonthName(5));
     EXPECT_EQ(QString::fromStdString(ShortDayName(std::chrono::Sunday)), locale.dayName(7, QLocale::ShortFormat));
-    EXPECT_EQ(static_cast<int>(FirstDayOfWeek().iso_encoding()), static_cast<int>(locale.firstDayOfWeek()));
+    EXPECT_EQ(static_cast<int>(FirstDayOfWeek().iso_encoding()), static_cast<int>(QLocale::system().firstDayOfWeek()));
+}
+
+TEST(SystemSettings, MonthsAndDaysOutsideTheCodePageAreEnglish) {
+    for (const char* name : {"ru_RU", "pl_PL", "el_GR", "ja_JP"}) {
+        EXPECT_EQ(LocaleOfNames(QLocale(QLatin1String(name))).standaloneMonthName(3), QStringLiteral("March")) << name;
+    }
+    EXPECT_EQ(LocaleOfNames(QLocale(QStringLiteral("de_DE"))).standaloneMonthName(3), QString::fromUtf8("M\xC3\xA4rz"));
+    EXPECT_EQ(LocaleOfNames(QLocale(QStringLiteral("fr_FR"))).standaloneMonthName(8), QString::fromUtf8("ao\xC3\xBBt"));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "support/qt/TestWindow.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -121,6 +122,43 @@ TEST_F(DropDownWidgetTest, AWheelThatPassesOverAListWithoutTheKeyboardChoosesNot
 TEST_F(DropDownWidgetTest, IsCalledByItsToolTip) {
     EXPECT_EQ(box->accessibleName(), QStringLiteral("The game to show"));
     EXPECT_EQ(box->toolTip(), QStringLiteral("The game to show"));
+}
+
+TEST_F(DropDownWidgetTest, ALongEntryEndsInAnEllipsis) {
+    const QString name(20, QLatin1Char('W'));
+    list.Fill({name.toStdString()});
+    list.Select(0);
+    const QImage cutShort = box->grab().toImage();
+    const QRect room(0, 0, box->width() - 25, box->height());
+
+    QString withEllipsis;
+    for (int letters = 20; letters > 0; --letters) {
+        withEllipsis = name.left(letters) + QChar(0x2026);
+        if (box->fontMetrics().horizontalAdvance(withEllipsis) < room.width() - 4) {
+            break;
+        }
+    }
+    list.Fill({"?"});
+    list.Select(0);
+    box->setItemText(0, withEllipsis);
+    EXPECT_EQ(box->grab(room).toImage(), cutShort.copy(room)) << withEllipsis.toStdString();
+}
+
+TEST(DropDownWidget, IsCalledByItsLabel) {
+    Label label;
+    label.name = "lblLabel(0)";
+    label.text = "Select Game";
+    DropDownList list;
+    list.name = "cboList(0)";
+    list.label = &label;
+    TestWindow form{&label, &list};
+    form.Show();
+
+    QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(form.Find("cboList(0)"));
+    EXPECT_EQ(read->text(QAccessible::Name), QStringLiteral("Select Game"));
+    const auto relations = read->relations(QAccessible::Label);
+    ASSERT_EQ(relations.size(), 1);
+    EXPECT_EQ(relations[0].first->object(), form.Find("lblLabel(0)"));
 }
 
 }  // namespace

@@ -2,8 +2,12 @@
 
 #include "support/qt/TestWindow.h"
 
+#include <QAccessible>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace ballhaven::platform {
 namespace {
@@ -79,6 +83,36 @@ TEST_F(LabelWidgetTest, AHiddenLabelIsNotThere) {
 
     label.visible = true;
     EXPECT_TRUE(widget->isVisible());
+}
+
+/// The first and the last column of pixels that letters have touched.
+std::pair<int, int> InkOf(const QImage& drawn) {
+    int first = drawn.width();
+    int last = -1;
+    for (int x = 0; x < drawn.width(); ++x) {
+        for (int y = 0; y < drawn.height(); ++y) {
+            if (drawn.pixelColor(x, y).lightness() < 100) {
+                first = std::min(first, x);
+                last = x;
+            }
+        }
+    }
+    return {first, last};
+}
+
+TEST_F(LabelWidgetTest, ACentredLabelHasTheSameRoomOnBothSidesOfItsText) {
+    EXPECT_LT(InkOf(widget->grab().toImage()).first, 3);
+
+    label.centred = true;
+    const auto [first, last] = InkOf(widget->grab().toImage());
+    EXPECT_GT(first, 10);
+    EXPECT_NEAR(first, widget->width() - 1 - last, 2);
+}
+
+TEST_F(LabelWidgetTest, IsReadAsItsText) {
+    const QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(widget);
+    EXPECT_EQ(read->role(), QAccessible::StaticText);
+    EXPECT_EQ(read->text(QAccessible::Name), QStringLiteral("Select Game"));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "support/qt/TestWindow.h"
 
+#include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -96,6 +97,16 @@ TEST_F(MenuItemActionTest, AnEntryMayUnloadItsWindow) {
 
     EXPECT_FALSE(form.window.IsLoaded());
     EXPECT_EQ(items[2].view, nullptr);
+}
+
+TEST_F(MenuItemActionTest, ASeparatorHasNoTextAndSaysNothing) {
+    EXPECT_EQ(Action(1)->text(), QString());
+    QMenu* const shown = form.Find<QMenu>("mnuView");
+    QAccessibleInterface* const entries = QAccessible::queryAccessibleInterface(shown);
+    ASSERT_EQ(entries->childCount(), 3);
+    EXPECT_EQ(entries->child(0)->text(QAccessible::Name), QStringLiteral("Date Ascending"));
+    EXPECT_EQ(entries->child(1)->role(), QAccessible::Separator);
+    EXPECT_EQ(entries->child(1)->text(QAccessible::Name), QString());
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include "platform/Pointer.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -77,6 +79,18 @@ TEST(MessageDialog, TakesTextForTextAndNotForMarkup) {
                            Press(box, "ok");
                        }),
               BoxAnswer::Ok);
+}
+
+TEST(MessageDialog, WithoutAnIconTheTextBeginsAtTheEdge) {
+    EXPECT_EQ(
+        AnswerBy({"The longest text of the box decides how wide it is", BoxButtons::Ok, BoxIcon::None, "Ballhaven"},
+                 [](QMessageBox& box) {
+                     const auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+                     ASSERT_NE(text, nullptr);
+                     EXPECT_LE(text->x() - box.layout()->contentsMargins().left(), 8);
+                     Press(box, "ok");
+                 }),
+        BoxAnswer::Ok);
 }
 
 }  // namespace

@@ -1,0 +1,77 @@
+#include "support/qt/RunningProgram.h"
+
+#include <QAccessible>
+
+namespace ballhaven {
+namespace {
+
+/// What a screen reader is told of the program's windows.
+class ScreenReader : public support::RunningProgram {
+  protected:
+    void SetUp() override {
+        Store({.gameType = 1, .bonusPicks = 1, .draws = {{"01/02/1990", {1, 2, 3, 4, 5, 6, 7}}}});
+        Start();
+    }
+
+    [[nodiscard]] QAccessibleInterface& Told(const char* name) const {
+        return *QAccessible::queryAccessibleInterface(&Find(name));
+    }
+    [[nodiscard]] std::string Name(const char* name) const { return Told(name).text(QAccessible::Name).toStdString(); }
+
+    /// The name of the label that is told with a control.
+    [[nodiscard]] std::string LabelOf(const char* name) const {
+        const auto labels = Told(name).relations(QAccessible::Label);
+        return labels.size() == 1 ? labels[0].first->text(QAccessible::Name).toStdString() : "";
+    }
+};
+
+TEST_F(ScreenReader, EveryListIsLabelledByItsLabel) {
+    const std::pair<const char*, const char*> lists[] = {
+        {"cboList(0)", "Select Game"}, {"cboList(1)", "Select History Set"}, {"cboList(2)", "Select Hot Table"}};
+    for (const auto& [list, label] : lists) {
+        EXPECT_EQ(LabelOf(list), label);
+    }
+}
+
+TEST_F(ScreenReader, TheQuestionsOfTheGameDialogLabelTheirListsAndTheNameItsBox) {
+    InGameDialog([this] {
+        EXPECT_EQ(LabelOf("txtNewGame(0)"), "Enter a name for this game:");
+        const std::pair<const char*, const char*> lists[] = {
+            {"cboCombo(0)", "Select type of game:"},
+            {"cboCombo(1)", "How many Main numbers or cards are drawn each game?"}};
+        for (const auto& [list, question] : lists) {
+            EXPECT_EQ(LabelOf(list), question);
+        }
+        ClickToClose("cmdNewGame(0)");
+    });
+    ChooseFromMenu("mnuEdit", "mnuEditArray(2)");
+}
+
+TEST_F(ScreenReader, TheShownPlayIsReadAsText) {
+    EXPECT_EQ(Told("lblPlay").role(), QAccessible::StaticText);
+    EXPECT_EQ(Name("lblPlay"), "1.A");
+}
+
+TEST_F(ScreenReader, ASwatchIsNamedByItsColour) {
+    const char* const colours[] = {"Magenta", "Yellow", "Red",   "Cyan", "Green",
+                                   "Teal",    "Purple", "Olive", "Blue", "Black"};
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(Name(("lblColor(" + std::to_string(i) + ")").c_str()), colours[i]);
+    }
+}
+
+TEST_F(ScreenReader, MenuSeparatorsSayNothing) {
+    int separators = 0;
+    for (const char* menu : {"mnuFile", "mnuEdit", "mnuView", "mnuTools", "mnuHelp"}) {
+        const QAccessibleInterface& entries = Told(menu);
+        for (int i = 0; i < entries.childCount(); ++i) {
+            const bool isSeparator = entries.child(i)->role() == QAccessible::Separator;
+            EXPECT_EQ(entries.child(i)->text(QAccessible::Name).isEmpty(), isSeparator) << menu << ' ' << i;
+            separators += isSeparator ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(separators, 6);
+}
+
+}  // namespace
+}  // namespace ballhaven
