@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Every oddity that is meant stands in three places under one id: a QUIRK comment at its line, an entry in
+# Every oddity that is kept stands in three places under one id: a QUIRK comment at its line, an entry in
 # docs/not-bugs.md, and a test that names it. Names what is missing.
 #
 #   scripts/check-quirks.sh FOLDER OF THE PROJECT
