@@ -218,7 +218,7 @@ void SaveGameRecord(int slot) {
 
 std::string ReadGameRecord(int slot) {
     RecordFile file = OpenedGameTable();
-    const std::string record = file.Read(RecordNumberOf(slot));
+    std::string record = file.Read(RecordNumberOf(slot));
     file.Close();
     return record;
 }

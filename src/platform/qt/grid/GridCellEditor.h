@@ -19,12 +19,12 @@ class GridCellEditor : public QLineEdit {
     explicit GridCellEditor(Grid& editedGrid);
 
     /// Opens over the grid's current cell, whose place in `viewport` is given.
-    void Open(QWidget& viewport, const QRect& cell, const QString& text, Start start);
+    void Open(QWidget& viewport, const QRect& place, const QString& text, Start start);
 
     [[nodiscard]] bool IsOpen() const { return open; }
 
     /// Puts the open editor over its cell after that has moved.
-    void PutOver(const QRect& cell);
+    void PutOver(const QRect& place);
 
     /// Ends the edit: a text that was changed is given to the grid, which may refuse it. True when no editor is open
     /// any more, or while the value is just being checked; false too when the grid's widget went meanwhile. While the
