@@ -91,7 +91,8 @@ bool IsHiLitedBy(std::string_view box, std::string_view picks) {
 }
 
 std::optional<std::string> HotCellValue(int row, int column) {
-    if (row >= frmMainForm.hotRowCount || column < 0 || column >= frmMainForm.hotColumnCount) {
+    const bool isChosen = appState.hotTableChoice > 0;
+    if (!isChosen || row >= frmMainForm.hotRowCount || column < 0 || column >= frmMainForm.hotColumnCount) {
         return std::nullopt;
     }
     return HotCellText(ShownHotTable(), CellsOfRow(ShownHotTable(), row), column, appState.historyViewLast + 1,

@@ -150,6 +150,15 @@ TEST(HotCellValue, OutsideTheTableStandsANull) {
     EXPECT_EQ(HotCellValue(0, 4), std::nullopt);
 }
 
+TEST(HotCellValue, BeforeATableIsChosenStandsANull) {
+    StartWith(NumberGame());
+    ShowTable(HotTable::HotNumbers, {{7, 3}});
+    appState.hotTableChoice = 0;
+
+    EXPECT_EQ(HotCellValue(0, 0), std::nullopt);
+    EXPECT_EQ(StyleOf(0), (CellStyle{black, white}));
+}
+
 TEST(HotCellValue, AnEmptyTableDrawsNoRow) {
     StartWith(NumberGame());
     ShowDraws({});
