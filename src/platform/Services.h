@@ -45,11 +45,13 @@ struct Services {
     std::function<std::string(std::chrono::month)> monthName = EnglishMonthName;
     std::function<std::string(std::chrono::weekday)> shortDayName = EnglishShortDayName;
 
-    /// Whether an earlier instance of the program works on the same program folder.
+    /// Whether an earlier instance of the program works on the same program folder. Throws std::system_error where the
+    /// system does not tell.
     std::function<bool()> earlierInstanceRuns = [] { return false; };
 
-    /// Brings the window of the instance whose application title is given to the front.
-    std::function<void(const std::string& title)> activateApplication = [](const std::string&) {};
+    /// Brings the window of the instance whose application title is given to the front. False where none has answered
+    /// in less than three seconds.
+    std::function<bool(const std::string& title)> activateApplication = [](const std::string&) { return false; };
 };
 
 extern Services services;

@@ -2,8 +2,10 @@
 
 #include "forms/MainForm.h"
 #include "platform/Application.h"
+#include "platform/CloseDown.h"
 #include "platform/Services.h"
 #include "platform/controls/Toolkit.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/Paths.h"
 #include "state/AppState.h"
 #include "support/MainFormReset.h"
@@ -11,7 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace ballhaven {
@@ -32,18 +36,25 @@ class Starting : public testing::Test {
         services = platform::Services{};
         services.executableDirectory = [this] { return directory.Path(); };
         services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
+        services.showMessageBox = [this](const platform::MessageBoxRequest& request) {
+            boxes.push_back(request);
+            return platform::BoxAnswer::Ok;
+        };
         platform::toolkit = nullptr;
     }
 
     void TearDown() override {
         platform::toolkit = runningToolkit;
         services = platform::Services{};
+        platform::closeDownNotices = {};
+        platform::fileSystem = platform::SystemFiles();
         platform::SetApplicationTitle("Ballhaven");
         support::ResetMainForm();
     }
 
     support::TemporaryDirectory directory;
     std::vector<int> exitCodes;
+    std::vector<platform::MessageBoxRequest> boxes;
 
   private:
     platform::Toolkit* const runningToolkit = platform::toolkit;
@@ -56,6 +67,7 @@ TEST_F(Starting, ASecondStartActivatesTheFirstInstanceAndTouchesNoFile) {
     services.activateApplication = [&](const std::string& title) {
         activated.push_back(title);
         ownTitle = platform::ApplicationTitle();
+        return true;
     };
     StartProgram();
     EXPECT_EQ(activated, (std::vector<std::string>{"Ballhaven"}));
@@ -63,6 +75,73 @@ TEST_F(Starting, ASecondStartActivatesTheFirstInstanceAndTouchesNoFile) {
     EXPECT_EQ(exitCodes, (std::vector<int>{0}));
     EXPECT_FALSE(frmMainForm.window.IsLoaded());
     EXPECT_TRUE(directory.Files().empty());
+}
+
+TEST_F(Starting, AnInstanceThatDoesNotAnswerIsToldUnderTheProgramsOwnTitle) {
+    services.executableDirectory = [] { return std::string("/home/j\xC3\xBCrgen/Ballhaven"); };
+    services.earlierInstanceRuns = [] { return true; };
+    services.activateApplication = [](const std::string&) { return false; };
+    StartProgram();
+    EXPECT_EQ(boxes,
+              (std::vector<platform::MessageBoxRequest>{
+                  {"Ballhaven is in use already, but does not answer, in the folder\n/home/j\xFCrgen/Ballhaven\n\n"
+                   "Either another user works with it, who has to close it first, or it hangs: then end its "
+                   "process. After that, start Ballhaven again.",
+                   platform::BoxButtons::Ok, platform::BoxIcon::Critical, "Ballhaven"}}));
+    EXPECT_EQ(exitCodes, (std::vector<int>{0}));
+    EXPECT_FALSE(frmMainForm.window.IsLoaded());
+}
+
+TEST_F(Starting, AnInstanceThatEndsMeanwhileLeavesItsFolderToThisOne) {
+    int asked = 0;
+    services.earlierInstanceRuns = [&asked] { return asked++ == 0; };
+    services.activateApplication = [](const std::string&) { return false; };
+    StartProgram();
+    EXPECT_TRUE(frmMainForm.window.IsLoaded());
+    EXPECT_EQ(platform::ApplicationTitle(), "Ballhaven");
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_TRUE(exitCodes.empty());
+}
+
+TEST_F(Starting, AFolderThatCannotBeLockedIsToldAndNoWindowOpens) {
+    services.executableDirectory = [] { return std::string("/far/away"); };
+    services.earlierInstanceRuns = []() -> bool { throw std::system_error(ENOLCK, std::generic_category()); };
+    StartProgram();
+    EXPECT_EQ(boxes, (std::vector<platform::MessageBoxRequest>{
+                         {"Ballhaven cannot make sure that it is the only one to work in the folder\n/far/away\n\n"
+                          "The system says: No locks available. Two at a time would overwrite each other's draws. Copy "
+                          "the folder to a disk of this computer where you may read and write, and start Ballhaven "
+                          "there.",
+                          platform::BoxButtons::Ok, platform::BoxIcon::Critical, "Ballhaven"}}));
+    EXPECT_EQ(exitCodes, (std::vector<int>{0}));
+    EXPECT_FALSE(frmMainForm.window.IsLoaded());
+}
+
+TEST_F(Starting, WhatWantsTheProgramToEndClosesTheMainWindow) {
+    StartProgram();
+    bool closed = false;
+    frmMainForm.window.unload = [&closed] { closed = true; };
+    platform::CloseInOrder();
+    EXPECT_TRUE(closed);
+    EXPECT_FALSE(frmMainForm.window.IsLoaded());
+}
+
+TEST_F(Starting, TheEndThatIsAnnouncedSavesTheHistoryThenThePlays) {
+    StartProgram();
+    std::vector<std::string> saved;
+    platform::fileSystem.rename = [&saved](const std::string& from, const std::string& to) {
+        saved.push_back(to.substr(to.rfind(platform::directorySeparator) + 1));
+        return platform::SystemFiles().rename(from, to);
+    };
+    appState.currentGame = 3;
+    appState.totalPicks = 6;
+    appState.HistoryTable = Table(7, 1000);
+    appState.historyLast = 0;
+    appState.historyDirty = true;
+    appState.playsDirty = true;
+    platform::SaveBeforeTheEnd();
+    EXPECT_TRUE(frmMainForm.window.IsLoaded());
+    EXPECT_EQ(saved, (std::vector<std::string>{"GAME03.CDB", "PLAYS03.CDB"}));
 }
 
 TEST_F(Starting, ShowsTheMainWindowBeforeItTouchesAFile) {

@@ -1,5 +1,6 @@
 #include "state/RecordFile.h"
 
+#include "platform/process/Signals.h"
 #include "state/RuntimeFailure.h"
 #include "support/ChildProcess.h"
 #include "support/TemporaryDirectory.h"
@@ -422,6 +423,7 @@ TEST_P(WholeSave, ASystemThatTakesOnlySoManyBytesLeavesTheOldFile) {
     Restore();
     const auto saveWithin = [this](std::size_t limit) {
         return support::RunInChild([&] {
+            platform::LetWritesFail();
             support::LimitFileLength(limit);
             return FailureOf([&] { Save(); });
         });

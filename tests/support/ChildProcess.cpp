@@ -69,7 +69,6 @@ void BecomeOrdinaryUser() {
 }
 
 void LimitFileLength(std::size_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{bytes, bytes};
     Check(setrlimit(RLIMIT_FSIZE, &limit));
 }

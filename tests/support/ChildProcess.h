@@ -20,7 +20,7 @@ struct ChildEnd {
 /// Gives up the rights of the system's administrator, who may read and write everything, if the process has them.
 void BecomeOrdinaryUser();
 
-/// Lets no file of the calling process grow beyond this length.
+/// Lets no file of the calling process grow beyond this length. A write that would ends it, unless it sees to that.
 void LimitFileLength(std::size_t bytes);
 
 }  // namespace ballhaven::support

@@ -64,6 +64,15 @@ WatchedFiles::WatchedFiles() {
             return taken == 0 ? std::int64_t{-ENOSPC} : system.write(file, bytes, taken);
         });
     };
+    fileSystem.findBytes = [this, system](int file, std::int64_t offset) {
+        return Watch("findBytes", 0, [&] { return system.findBytes(file, offset); });
+    };
+    fileSystem.findHole = [this, system](int file, std::int64_t offset) {
+        return Watch("findHole", 0, [&] { return system.findHole(file, offset); });
+    };
+    fileSystem.setLength = [this, system](int file, std::int64_t length) {
+        return Watch("setLength", 0, [&] { return system.setLength(file, length); });
+    };
     fileSystem.setPermissions = [this, system](int file, unsigned permissions) {
         return Watch("setPermissions", 0, [&] { return system.setPermissions(file, permissions); });
     };

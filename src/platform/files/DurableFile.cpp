@@ -72,6 +72,27 @@ class OpenFile {
         }
     }
 
+    /// Where bytes begin at `offset` or behind it; `end` where a hole reaches that far.
+    [[nodiscard]] std::int64_t FindBytes(std::int64_t offset, std::int64_t end) const {
+        try {
+            return std::min(Checked([&] { return fileSystem.findBytes(handle, offset); }), end);
+        } catch (const std::system_error& error) {
+            if (error.code() != std::errc::no_such_device_or_address) {
+                throw;
+            }
+            return end;
+        }
+    }
+
+    /// Where the bytes at `offset` end: in a hole, or at `end`.
+    [[nodiscard]] std::int64_t FindHole(std::int64_t offset, std::int64_t end) const {
+        return std::min(Checked([&] { return fileSystem.findHole(handle, offset); }), end);
+    }
+
+    void SetLength(std::int64_t length) const {
+        Checked([&] { return fileSystem.setLength(handle, length); });
+    }
+
     void SetPermissions(unsigned permissions) const {
         Checked([&] { return fileSystem.setPermissions(handle, permissions); });
     }
@@ -148,15 +169,34 @@ void FlushDirectory(const OpenFile& directory) {
     }
 }
 
-void CopyTail(const OpenFile& source, std::int64_t offset, std::int64_t length, const OpenFile& target) {
+/// Copies a range of a file behind what another one has; false where the range has not so many bytes any more.
+bool CopyBytes(const OpenFile& source, std::int64_t begin, std::int64_t end, const OpenFile& target) {
     std::string bytes;
-    for (; offset < length; offset += static_cast<std::int64_t>(bytes.size())) {
-        bytes.resize(static_cast<std::size_t>(std::min(chunkSize, length - offset)));
-        source.Read(offset, bytes);
+    for (; begin < end; begin += static_cast<std::int64_t>(bytes.size())) {
+        bytes.resize(static_cast<std::size_t>(std::min(chunkSize, end - begin)));
+        source.Read(begin, bytes);
         if (bytes.empty()) {
-            break;
+            return false;
         }
         target.Write(bytes);
+    }
+    return true;
+}
+
+/// Copies what a file holds from `offset` up to its length, for a target that holds `written` bytes so far. A hole
+/// stays a hole: it is neither read nor written, however large it is.
+void CopyTail(const OpenFile& source, std::int64_t offset, std::int64_t length, const OpenFile& target,
+              std::int64_t written) {
+    const std::int64_t shift = written - offset;
+    while (offset < length) {
+        const std::int64_t begin = source.FindBytes(offset, length);
+        if (begin > offset) {
+            target.SetLength(begin + shift);
+        }
+        offset = begin < length ? source.FindHole(begin, length) : length;
+        if (!CopyBytes(source, begin, offset, target)) {
+            return;
+        }
     }
 }
 
@@ -190,7 +230,7 @@ void ReplaceHead(const std::string& path, std::string_view head, std::int64_t ta
     TemporaryFile temporary(TemporaryPath(realPath));
     temporary.File().SetPermissions(status.permissions);
     temporary.File().Write(head);
-    CopyTail(old, tailOffset, status.length, temporary.File());
+    CopyTail(old, tailOffset, status.length, temporary.File(), static_cast<std::int64_t>(head.size()));
     old.Drop();
     temporary.File().Flush();
     temporary.File().Close();

@@ -17,9 +17,9 @@ struct FileHead {
 [[nodiscard]] FileHead ReadHead(const std::string& path, std::int64_t limit);
 
 /// Makes the file `head`, followed by what it held from byte `tailOffset` on, with the permissions that it had; a
-/// symbolic link goes on pointing to it. Whatever the moment of a crash, of an error or of a power failure, the file is
-/// the old one or the new one. Returns when it is on the disk. Throws std::system_error; the file is the old one then,
-/// except where the flush of the directory, the last step, has failed.
+/// symbolic link goes on pointing to it, and a hole behind that byte stays one. Whatever the moment of a crash, of an
+/// error or of a power failure, the file is the old one or the new one. Returns when it is on the disk. Throws
+/// std::system_error; the file is the old one then, except where the flush of the directory, the last step, has failed.
 void ReplaceHead(const std::string& path, std::string_view head, std::int64_t tailOffset);
 
 }  // namespace ballhaven::platform

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -33,7 +34,7 @@ int FlagsOf(FileAccess access) {
         case FileAccess::UpdateOrCreate:
             return always | O_RDWR | O_CREAT;
         case FileAccess::CreateNew:
-            return always | O_WRONLY | O_CREAT | O_EXCL;
+            return always | O_WRONLY | O_CREAT | O_EXCL | O_APPEND;
         case FileAccess::Directory:
             return always | O_RDONLY | O_DIRECTORY;
     }
@@ -62,6 +63,18 @@ std::int64_t Write(int file, const char* bytes, std::size_t size) {
     return Answer(::write(file, bytes, size));
 }
 
+std::int64_t FindBytes(int file, std::int64_t offset) {
+    return Answer(::lseek(file, offset, SEEK_DATA));
+}
+
+std::int64_t FindHole(int file, std::int64_t offset) {
+    return Answer(::lseek(file, offset, SEEK_HOLE));
+}
+
+int SetLength(int file, std::int64_t length) {
+    return Answer(::ftruncate(file, length));
+}
+
 int SetPermissions(int file, unsigned permissions) {
     return Answer(::fchmod(file, permissions & allPermissions));
 }
@@ -82,6 +95,10 @@ int Remove(const std::string& path) {
     return Answer(::unlink(path.c_str()));
 }
 
+int Lock(int directory) {
+    return Answer(::flock(directory, LOCK_EX | LOCK_NB));
+}
+
 int Resolve(const std::string& path, std::string& realPath) {
     const std::unique_ptr<char, decltype(&std::free)> found(::realpath(path.c_str(), nullptr), &std::free);
     if (!found) {
@@ -94,7 +111,20 @@ int Resolve(const std::string& path, std::string& realPath) {
 }  // namespace
 
 FileSystem SystemFiles() {
-    return {Open, GetStatus, Read, Write, SetPermissions, Flush, Close, Rename, Remove, Resolve};
+    return {.open = Open,
+            .getStatus = GetStatus,
+            .read = Read,
+            .findBytes = FindBytes,
+            .findHole = FindHole,
+            .write = Write,
+            .setLength = SetLength,
+            .setPermissions = SetPermissions,
+            .flush = Flush,
+            .close = Close,
+            .rename = Rename,
+            .remove = Remove,
+            .lock = Lock,
+            .resolve = Resolve};
 }
 
 std::string TextOfSystem(const std::string& bytes) {

@@ -12,7 +12,7 @@ enum class FileAccess {
     ReadOrCreate,    ///< reading; a missing file comes into being empty
     UpdateOrCreate,  ///< reading, where writing must be allowed too; a missing file comes into being empty
     CreateNew,       ///< writing a file of which nothing may be there yet, for the user alone to read
-    Directory,       ///< flushing a directory's entries
+    Directory,       ///< flushing a directory's entries, and locking it
 };
 
 struct FileStatus {
@@ -30,8 +30,14 @@ struct FileSystem {
     std::function<int(int file, FileStatus& status)> getStatus;
     /// The bytes read from `offset` on, 0 at the end of the file.
     std::function<std::int64_t(int file, std::int64_t offset, char* bytes, std::size_t size)> read;
-    /// The bytes written behind those written before.
+    /// Where bytes begin at `offset` or behind it, and where they end in a hole or with the file; the first answers
+    /// with ENXIO where there are none any more. A system that knows of no holes takes the whole file for bytes.
+    std::function<std::int64_t(int file, std::int64_t offset)> findBytes;
+    std::function<std::int64_t(int file, std::int64_t offset)> findHole;
+    /// The bytes written at the end of a file that was opened as new.
     std::function<std::int64_t(int file, const char* bytes, std::size_t size)> write;
+    /// Makes the file longer by a hole, which reads as zeros and takes no room.
+    std::function<int(int file, std::int64_t length)> setLength;
     std::function<int(int file, unsigned permissions)> setPermissions;
     /// Returns when the file's bytes, or the directory's entries, have reached the disk.
     std::function<int(int file)> flush;
@@ -40,6 +46,8 @@ struct FileSystem {
     /// Replaces what stands under the new name, in one step.
     std::function<int(const std::string& from, const std::string& to)> rename;
     std::function<int(const std::string& path)> remove;
+    /// Locks a directory against every other one that locks it, until it is closed; EWOULDBLOCK where one does already.
+    std::function<int(int directory)> lock;
     /// The absolute path of an existing file behind all symbolic links.
     std::function<int(const std::string& path, std::string& realPath)> resolve;
 };

@@ -1,56 +1,45 @@
 #include "platform/files/FolderLock.h"
 
-#ifdef _WIN32
-#include <filesystem>
-#include <system_error>
-#include <windows.h>
-#else
+#include "platform/files/FileSystem.h"
+
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
-#endif
+#include <system_error>
 
 namespace ballhaven::platform {
 
-#ifdef _WIN32
+namespace {
 
-FolderLock::FolderLock(const std::string& directory) {
-    std::error_code failure;
-    const std::filesystem::path folder = std::filesystem::canonical(directory, failure);
-    if (failure) {
-        return;
+int OpenFolder(const std::string& directory) {
+    const int folder = fileSystem.open(directory, FileAccess::Directory);
+    if (folder < 0) {
+        throw std::system_error(-folder, std::generic_category());
     }
-    key = std::to_string(std::filesystem::hash_value(folder));
-    handle = CreateMutexA(nullptr, FALSE, ("ballhaven-" + key).c_str());
-    takenByAnother = handle != nullptr && GetLastError() == ERROR_ALREADY_EXISTS;
+    return folder;
 }
 
-FolderLock::~FolderLock() {
-    if (handle != nullptr) {
-        CloseHandle(handle);
-    }
-}
-
-#else
-
-FolderLock::FolderLock(const std::string& directory)
-    : folder(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+std::string KeyOf(int folder) {
     struct stat status {};
-    if (folder < 0 || fstat(folder, &status) != 0) {
-        return;
+    if (fstat(folder, &status) != 0) {
+        throw std::system_error(errno, std::generic_category());
     }
-    key = std::to_string(status.st_dev) + "-" + std::to_string(status.st_ino);
-    takenByAnother = flock(folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    return std::to_string(status.st_dev) + "-" + std::to_string(status.st_ino);
 }
+
+}  // namespace
+
+FolderLock::FolderLock(const std::string& directory) : folder(OpenFolder(directory)), key(KeyOf(folder)) {}
 
 FolderLock::~FolderLock() {
-    if (folder >= 0) {
-        close(folder);
-    }
+    fileSystem.close(folder);
 }
 
-#endif
+bool FolderLock::Take() {
+    const int result = fileSystem.lock(folder);
+    if (result < 0 && result != -EWOULDBLOCK) {
+        throw std::system_error(-result, std::generic_category());
+    }
+    return result == 0;
+}
 
 }  // namespace ballhaven::platform

@@ -8,26 +8,22 @@ namespace ballhaven::platform {
 /// is ever written.
 class FolderLock {
   public:
+    /// Opens the folder. Throws std::system_error where that cannot be.
     explicit FolderLock(const std::string& directory);
     ~FolderLock();
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    /// Whether another lock on the same folder was there before. A folder that cannot be locked at all has none.
-    [[nodiscard]] bool IsTakenByAnother() const { return takenByAnother; }
+    /// Takes the lock, or keeps it; false while there is another one on the folder. Throws std::system_error where the
+    /// system gives no lock for any other reason, so that nobody takes a folder for his own that he cannot lock.
+    [[nodiscard]] bool Take();
 
-    /// Tells the folder from every other one of the machine, by whatever path it was reached; empty for a folder that
-    /// cannot be opened.
+    /// Tells the folder from every other one of the machine, by whatever path it was reached.
     [[nodiscard]] const std::string& Key() const { return key; }
 
   private:
+    int folder;
     std::string key;
-    bool takenByAnother = false;
-#ifdef _WIN32
-    void* handle = nullptr;
-#else
-    int folder = -1;
-#endif
 };
 
 }  // namespace ballhaven::platform

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <fstream>
+#include <initializer_list>
 #include <iterator>
 #include <map>
 #include <string>
@@ -190,6 +192,63 @@ TEST_F(DurableFileTest, ATailThatShrinksWhileItIsCopiedEndsWhereItEnds) {
     EXPECT_EQ(directory.Files(), (Files{{"DATA", "abcdefghijta"}}));
 }
 
+/// A file of bytes and holes, each of these lengths in turn, the first one bytes.
+void WriteWithHoles(const std::string& path, std::initializer_list<std::int64_t> lengths) {
+    std::ofstream file(path, std::ios::binary);
+    std::int64_t length = 0;
+    bool isHole = false;
+    for (const std::int64_t each : lengths) {
+        length += each;
+        if (isHole) {
+            file.seekp(length);
+        } else {
+            file << std::string(static_cast<std::size_t>(each), 'b');
+        }
+        isHole = !isHole;
+    }
+    file.close();
+    std::filesystem::resize_file(path, static_cast<std::uintmax_t>(length));
+}
+
+TEST_F(DurableFileTest, HolesInTheTailStayHolesAndAreNotReadHoweverLargeTheyAre) {
+    constexpr std::int64_t gibibyte = 1024 * 1024 * 1024;
+    constexpr std::int64_t piece = 64 * 1024;  // no system has smaller holes
+    WriteWithHoles(path, {piece, gibibyte, piece, gibibyte});
+    support::WatchedFiles watched;
+    ReplaceHead(path, std::string(10, 'h'), 10);
+
+    struct stat found {};
+    ASSERT_EQ(stat(path.c_str(), &found), 0);
+    EXPECT_EQ(found.st_size, 2 * piece + 2 * gibibyte);
+    EXPECT_LE(found.st_blocks * 512, 4 * piece);
+    EXPECT_LE(watched.Count("read"), 4U);
+
+    std::ifstream file(path, std::ios::binary);
+    std::string bytes(piece + 1, '.');
+    file.read(bytes.data(), piece + 1);
+    EXPECT_EQ(bytes, std::string(10, 'h') + std::string(piece - 10, 'b') + '\0');
+    file.seekg(piece + gibibyte - 1);
+    file.read(bytes.data(), piece + 1);
+    EXPECT_EQ(bytes, '\0' + std::string(piece, 'b'));
+}
+
+TEST_F(DurableFileTest, AHoleMovesWithTheTailThatItStandsIn) {
+    constexpr std::int64_t piece = 64 * 1024;
+    WriteWithHoles(path, {piece, 4 * piece, piece});
+    ReplaceHead(path, "head", piece);
+    EXPECT_EQ(directory.Read("DATA"), "head" + std::string(4 * piece, '\0') + std::string(piece, 'b'));
+}
+
+TEST_F(DurableFileTest, AnErrorWhileAHoleIsMadeLeavesTheOldFile) {
+    constexpr std::int64_t piece = 64 * 1024;
+    WriteWithHoles(path, {piece, piece, piece});
+    const std::string before = directory.Read("DATA");
+    support::WatchedFiles watched;
+    watched.before = [&](std::size_t call) { return watched.calls[call].name == "setLength" ? EFBIG : 0; };
+    EXPECT_EQ(ErrorOf([&] { ReplaceHead(path, "head", 10); }), EFBIG);
+    EXPECT_EQ(directory.Files(), (Files{{"DATA", before}}));
+}
+
 TEST_F(DurableFileTest, AFileThatEndsWhereTheTailWouldBeginHasNone) {
     directory.Write("DATA", "0123456789");
     support::WatchedFiles watched;
@@ -321,6 +380,8 @@ constexpr FaultyCall callsOfASave[] = {
     {"open CreateNew", Outcome::OldAndFailure},
     {"setPermissions", Outcome::OldAndFailure},
     {"write", Outcome::OldAndFailure},
+    {"findBytes", Outcome::OldAndFailure},
+    {"findHole", Outcome::OldAndFailure},
     {"read", Outcome::OldAndFailure},
     {"write", Outcome::OldAndFailure},
     {"close", Outcome::NewWithoutFailure},
@@ -360,7 +421,7 @@ TEST_P(ErrorAtEveryCall, LeavesTheOldFileOrTheNewOneAndNothingBesideIt) {
                   (Files{{"DATA", expected.outcome == Outcome::OldAndFailure ? oldContent : newContent}}));
         failures += error == 0 ? 0 : 1;
     }
-    EXPECT_EQ(failures, 17U);
+    EXPECT_EQ(failures, 19U);
 }
 
 TEST_P(ErrorAtEveryCall, MeetsAllCallsThatASaveMakes) {

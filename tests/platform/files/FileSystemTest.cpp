@@ -101,7 +101,35 @@ TEST_F(FileSystemTest, WhatIsWrittenIsReadFromAnyOffset) {
     EXPECT_EQ(files.close(file), 0);
 }
 
-TEST_F(FileSystemTest, ADirectoryIsOpenedForFlushingOnly) {
+TEST_F(FileSystemTest, AHoleIsFoundAndTakesNoRoom) {
+    constexpr std::int64_t mebibyte = 1024 * 1024;
+    const int file = Open("new", FileAccess::CreateNew);
+    ASSERT_GE(file, 0);
+    EXPECT_EQ(files.setLength(file, mebibyte), 0);
+    EXPECT_EQ(files.write(file, "end", 3), 3);
+
+    EXPECT_EQ(files.findBytes(file, 0), mebibyte);
+    EXPECT_EQ(files.findHole(file, 0), 0);
+    EXPECT_EQ(files.findHole(file, mebibyte), mebibyte + 3);
+    EXPECT_EQ(files.findBytes(file, mebibyte + 3), -ENXIO);
+    struct stat found {};
+    ASSERT_EQ(stat((directory / "new").c_str(), &found), 0);
+    EXPECT_LT(found.st_blocks * 512, mebibyte / 2);
+    EXPECT_EQ(files.close(file), 0);
+    EXPECT_EQ(directory.Read("new"), std::string(mebibyte, '\0') + "end");
+}
+
+TEST_F(FileSystemTest, ADirectoryIsLockedUntilItIsClosed) {
+    const int first = files.open(directory.Path(), FileAccess::Directory);
+    const int second = files.open(directory.Path(), FileAccess::Directory);
+    EXPECT_EQ(files.lock(first), 0);
+    EXPECT_EQ(files.lock(second), -EWOULDBLOCK);
+    EXPECT_EQ(files.close(first), 0);
+    EXPECT_EQ(files.lock(second), 0);
+    EXPECT_EQ(files.close(second), 0);
+}
+
+TEST_F(FileSystemTest, ADirectoryIsOpenedForFlushingAndLockingOnly) {
     const int opened = files.open(directory.Path(), FileAccess::Directory);
     ASSERT_GE(opened, 0);
     EXPECT_EQ(files.flush(opened), 0);
@@ -164,7 +192,11 @@ TEST_F(FileSystemTest, EveryCallOnAClosedHandleSaysSo) {
     EXPECT_EQ(files.getStatus(closed, status), -EBADF);
     EXPECT_EQ(files.read(closed, 0, &letter, 1), -EBADF);
     EXPECT_EQ(files.write(closed, &letter, 1), -EBADF);
+    EXPECT_EQ(files.findBytes(closed, 0), -EBADF);
+    EXPECT_EQ(files.findHole(closed, 0), -EBADF);
+    EXPECT_EQ(files.setLength(closed, 0), -EBADF);
     EXPECT_EQ(files.setPermissions(closed, 0600), -EBADF);
+    EXPECT_EQ(files.lock(closed), -EBADF);
     EXPECT_EQ(files.flush(closed), -EBADF);
     EXPECT_EQ(files.close(closed), -EBADF);
 }

@@ -1,13 +1,16 @@
 #include "platform/files/FolderLock.h"
 
+#include "platform/files/FileSystem.h"
 #include "support/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <optional>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace ballhaven::platform {
@@ -18,29 +21,34 @@ using support::TemporaryDirectory;
 
 TEST(FolderLock, TheFirstOnAFolderIsNotTakenAndTheSecondIs) {
     const TemporaryDirectory folder;
-    const FolderLock first(folder.Path());
-    const FolderLock second(folder.Path());
+    FolderLock first(folder.Path());
+    FolderLock second(folder.Path());
 
-    EXPECT_FALSE(first.IsTakenByAnother());
-    EXPECT_TRUE(second.IsTakenByAnother());
+    EXPECT_TRUE(first.Take());
+    EXPECT_FALSE(second.Take());
+    EXPECT_TRUE(first.Take()) << "it keeps what it has";
+    EXPECT_FALSE(second.Take());
 }
 
 TEST(FolderLock, AFolderIsFreeAgainWhenItsLockIsGone) {
     const TemporaryDirectory folder;
     std::optional<FolderLock> first(std::in_place, folder.Path());
+    FolderLock second(folder.Path());
+    ASSERT_TRUE(first->Take());
+    ASSERT_FALSE(second.Take());
     first.reset();
-    const FolderLock second(folder.Path());
 
-    EXPECT_FALSE(second.IsTakenByAnother());
+    EXPECT_TRUE(second.Take());
 }
 
 TEST(FolderLock, AnotherFolderIsFree) {
     const TemporaryDirectory folder;
     const TemporaryDirectory other;
-    const FolderLock first(folder.Path());
-    const FolderLock second(other.Path());
+    FolderLock first(folder.Path());
+    FolderLock second(other.Path());
 
-    EXPECT_FALSE(second.IsTakenByAnother());
+    EXPECT_TRUE(first.Take());
+    EXPECT_TRUE(second.Take());
     EXPECT_NE(first.Key(), second.Key());
 }
 
@@ -49,25 +57,45 @@ TEST(FolderLock, TheSameFolderByAnotherPathIsTheSame) {
     const TemporaryDirectory other;
     const fs::path link = fs::path(other.Path()) / "link";
     fs::create_directory_symlink(folder.Path(), link);
-    const FolderLock first(folder.Path());
-    const FolderLock second(link.string());
+    FolderLock first(folder.Path());
+    FolderLock second(link.string());
 
-    EXPECT_TRUE(second.IsTakenByAnother());
+    EXPECT_TRUE(first.Take());
+    EXPECT_FALSE(second.Take());
     EXPECT_EQ(first.Key(), second.Key());
 }
 
 TEST(FolderLock, NothingIsWrittenIntoTheFolder) {
     const TemporaryDirectory folder;
-    const FolderLock lock(folder.Path());
+    FolderLock lock(folder.Path());
 
+    EXPECT_TRUE(lock.Take());
     EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
-TEST(FolderLock, AFolderThatCannotBeOpenedHasNoOtherLock) {
-    const FolderLock lock("/no/such/folder");
+/// The number of the error that work ends in, 0 for none.
+template <typename Work>
+int ErrorOf(const Work& work) {
+    try {
+        work();
+        return 0;
+    } catch (const std::system_error& error) {
+        return error.code().value();
+    }
+}
 
-    EXPECT_FALSE(lock.IsTakenByAnother());
-    EXPECT_EQ(lock.Key(), "");
+TEST(FolderLock, AFolderThatCannotBeOpenedIsAnError) {
+    EXPECT_EQ(ErrorOf([] { const FolderLock lock("/no/such/folder"); }), ENOENT);
+}
+
+TEST(FolderLock, AFolderThatCannotBeLockedForAnyOtherReasonIsAnErrorAndNobodysOwn) {
+    const TemporaryDirectory folder;
+    for (const int error : {ENOLCK, EBADF, EOPNOTSUPP, EIO}) {
+        fileSystem.lock = [error](int) { return -error; };
+        FolderLock lock(folder.Path());
+        EXPECT_EQ(ErrorOf([&] { (void)lock.Take(); }), error);
+    }
+    fileSystem = SystemFiles();
 }
 
 TEST(FolderLock, AKilledProcessLeavesTheFolderFree) {
@@ -76,8 +104,8 @@ TEST(FolderLock, AKilledProcessLeavesTheFolderFree) {
     ASSERT_EQ(pipe(ready), 0);
     const pid_t child = fork();
     if (child == 0) {
-        const FolderLock lock(folder.Path());
-        const char sign = lock.IsTakenByAnother() ? 'n' : 'y';
+        FolderLock lock(folder.Path());
+        const char sign = lock.Take() ? 'y' : 'n';
         if (write(ready[1], &sign, 1) == 1) {
             pause();
         }
@@ -86,13 +114,13 @@ TEST(FolderLock, AKilledProcessLeavesTheFolderFree) {
     char sign = ' ';
     ASSERT_EQ(read(ready[0], &sign, 1), 1);
     EXPECT_EQ(sign, 'y');
-    EXPECT_TRUE(FolderLock(folder.Path()).IsTakenByAnother());
+    EXPECT_FALSE(FolderLock(folder.Path()).Take());
 
     kill(child, SIGKILL);
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
     close(ready[0]);
     close(ready[1]);
-    EXPECT_FALSE(FolderLock(folder.Path()).IsTakenByAnother());
+    EXPECT_TRUE(FolderLock(folder.Path()).Take());
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ void RefuseTheSurroundings() {
     platform::services.executableDirectory = [] { return std::string("/nowhere"); };
     platform::services.shortDatePattern = [](const std::string&) { return std::string("M/d/yyyy"); };
     platform::services.earlierInstanceRuns = [] { return false; };
-    platform::services.activateApplication = [](const std::string&) {};
+    platform::services.activateApplication = [](const std::string&) { return true; };
 }
 
 }  // namespace

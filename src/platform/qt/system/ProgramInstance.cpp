@@ -3,22 +3,20 @@
 #include "platform/Application.h"
 #include "platform/Guard.h"
 #include "platform/files/FolderLock.h"
-#include "platform/qt/widgets/Conversions.h"
 
-#include <QLocalServer>
-#include <QLocalSocket>
-#include <QThread>
-
+#include <chrono>
 #include <cstdlib>
 
 namespace ballhaven::platform {
 
 namespace {
 
-constexpr int longestMessage = 4096;
-constexpr int connectAttempts = 20;
-constexpr int attemptPause = 100;     // milliseconds
-constexpr int answerPatience = 3000;  // milliseconds
+using namespace std::chrono_literals;
+
+constexpr int answerPatience = 2500;  // milliseconds
+
+// A visitor speaks as soon as it has connected. One that comes too late for this tries again.
+constexpr auto visitorPatience = 100ms;
 
 /// What a desktop hands to a program that it starts, so that the program may bring a window to the front.
 std::string ActivationToken() {
@@ -31,14 +29,6 @@ std::string ActivationToken() {
     return {};
 }
 
-#ifdef __linux__
-constexpr QLocalServer::SocketOption serverOptions = QLocalServer::AbstractNamespaceOption;
-constexpr QLocalSocket::SocketOption socketOptions = QLocalSocket::AbstractNamespaceOption;
-#else
-constexpr QLocalServer::SocketOption serverOptions = QLocalServer::UserAccessOption;
-constexpr QLocalSocket::SocketOption socketOptions = QLocalSocket::NoOptions;
-#endif
-
 }  // namespace
 
 ProgramInstance::ProgramInstance() = default;
@@ -47,68 +37,80 @@ ProgramInstance::~ProgramInstance() = default;
 bool ProgramInstance::BecomeFirst(const std::string& directory) {
     if (lock == nullptr) {
         lock = std::make_unique<FolderLock>(directory);
-        if (!lock->IsTakenByAnother() && !lock->Key().empty()) {
-            Listen();
-        }
     }
-    return !lock->IsTakenByAnother();
+    const bool isFirst = lock->Take();
+    if (isFirst && listener == nullptr) {
+        Listen();
+    }
+    return isFirst;
 }
 
-QString ProgramInstance::ServerName() const {
-    return QStringLiteral("ballhaven-") + QString::fromStdString(lock->Key());
+std::string ProgramInstance::SocketPath() const {
+    return PrivateSocketPath("ballhaven-" + lock->Key());
 }
 
 void ProgramInstance::Listen() {
-    server = std::make_unique<QLocalServer>();
-    server->setSocketOptions(serverOptions);
-    QLocalServer::removeServer(ServerName());  // of a process that was killed: the lock says that none is alive
-    QObject::connect(server.get(), &QLocalServer::newConnection, server.get(), [this] {
-        QLocalSocket* const visitor = server->nextPendingConnection();
-        QObject::connect(visitor, &QLocalSocket::disconnected, visitor, &QObject::deleteLater);
-        QObject::connect(visitor, &QLocalSocket::readyRead, visitor, [this, visitor] { Serve(*visitor); });
-    });
-    server->listen(ServerName());
+    listener = std::make_unique<InstanceListener>(SocketPath());
+    if (listener->Number() < 0) {
+        return;  // nobody will be answered, and is told so
+    }
+    arrivals = std::make_unique<QSocketNotifier>(listener->Number(), QSocketNotifier::Read);
+    QObject::connect(arrivals.get(), &QSocketNotifier::activated, [this] { Receive(); });
+    visitorsTime.setSingleShot(true);
+    visitorsTime.setInterval(visitorPatience);
+    QObject::connect(&visitorsTime, &QTimer::timeout, [this] { Dismiss(); });
 }
 
-// A visitor says two lines: the title of the application that it looks for, and the token.
-void ProgramInstance::Serve(QLocalSocket& visitor) const {
-    const QByteArray waiting = visitor.peek(longestMessage);
-    if (waiting.count('\n') < 2) {
-        if (waiting.size() == longestMessage) {
-            visitor.abort();
-        }
-        return;
-    }
-    const std::string title = visitor.readLine().trimmed().toStdString();
-    const std::string token = visitor.readLine().trimmed().toStdString();
-    if (title == ApplicationTitle() && comeToFront) {
-        RunGuarded([&] { comeToFront(token); });
-    }
-    visitor.write("done\n");
-    visitor.flush();
-    visitor.disconnectFromServer();
+void ProgramInstance::Leave() {
+    Dismiss();
+    arrivals.reset();
+    listener.reset();
 }
 
-void ProgramInstance::ActivateFirst(const std::string& title) const {
-    if (lock == nullptr || !lock->IsTakenByAnother()) {
+void ProgramInstance::Receive() {
+    visitor = listener->LetIn();
+    if (!visitor) {
         return;
     }
-    QLocalSocket socket;
-    socket.setSocketOptions(socketOptions);
-    // The first process may hold its lock already and not listen yet.
-    for (int attempt = 0; attempt < connectAttempts; ++attempt) {
-        socket.connectToServer(ServerName());
-        if (socket.waitForConnected(answerPatience)) {
+    arrivals->setEnabled(false);
+    visitorsWords.reset(new QSocketNotifier(visitor->Number(), QSocketNotifier::Read));
+    QObject::connect(visitorsWords.get(), &QSocketNotifier::activated, [this] { HearVisitor(); });
+    visitorsTime.start();
+}
+
+void ProgramInstance::HearVisitor() {
+    switch (visitor->Listen()) {
+        case InstanceVisitor::State::Speaking:
+            return;
+        case InstanceVisitor::State::HasAsked:
+            Serve(visitor->Request());
+            visitor->Answer();
             break;
-        }
-        QThread::msleep(attemptPause);
+        case InstanceVisitor::State::Gone:
+            break;
     }
-    if (socket.state() != QLocalSocket::ConnectedState) {
+    Dismiss();
+}
+
+void ProgramInstance::Serve(const InstanceRequest& request) const {
+    if (request.title == ApplicationTitle() && comeToFront) {
+        RunGuarded([&] { comeToFront(request.token); });
+    }
+}
+
+void ProgramInstance::Dismiss() {
+    if (!visitor) {
         return;
     }
-    socket.write(QByteArray::fromStdString(title + "\n" + ActivationToken() + "\n"));
-    socket.flush();
-    socket.waitForReadyRead(answerPatience);
+    visitorsTime.stop();
+    visitorsWords->setEnabled(false);
+    visitorsWords.reset();
+    visitor.reset();
+    arrivals->setEnabled(true);
+}
+
+bool ProgramInstance::ActivateFirst(const std::string& title) const {
+    return AskFirstInstance(SocketPath(), {title, ActivationToken()}, answerPatience);
 }
 
 }  // namespace ballhaven::platform

@@ -3,6 +3,7 @@
 #include "platform/Application.h"
 #include "platform/Services.h"
 #include "platform/qt/system/Appearance.h"
+#include "platform/qt/system/EndWatch.h"
 #include "platform/qt/system/ProgramInstance.h"
 #include "platform/qt/system/QtServices.h"
 #include "platform/qt/widgets/Conversions.h"
@@ -12,6 +13,8 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QTimer>
+
+#include <optional>
 
 // The linker takes the pictures out of their library only when they are asked for, which has to be done outside every
 // namespace.
@@ -39,6 +42,7 @@ struct QtApplication::Parts {
     QApplication application;
     QtToolkit qtToolkit;
     ProgramInstance instance;
+    std::optional<EndWatch> endWatch;
 };
 
 QtApplication::QtApplication(int& argc, char** argv) {
@@ -56,6 +60,10 @@ QtApplication::QtApplication(int& argc, char** argv) {
 QtApplication::~QtApplication() {
     toolkit = nullptr;
     services = Services();
+}
+
+void QtApplication::CloseWhenAsked() {
+    parts->endWatch.emplace(parts->application);
 }
 
 int QtApplication::Run() {

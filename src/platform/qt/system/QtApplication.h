@@ -14,6 +14,9 @@ class QtApplication {
     QtApplication(const QtApplication&) = delete;
     QtApplication& operator=(const QtApplication&) = delete;
 
+    /// Closes the program in order from now on when anything outside wants it to end.
+    void CloseWhenAsked();
+
     /// Runs the event loop until the last window has closed, and returns the exit code.
     [[nodiscard]] int Run();
 

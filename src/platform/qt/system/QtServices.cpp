@@ -53,7 +53,10 @@ void InstallQtServices(QtToolkit& qtToolkit, ProgramInstance& instance) {
     services.showMessageBox = [&qtToolkit](const MessageBoxRequest& request) {
         return ShowMessageDialog(request, WindowInCharge(qtToolkit));
     };
-    services.endProcess = [](int exitCode) { std::_Exit(exitCode); };
+    services.endProcess = [&instance](int exitCode) {
+        instance.Leave();
+        std::_Exit(exitCode);
+    };
     services.executableDirectory = ExecutableDirectory;
     services.systemDirectory = SystemDirectory;
     services.shortDatePattern = ShortDatePattern;
@@ -62,7 +65,7 @@ void InstallQtServices(QtToolkit& qtToolkit, ProgramInstance& instance) {
     services.monthName = MonthName;
     services.shortDayName = ShortDayName;
     services.earlierInstanceRuns = [&instance] { return !instance.BecomeFirst(ExecutableDirectory()); };
-    services.activateApplication = [&instance](const std::string& title) { instance.ActivateFirst(title); };
+    services.activateApplication = [&instance](const std::string& title) { return instance.ActivateFirst(title); };
 }
 
 }  // namespace ballhaven::platform

@@ -11,16 +11,10 @@
 #include <filesystem>
 #include <system_error>
 
-#ifdef _WIN32
-#include <array>
-#include <windows.h>
-#endif
-
 namespace ballhaven::platform {
 
 namespace {
 
-#ifndef _WIN32
 /// The locale by which the user's system writes dates.
 std::string DateLocale() {
     for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"}) {
@@ -31,7 +25,6 @@ std::string DateLocale() {
     }
     return {};
 }
-#endif
 
 // Some locales put blanks or invisible marks of the writing direction beside their separators. Left there, they would
 // be taken for separators themselves, or for one of the letters.
@@ -61,33 +54,14 @@ bool CanBeWritten(const QLocale& locale) {
 }  // namespace
 
 std::string ExecutableDirectory() {
-#ifdef __linux__
     // A folder's name need not be text in any encoding; the system's own link has its very bytes.
     std::error_code failure;
     const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", failure);
     if (!failure) {
         return executable.parent_path().string();
     }
-#endif
     return QCoreApplication::applicationDirPath().toLocal8Bit().toStdString();
 }
-
-#ifdef _WIN32
-
-std::string SystemDirectory() {
-    std::array<char, 145> buffer{};
-    GetWindowsDirectoryA(buffer.data(), static_cast<UINT>(buffer.size()));
-    return buffer.data();
-}
-
-std::string ShortDatePattern(const std::string& systemDirectory) {
-    std::array<char, 64> buffer{};
-    GetPrivateProfileStringA("Intl", "sShortDate", "", buffer.data(), static_cast<DWORD>(buffer.size()),
-                             (systemDirectory + "win.ini").c_str());
-    return buffer.data();
-}
-
-#else
 
 std::string SystemDirectory() {
     return "/";
@@ -96,8 +70,6 @@ std::string SystemDirectory() {
 std::string ShortDatePattern(const std::string&) {
     return ShortDatePatternOfLocale(DateLocale());
 }
-
-#endif
 
 std::string ShortDatePatternOfLocale(const std::string& name) {
     const std::string language = name.substr(0, name.find_first_of(".@"));

@@ -6,9 +6,19 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
+#include <csignal>
 #include <filesystem>
+#include <iterator>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <system_error>
 #include <thread>
+#include <unistd.h>
 
 namespace ballhaven::platform {
 namespace {
@@ -18,6 +28,7 @@ using support::TemporaryDirectory;
 class ProgramInstanceTest : public testing::Test {
   protected:
     void SetUp() override {
+        qputenv("XDG_RUNTIME_DIR", runtime.Path().c_str());
         first.comeToFront = [this](const std::string& token) { tokens.push_back(token); };
         ASSERT_TRUE(first.BecomeFirst(folder.Path()));
     }
@@ -25,6 +36,7 @@ class ProgramInstanceTest : public testing::Test {
     void TearDown() override {
         qunsetenv("XDG_ACTIVATION_TOKEN");
         qunsetenv("DESKTOP_STARTUP_ID");
+        qunsetenv("XDG_RUNTIME_DIR");
     }
 
     /// Starts a second instance that asks for an application of a title, and lets the first one serve it.
@@ -33,7 +45,7 @@ class ProgramInstanceTest : public testing::Test {
         std::thread second([&] {
             ProgramInstance instance;
             EXPECT_FALSE(instance.BecomeFirst(folder.Path()));
-            instance.ActivateFirst(title);
+            answered = instance.ActivateFirst(title);
             done = true;
         });
         EXPECT_TRUE(QTest::qWaitFor([&] { return done.load(); }));
@@ -43,6 +55,10 @@ class ProgramInstanceTest : public testing::Test {
     TemporaryDirectory folder;
     ProgramInstance first;
     std::vector<std::string> tokens;
+    std::atomic<bool> answered = false;
+
+  private:
+    TemporaryDirectory runtime;
 };
 
 TEST_F(ProgramInstanceTest, TheFirstOneStaysTheFirst) {
@@ -60,6 +76,7 @@ TEST_F(ProgramInstanceTest, TheSecondOneHandsItsTokenToTheFirst) {
     qputenv("DESKTOP_STARTUP_ID", "ballhaven_TIME77");
     AskFor("Ballhaven");
 
+    EXPECT_TRUE(answered);
     EXPECT_EQ(tokens, std::vector<std::string>{"ballhaven_TIME77"});
 }
 
@@ -89,10 +106,79 @@ TEST_F(ProgramInstanceTest, NothingIsLeftInTheFolder) {
     EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
 }
 
-TEST_F(ProgramInstanceTest, TheFirstOneAsksNobody) {
-    first.ActivateFirst("Ballhaven");
+TEST_F(ProgramInstanceTest, AFolderThatCannotBeLockedIsAnError) {
+    ProgramInstance instance;
 
-    EXPECT_TRUE(tokens.empty());
+    EXPECT_THROW((void)instance.BecomeFirst("/no/such/folder"), std::system_error);
+}
+
+TEST_F(ProgramInstanceTest, OneThatIsAboutToEndAnswersNobodyAndLeavesNoSocket) {
+    first.Leave();
+    ProgramInstance second;
+    ASSERT_FALSE(second.BecomeFirst(folder.Path()));
+
+    EXPECT_FALSE(second.ActivateFirst("Ballhaven"));
+    EXPECT_TRUE(std::filesystem::is_empty(qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString()));
+}
+
+TEST_F(ProgramInstanceTest, ASecondOneBecomesTheFirstWhenThatOneHasGone) {
+    auto gone = std::make_unique<ProgramInstance>();
+    const TemporaryDirectory other;
+    ASSERT_TRUE(gone->BecomeFirst(other.Path()));
+    ProgramInstance second;
+    ASSERT_FALSE(second.BecomeFirst(other.Path()));
+    gone.reset();
+
+    EXPECT_TRUE(second.BecomeFirst(other.Path()));
+}
+
+/// Open handles of this process.
+long OpenHandles() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator());
+}
+
+/// Connects to the only socket of the session so many times from another process, which says nothing and stays.
+pid_t ConnectIdly(int connections) {
+    const std::string folder = qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString();
+    const std::string path = std::filesystem::directory_iterator(folder)->path().string();
+    const pid_t child = fork();
+    if (child == 0) {
+        rlimit limit{};
+        getrlimit(RLIMIT_NOFILE, &limit);
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limit);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        path.copy(address.sun_path, path.size());
+        for (int i = 0; i < connections; ++i) {
+            const int connection = socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0);
+            connect(connection, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+        }
+        pause();
+        _exit(0);
+    }
+    return child;
+}
+
+TEST_F(ProgramInstanceTest, AThousandIdleVisitorsTakeNoMoreThanOneAndTheNextOneIsServed) {
+    const long handlesBefore = OpenHandles();
+    const pid_t idlers = ConnectIdly(1000);
+    long mostHandles = 0;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        mostHandles = std::max(mostHandles, OpenHandles());
+        return mostHandles > handlesBefore;
+    }));
+    for (int i = 0; i < 20; ++i) {
+        QTest::qWait(10);
+        mostHandles = std::max(mostHandles, OpenHandles());
+    }
+    AskFor("Ballhaven");
+    kill(idlers, SIGKILL);
+    waitpid(idlers, nullptr, 0);
+
+    EXPECT_EQ(mostHandles, handlesBefore + 1);
+    EXPECT_TRUE(answered);
+    EXPECT_EQ(tokens, std::vector<std::string>{""});
 }
 
 }  // namespace
