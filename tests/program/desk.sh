@@ -108,12 +108,17 @@ answer() {
     keys Return
 }
 
-exec 3<>"$work/display"
-Xvfb -displayfd 3 -screen 0 1800x1300x24 >/dev/null 2>&1 &
-until_true "the X server runs" test -s "$work/display"
-DISPLAY=:$(head -n 1 "$work/display")
-export DISPLAY
-openbox >/dev/null 2>&1 &
-until_true "the window manager runs" has_manager
+# Opens a display of its own, with a window manager.
+open_display() {
+    : >"$work/display"
+    Xvfb -displayfd 3 -screen 0 1800x1300x24 3>"$work/display" >/dev/null 2>&1 &
+    server=$!
+    until_true "the X server runs" test -s "$work/display"
+    DISPLAY=:$(head -n 1 "$work/display")
+    export DISPLAY
+    openbox >/dev/null 2>&1 &
+    until_true "the window manager runs" has_manager
+}
+open_display
 
 cp "$ballhaven" "$folder/ballhaven"
