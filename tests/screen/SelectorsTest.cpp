@@ -325,6 +325,16 @@ TEST_F(Selectors, AClickOnAnOptionMarksEveryOtherTableAsToBeRebuilt) {
     EXPECT_TRUE(appState.hotPairStale && appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
 }
 
+TEST_F(Selectors, AClickOnTheOptionThatIsChosenCountsAnewToo) {
+    ASSERT_TRUE(Usable<QRadioButton>("optHot(2)").isChecked());
+    appState.hotPairStale = appState.pairedOnceStale = appState.repeaterStale = appState.noHitterStale = false;
+    appState.hotSortChoice = 0;
+    ClickAt("optHot(2)", {6, 6});
+    EXPECT_TRUE(appState.hotPairStale && appState.pairedOnceStale && appState.repeaterStale && appState.noHitterStale);
+    EXPECT_EQ(appState.hotSortChoice, 2);
+    EXPECT_EQ(HotRows(), (Texts{"1: 10", "5: 10", "2: 9", "3: 9", "8: 1", "9: 1"}));
+}
+
 TEST_F(Selectors, AClickOnAnOptionRebuildsTheTableOnShowAndLeavesTheOthersStale) {
     ChooseEntry("cboList(2)", 2);
     ChooseEntry("cboList(2)", 1);

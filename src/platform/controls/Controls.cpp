@@ -41,9 +41,12 @@ void DropDownList::SelectByUser(int index) {
 }
 
 void OptionButton::Choose() {
-    if (chosen) {
-        return;
+    if (!chosen) {
+        ChooseByUser();
     }
+}
+
+void OptionButton::ChooseByUser() {
     for (OptionButton& other : group) {
         if (&other != this && other.chosen) {
             other.chosen = false;

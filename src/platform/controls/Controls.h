@@ -67,6 +67,9 @@ class OptionButton : public Control {
     /// Chooses this button and no other of its group. Raises `click` when it was not chosen before.
     void Choose();
 
+    /// The user's choice of this button, which raises `click` also when it is chosen already.
+    void ChooseByUser();
+
     Property<std::string> caption{*this};
     Handler click;
 

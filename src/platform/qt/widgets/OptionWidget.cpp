@@ -9,7 +9,7 @@ namespace ballhaven::platform {
 OptionWidget::OptionWidget(OptionButton& shownOption, QWidget* parent)
     : ControlWidget(shownOption, parent), option(shownOption) {
     setAutoExclusive(false);
-    connect(this, &QRadioButton::clicked, this, [this] { Report([this] { option.Choose(); }); });
+    connect(this, &QRadioButton::clicked, this, [this] { Report([this] { option.ChooseByUser(); }); });
     Refresh();
 }
 
@@ -45,7 +45,7 @@ void OptionWidget::ChooseNeighbour(int step) {
         OptionButton& neighbour = option.group[static_cast<std::size_t>(index)];
         if (*neighbour.visible && *neighbour.enabled) {
             neighbour.TakeFocus();
-            Report([&neighbour] { neighbour.Choose(); });
+            Report([&neighbour] { neighbour.ChooseByUser(); });
             return;
         }
     }

@@ -49,8 +49,15 @@ TEST_F(OptionWidgetTest, AClickChoosesTheButtonAndFreesTheOthers) {
     EXPECT_EQ(clicks, std::vector<int>{0});
 }
 
-TEST_F(OptionWidgetTest, AClickOnTheChosenButtonLeavesItChosenAndReportsNothing) {
+TEST_F(OptionWidgetTest, AClickOnTheChosenButtonLeavesItChosenAndIsReported) {
     Click(2);
+
+    EXPECT_TRUE(Button(2)->isChecked());
+    EXPECT_EQ(clicks, std::vector<int>{2});
+}
+
+TEST_F(OptionWidgetTest, TheProgramsChoiceOfTheChosenButtonIsNotReported) {
+    options[2].Choose();
 
     EXPECT_TRUE(Button(2)->isChecked());
     EXPECT_TRUE(clicks.empty());
