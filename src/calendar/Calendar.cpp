@@ -12,8 +12,10 @@
 #include "state/DateMask.h"
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace ballhaven {
 
@@ -35,7 +37,7 @@ constexpr int openingTop = 1000;
 void ShowFocusRect(bool shown) {
     if (ahcCalendar.dragging != shown) {
         ahcCalendar.dragging = shown;
-        ahcCalendar.surface.DrawFocusRect(ahcCalendar.focusRect);
+        ahcCalendar.surface.DrawFocusRect(ahcCalendar.aim.focusRect);
     }
 }
 
@@ -47,16 +49,40 @@ void Open() {
                               frmMainForm.window.Top() + picture.top + openingTop);
 }
 
+/// Gives the calendar its size by the texts of its surface.
+void Measure() {
+    ahcCalendar.measures = MeasuresOf(ahcCalendar.surface.TextHeight(), ahcCalendar.surface.TextWidth("777"));
+    const int width = ahcCalendar.measures.width;
+    const int height = ahcCalendar.measures.height;
+    ahcCalendar.window.Resize(width + platform::Window::frameWidth, height + platform::Window::frameHeight);
+    ahcCalendar.surface.bounds = platform::Bounds{0, 0, width, height};
+}
+
+void SelectDate(std::chrono::year_month_day date) {
+    ahcCalendar.Today = date;
+    ahcCalendar.month = MonthOf(date, platform::services.today());
+}
+
 void Prepare() {
-    MeasureCalendar();
-    FillWeekdayLetters();
-    if (!ahcCalendar.Today.ok()) {
-        ahcCalendar.Today = platform::services.today();
-    }
+    Measure();
+    ahcCalendar.weekdayLetter = LettersOfWeek(platform::services.firstDayOfWeek(), platform::services.shortDayName);
     if (ahcCalendar.OutputFormat.empty()) {
         ahcCalendar.OutputFormat = DateMaskOf(appState.shortDateFormat);
     }
-    LayOutMonth();
+    SelectDate(ahcCalendar.Today.ok() ? ahcCalendar.Today : platform::services.today());
+}
+
+void Paint(platform::Canvas& canvas) {
+    MonthPicture picture;
+    picture.measures = ahcCalendar.measures;
+    picture.month = ahcCalendar.month;
+    picture.title = FormatDate(ahcCalendar.month.shownMonth / 1, "mmmm yyyy");
+    for (int column = 1; column <= daysOfWeek; ++column) {
+        picture.columnLetters[static_cast<std::size_t>(column)] =
+            LetterOverColumn(ahcCalendar.month, ahcCalendar.weekdayLetter, platform::services.firstDayOfWeek(), column);
+    }
+    picture.textWidth = [](std::string_view text) { return ahcCalendar.surface.TextWidth(text); };
+    PaintMonth(canvas, picture);
 }
 
 /// A closing that has been refused leaves no result: any other way out is a "Cancel".
@@ -71,12 +97,12 @@ void Close(std::int16_t button) {
 }
 
 void PressLeft(PixelPoint place) {
-    if (ahcCalendar.prevRect.Holds(place)) {
-        StepMonth(-1);
-    } else if (ahcCalendar.nextRect.Holds(place)) {
-        StepMonth(1);
-    } else if (IsInDayArea(place)) {
-        AimAt(place);
+    if (ahcCalendar.measures.prevRect.Holds(place)) {
+        SelectDate(MonthsOnward(ahcCalendar.Today, -1));
+    } else if (ahcCalendar.measures.nextRect.Holds(place)) {
+        SelectDate(MonthsOnward(ahcCalendar.Today, 1));
+    } else if (IsInDayArea(ahcCalendar.measures, place)) {
+        ahcCalendar.aim = CellAt(ahcCalendar.measures, place);
         ShowFocusRect(true);
     }
     ahcCalendar.surface.Repaint();
@@ -91,9 +117,9 @@ void Press(MouseButton button, PixelPoint place) {
 }
 
 void Drag(bool leftHeld, PixelPoint place) {
-    if (leftHeld && ahcCalendar.dragging && IsInDayArea(place)) {
+    if (leftHeld && ahcCalendar.dragging && IsInDayArea(ahcCalendar.measures, place)) {
         ShowFocusRect(false);
-        AimAt(place);
+        ahcCalendar.aim = CellAt(ahcCalendar.measures, place);
         ShowFocusRect(true);
     }
 }
@@ -101,12 +127,14 @@ void Drag(bool leftHeld, PixelPoint place) {
 void Release() {
     if (ahcCalendar.dragging) {
         ShowFocusRect(false);
-        SelectAimedDay();
+        const SelectedDay day = DayOfCell(ahcCalendar.month, ahcCalendar.aim, platform::services.today());
+        ahcCalendar.Today = day.date;
+        ahcCalendar.month = day.month;
         ahcCalendar.surface.Repaint();
     }
 }
 
-bool ServeKey(SurfaceKey key) {
+bool CloseByEscape(SurfaceKey key) {
     if (key == SurfaceKey::Escape) {
         Close(cancelButton);
     }
@@ -114,8 +142,8 @@ bool ServeKey(SurfaceKey key) {
 }
 
 // QUIRK CALENDAR-KEYS-1: the buttons answer the mouse alone; Enter, the space bar and the underlined letters do
-// nothing. It is meant: a date is stored by a deliberate click, and Enter is the key that the user has just pressed in
-// the log. Letting the keys through would store dates that nobody looked at.
+// nothing. Enter is the key that the user has just pressed in the log: letting it through would store the offered date
+// before anybody has looked at it.
 void ReleaseOverButton(std::int16_t index, MouseButton mouseButton) {
     if (mouseButton != MouseButton::Right) {
         const platform::WaitPointer waiting;
@@ -171,11 +199,11 @@ void WireCalendar() {
     ahcCalendar.window.layout = LayOutCalendar;
     ahcCalendar.window.load = Open;
     ahcCalendar.prepare = Prepare;
-    ahcCalendar.surface.paint = PaintCalendar;
+    ahcCalendar.surface.paint = Paint;
     ahcCalendar.surface.mouseDown = Press;
     ahcCalendar.surface.mouseMove = Drag;
     ahcCalendar.surface.mouseUp = [](MouseButton, PixelPoint) { Release(); };
-    ahcCalendar.surface.keyDown = ServeKey;
+    ahcCalendar.surface.keyDown = CloseByEscape;
     ahcCalendar.cmdCal[0].mouseUp = [](MouseButton button) { ReleaseOverButton(cancelButton, button); };
     ahcCalendar.cmdCal[1].mouseUp = [](MouseButton button) { ReleaseOverButton(okButton, button); };
 }

@@ -1,12 +1,9 @@
 #include "calendar/MonthLayout.h"
 
-#include "forms/CalendarForm.h"
-#include "platform/Services.h"
 #include "state/RuntimeFailure.h"
 #include "state/modUTILS.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 
 namespace ballhaven {
@@ -15,8 +12,6 @@ namespace {
 
 using modUTILS::ToInt16;
 using platform::PixelPoint;
-using platform::twipsPerPixel;
-using platform::Window;
 using std::chrono::days;
 using std::chrono::months;
 using std::chrono::sys_days;
@@ -24,12 +19,9 @@ using std::chrono::weekday;
 using std::chrono::year_month;
 using std::chrono::year_month_day;
 
-constexpr int weekLength = 7;
 constexpr int firstDayRow = 2;
 constexpr int firstRowOfNextMonth = 6;
 constexpr int dayAreaLeft = 5;
-constexpr std::int16_t shownMonthColour = 0;
-constexpr std::int16_t besideColour = 8;
 
 int LastDayOf(year_month month) {
     return static_cast<int>(static_cast<unsigned>((month / std::chrono::last).day()));
@@ -44,135 +36,133 @@ year_month_day DateInMonth(year_month month, int day) {
     return sys_days{month / 1} + days{day - 1};
 }
 
-void PutCell(int cell, int day, std::int16_t colour) {
-    ahcCalendar.dayNumber[static_cast<std::size_t>(cell)] = ToInt16(day);
-    ahcCalendar.dayColour[static_cast<std::size_t>(cell)] = colour;
+/// The cell of the first of a month, 1 for Monday to 7 for Sunday.
+int FirstCellOf(year_month month) {
+    return static_cast<int>(weekday{sys_days{month / 1}}.iso_encoding());
 }
 
-void PutDayOfMonth(int cell, year_month_day date) {
-    PutCell(cell, DayOf(date), shownMonthColour);
-    if (date == ahcCalendar.Today) {
-        ahcCalendar.selectedCell = ToInt16(cell);
-    }
-    if (date == platform::services.today()) {
-        ahcCalendar.todayCell = ToInt16(cell);
-    }
+void PutCell(CalendarMonth& month, int cell, int day, std::int16_t colour) {
+    month.dayNumber[static_cast<std::size_t>(cell)] = ToInt16(day);
+    month.dayColour[static_cast<std::size_t>(cell)] = colour;
 }
 
-/// Days from the system's first day of the week to a day, 0 to 6.
-int PlaceInWeek(weekday day) {
-    return static_cast<int>((day - platform::services.firstDayOfWeek()).count());
+/// The cell of a date in a month, 0 for a date of another one.
+std::int16_t CellOf(year_month_day date, year_month month) {
+    const bool isInMonth = date.year() / date.month() == month;
+    return isInMonth ? ToInt16(FirstCellOf(month) + DayOf(date) - 1) : std::int16_t{0};
 }
 
-/// The cell under the mouse. Cell 0 and the cells before it stand on the line above the first row of days.
-int AimedCell() {
-    return (ahcCalendar.hitRow - firstDayRow) * weekLength + ahcCalendar.hitColumn + 1;
-}
-
-void SelectInMonth(year_month month, int day) {
-    ahcCalendar.Today = DateInMonth(month, day);
-    LayOutMonth();
+/// The number of a cell of days. Cell 0 and the cells before it stand on the line above the first row.
+int NumberOf(const AimedCell& cell) {
+    return (cell.hitRow - firstDayRow) * daysOfWeek + cell.hitColumn + 1;
 }
 
 }  // namespace
 
-void MeasureCalendar() {
-    ahcCalendar.charHeight = ToInt16(ahcCalendar.surface.TextHeight());
-    ahcCalendar.cellWidth = ToInt16(ahcCalendar.surface.TextWidth("777"));
-    const int width = 8 * ahcCalendar.cellWidth * twipsPerPixel;
-    const int height = 23 * ahcCalendar.charHeight * twipsPerPixel / 2;  // 11.5 lines
-    ahcCalendar.window.Resize(width + Window::frameWidth, height + Window::frameHeight);
-    ahcCalendar.surface.bounds = platform::Bounds{0, 0, width, height};
-
-    ahcCalendar.rowHeight = ToInt16(ahcCalendar.charHeight + 1);
-    ahcCalendar.gridLeft = modUTILS::Divide(std::lrint(InnerWidth() - 7.5 * ahcCalendar.cellWidth), 2);
-    ahcCalendar.gridTop = ToInt16(2 * ahcCalendar.rowHeight);
-    ahcCalendar.prevRect = {2, 2, 13, 13};
-    ahcCalendar.nextRect = {InnerWidth() - 14, 2, InnerWidth() - 2, 13};
+CalendarMeasures MeasuresOf(int charHeight, int cellWidth) {
+    CalendarMeasures measures;
+    measures.width = 8 * cellWidth * platform::twipsPerPixel;
+    measures.height = 23 * charHeight * platform::twipsPerPixel / 2;  // 11.5 lines
+    measures.charHeight = ToInt16(charHeight);
+    measures.cellWidth = ToInt16(cellWidth);
+    measures.rowHeight = ToInt16(charHeight + 1);
+    const int innerWidth = InnerWidth(measures);
+    measures.gridLeft = modUTILS::Divide(std::lrint(innerWidth - 7.5 * cellWidth), 2);
+    measures.gridTop = ToInt16(2 * measures.rowHeight);
+    measures.prevRect = {2, 2, 13, 13};
+    measures.nextRect = {innerWidth - 14, 2, innerWidth - 2, 13};
+    return measures;
 }
 
-int InnerWidth() {
-    return ahcCalendar.surface.bounds->width / twipsPerPixel;
+int InnerWidth(const CalendarMeasures& measures) {
+    return measures.width / platform::twipsPerPixel;
 }
 
-void FillWeekdayLetters() {
-    const weekday first = platform::services.firstDayOfWeek();
-    for (int i = 1; i <= weekLength; ++i) {
-        const std::string letter = platform::services.shortDayName(first + days{i - 1}).substr(0, 1);
-        ahcCalendar.weekdayLetter[static_cast<std::size_t>(i)] = letter;
-        ahcCalendar.weekdayLetter[static_cast<std::size_t>(i + weekLength)] = letter;
+WeekdayLetters LettersOfWeek(weekday first, const std::function<std::string(weekday)>& shortDayName) {
+    WeekdayLetters letters;
+    for (int i = 1; i <= daysOfWeek; ++i) {
+        const std::string letter = shortDayName(first + days{i - 1}).substr(0, 1);
+        letters[static_cast<std::size_t>(i)] = letter;
+        letters[static_cast<std::size_t>(i + daysOfWeek)] = letter;
     }
+    return letters;
 }
 
-// QUIRK CALENDAR-MONDAY-1: the rows of days begin with Monday, whatever day the system's week begins with. It is meant:
-// the columns of the calendar are the same on every machine. Only the letters come from the system; beginning the rows
-// with its first day would move every day of users who know the calendar by its columns.
-void LayOutMonth() {
-    ahcCalendar.shownMonth = ahcCalendar.Today.year() / ahcCalendar.Today.month();
-    ahcCalendar.selectedCell = 0;
-    ahcCalendar.todayCell = 0;
-    const auto firstCell = static_cast<int>(weekday{sys_days{ahcCalendar.shownMonth / 1}}.iso_encoding());
-    const int lastDayBefore = LastDayOf(ahcCalendar.shownMonth - months{1});
-    const int behindLastCell = firstCell + LastDayOf(ahcCalendar.shownMonth);
-    PutCell(0, 0, shownMonthColour);
+// QUIRK CALENDAR-MONDAY-1: the rows of days begin with Monday, whatever day the system's week begins with; only the
+// letters come from the system. Beginning the rows with its first day would move every day of users who know the
+// calendar by its columns.
+CalendarMonth MonthOf(year_month_day selected, year_month_day today) {
+    CalendarMonth month;
+    month.shownMonth = selected.year() / selected.month();
+    month.selectedCell = CellOf(selected, month.shownMonth);
+    month.todayCell = CellOf(today, month.shownMonth);
+    const int firstCell = FirstCellOf(month.shownMonth);
+    const int lastDayBefore = LastDayOf(month.shownMonth - months{1});
+    const int behindLastCell = firstCell + LastDayOf(month.shownMonth);
     for (int cell = 1; cell < firstCell; ++cell) {
-        PutCell(cell, lastDayBefore - firstCell + 1 + cell, besideColour);
+        PutCell(month, cell, lastDayBefore - firstCell + 1 + cell, besideColour);
     }
     for (int cell = firstCell; cell < behindLastCell; ++cell) {
-        PutDayOfMonth(cell, DateInMonth(ahcCalendar.shownMonth, cell - firstCell + 1));
+        PutCell(month, cell, cell - firstCell + 1, shownMonthColour);
     }
     for (int cell = behindLastCell; cell <= calendarCells; ++cell) {
-        PutCell(cell, cell - behindLastCell + 1, besideColour);
+        PutCell(month, cell, cell - behindLastCell + 1, besideColour);
     }
+    return month;
 }
 
-const std::string& LetterOverColumn(int column) {
-    const year_month month =
-        ahcCalendar.dayColour[1] == besideColour ? ahcCalendar.shownMonth - months{1} : ahcCalendar.shownMonth;
-    const weekday firstShown{sys_days{DateInMonth(month, ahcCalendar.dayNumber[1])}};
-    return ahcCalendar.weekdayLetter.at(static_cast<std::size_t>(column + PlaceInWeek(firstShown)));
+const std::string& LetterOverColumn(const CalendarMonth& month, const WeekdayLetters& letters, weekday firstDayOfWeek,
+                                    int column) {
+    const bool beginsBefore = month.dayColour[1] == besideColour;
+    const year_month first = beginsBefore ? month.shownMonth - months{1} : month.shownMonth;
+    const weekday firstShown{sys_days{DateInMonth(first, month.dayNumber[1])}};
+    const int placeInWeek = static_cast<int>((firstShown - firstDayOfWeek).count());
+    return letters.at(static_cast<std::size_t>(column + placeInWeek));
 }
 
-void StepMonth(int monthsOnward) {
-    const year_month month = ahcCalendar.shownMonth + months{monthsOnward};
-    SelectInMonth(month, std::min(DayOf(ahcCalendar.Today), LastDayOf(month)));
+year_month_day MonthsOnward(year_month_day date, int step) {
+    const year_month month = date.year() / date.month() + months{step};
+    return DateInMonth(month, std::min(DayOf(date), LastDayOf(month)));
 }
 
 // QUIRK CALENDAR-LINE-1: the line of pixels above the first row of days belongs to the days, but to no cell. In the
 // last column it selects the day before the first of the month, which no cell shows as selected; in any other column
-// the program ends with the failure of a subscript, and saves nothing. It is meant: the day area begins one pixel above
-// its cells, and what stands before cell 0 is no day. Beginning the area at its first cell would take the day before
-// the first away; holding the cell at 0 would select a day at which nobody pointed.
-bool IsInDayArea(PixelPoint place) {
+// the program ends with the failure of a subscript, and saves nothing. Beginning the area at its first cell would take
+// the day before the first away; holding the cell at 0 would select a day at which nobody pointed.
+bool IsInDayArea(const CalendarMeasures& measures, PixelPoint place) {
     const int x = place.x - dayAreaLeft;
     const int y = place.y + 1;
-    return 0 <= x && x < weekLength * ahcCalendar.cellWidth && 2 * ahcCalendar.rowHeight <= y &&
-           y < 8 * ahcCalendar.rowHeight;
+    return 0 <= x && x < daysOfWeek * measures.cellWidth && 2 * measures.rowHeight <= y && y < 8 * measures.rowHeight;
 }
 
-void AimAt(PixelPoint place) {
-    ahcCalendar.hitColumn = modUTILS::Divide(place.x - dayAreaLeft, ahcCalendar.cellWidth);
-    ahcCalendar.hitRow = modUTILS::Divide(place.y, ahcCalendar.rowHeight);
-    const int left = ahcCalendar.cellWidth * ahcCalendar.hitColumn + dayAreaLeft;
-    const int top = ahcCalendar.hitRow * ahcCalendar.rowHeight;
-    ahcCalendar.focusRect = {left, top, left + ahcCalendar.cellWidth + 1, top + ahcCalendar.rowHeight - 1};
+AimedCell CellAt(const CalendarMeasures& measures, PixelPoint place) {
+    AimedCell cell;
+    cell.hitColumn = modUTILS::Divide(place.x - dayAreaLeft, measures.cellWidth);
+    cell.hitRow = modUTILS::Divide(place.y, measures.rowHeight);
+    const int left = measures.cellWidth * cell.hitColumn + dayAreaLeft;
+    const int top = cell.hitRow * measures.rowHeight;
+    cell.focusRect = {left, top, left + measures.cellWidth + 1, top + measures.rowHeight - 1};
+    return cell;
 }
 
-void SelectAimedDay() {
-    const int cell = AimedCell();
+SelectedDay DayOfCell(const CalendarMonth& month, const AimedCell& aimed, year_month_day today) {
+    const int cell = NumberOf(aimed);
     if (cell < 0 || cell > calendarCells) {
         throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
     }
-    const int day = ahcCalendar.dayNumber[static_cast<std::size_t>(cell)];
-    const bool isBeside = ahcCalendar.dayColour[static_cast<std::size_t>(cell)] == besideColour;
-    if (isBeside && ahcCalendar.hitRow == firstDayRow) {
-        SelectInMonth(ahcCalendar.shownMonth - months{1}, day);
-    } else if (isBeside && ahcCalendar.hitRow >= firstRowOfNextMonth) {
-        SelectInMonth(ahcCalendar.shownMonth + months{1}, day);
-    } else {
-        ahcCalendar.Today = DateInMonth(ahcCalendar.shownMonth, day);
-        ahcCalendar.selectedCell = ToInt16(cell);
+    const int day = month.dayNumber[static_cast<std::size_t>(cell)];
+    const bool isBeside = month.dayColour[static_cast<std::size_t>(cell)] == besideColour;
+    if (isBeside && aimed.hitRow == firstDayRow) {
+        const year_month_day date = DateInMonth(month.shownMonth - months{1}, day);
+        return {date, MonthOf(date, today)};
     }
+    if (isBeside && aimed.hitRow >= firstRowOfNextMonth) {
+        const year_month_day date = DateInMonth(month.shownMonth + months{1}, day);
+        return {date, MonthOf(date, today)};
+    }
+    SelectedDay selected{DateInMonth(month.shownMonth, day), month};
+    selected.month.selectedCell = ToInt16(cell);
+    return selected;
 }
 
 }  // namespace ballhaven

@@ -1,37 +1,49 @@
 #pragma once
 
-#include "platform/controls/DrawingSurface.h"
+#include "state/CalendarMonth.h"
+
+#include <chrono>
+#include <functional>
+#include <string>
 
 namespace ballhaven {
 
-/// Gives the calendar its size by the texts of its surface, and sets `charHeight`, `cellWidth`, `rowHeight`,
-/// `gridLeft`, `gridTop`, `prevRect` and `nextRect`.
-void MeasureCalendar();
+/// The size of the calendar and its parts by its texts: the height of "X" and the width of "777", in pixels.
+[[nodiscard]] CalendarMeasures MeasuresOf(int charHeight, int cellWidth);
 
 /// Width of the calendar inside its frame, in pixels.
-[[nodiscard]] int InnerWidth();
+[[nodiscard]] int InnerWidth(const CalendarMeasures& measures);
 
-/// Fills `weekdayLetter` with the first letters of the system's short names of days, from its first day of the week on.
-void FillWeekdayLetters();
+/// The letters of the week from its first day on, of the short names that `shortDayName` gives.
+[[nodiscard]] WeekdayLetters LettersOfWeek(std::chrono::weekday first,
+                                           const std::function<std::string(std::chrono::weekday)>& shortDayName);
 
-/// Shows the month of `Today`: sets `shownMonth`, `dayNumber`, `dayColour`, `selectedCell` and `todayCell`.
-void LayOutMonth();
+/// The month of a selected date, as it is on the day `today`.
+[[nodiscard]] CalendarMonth MonthOf(std::chrono::year_month_day selected, std::chrono::year_month_day today);
 
-/// The letter over a column of days, 1 to 7.
-[[nodiscard]] const std::string& LetterOverColumn(int column);
+/// The letter over a column of days, 1 to 7, in a week that begins with `firstDayOfWeek`.
+[[nodiscard]] const std::string& LetterOverColumn(const CalendarMonth& month, const WeekdayLetters& letters,
+                                                  std::chrono::weekday firstDayOfWeek, int column);
 
-/// Goes back (-1) or forward (1) one month and shows it. The day of `Today` stays, but for one that the month does not
-/// have: that becomes its last one.
-void StepMonth(int months);
+/// A date so many months later, or earlier where `step` is negative. A day that the month does not have becomes its
+/// last one.
+[[nodiscard]] std::chrono::year_month_day MonthsOnward(std::chrono::year_month_day date, int step);
 
 /// Whether a place belongs to the cells of days.
-[[nodiscard]] bool IsInDayArea(platform::PixelPoint place);
+[[nodiscard]] bool IsInDayArea(const CalendarMeasures& measures, platform::PixelPoint place);
 
-/// Sets `hitColumn`, `hitRow` and `focusRect` to the cell at a place of the day area.
-void AimAt(platform::PixelPoint place);
+/// The cell at a place of the day area.
+[[nodiscard]] AimedCell CellAt(const CalendarMeasures& measures, platform::PixelPoint place);
 
-/// Selects the day of the cell at `hitColumn` and `hitRow`: sets `Today` and `selectedCell`, and goes to the month
-/// beside the one on show for a day of it. Raises the subscript failure for a cell before cell 0.
-void SelectAimedDay();
+/// A date, and the month that is on show once it is selected.
+struct SelectedDay {
+    std::chrono::year_month_day date;
+    CalendarMonth month;
+};
+
+/// The day of a cell. A day of the months beside brings its month on show, as it is on the day `today`; any other stays
+/// in the shown one. Raises the subscript failure for a cell before cell 0.
+[[nodiscard]] SelectedDay DayOfCell(const CalendarMonth& month, const AimedCell& cell,
+                                    std::chrono::year_month_day today);
 
 }  // namespace ballhaven

@@ -1,10 +1,6 @@
 #include "calendar/MonthPainting.h"
 
 #include "calendar/MonthLayout.h"
-#include "forms/CalendarForm.h"
-#include "state/DateMask.h"
-
-#include <string>
 
 namespace ballhaven {
 
@@ -51,81 +47,85 @@ void PaintArrow(Canvas& canvas, int x, int direction) {
     canvas.DrawPixel({x + 2 * direction, 7}, black);
 }
 
-void PaintArrowButtons(Canvas& canvas) {
-    PaintRaisedButton(canvas, ahcCalendar.prevRect.left);
+void PaintArrowButtons(Canvas& canvas, const CalendarMeasures& measures) {
+    PaintRaisedButton(canvas, measures.prevRect.left);
     PaintArrow(canvas, 8, -1);
-    PaintRaisedButton(canvas, ahcCalendar.nextRect.left);
-    PaintArrow(canvas, ahcCalendar.nextRect.left + 4, 1);
+    PaintRaisedButton(canvas, measures.nextRect.left);
+    PaintArrow(canvas, measures.nextRect.left + 4, 1);
 }
 
-void PaintTitle(Canvas& canvas) {
-    const int left = ahcCalendar.prevRect.right + 1;
-    const int right = ahcCalendar.nextRect.left - 1;
-    canvas.FillBox({left, 1}, right - left + 1, ahcCalendar.charHeight, buttonFaceColor);
-    const std::string title = FormatDate(ahcCalendar.shownMonth / 1, "mmmm yyyy");
-    canvas.DrawText({InnerWidth() / 2 - ahcCalendar.surface.TextWidth(title) / 2, 0}, title, black);
+void PaintTitle(Canvas& canvas, const MonthPicture& picture) {
+    const CalendarMeasures& measures = picture.measures;
+    const int left = measures.prevRect.right + 1;
+    const int right = measures.nextRect.left - 1;
+    canvas.FillBox({left, 1}, right - left + 1, measures.charHeight, buttonFaceColor);
+    canvas.DrawText({InnerWidth(measures) / 2 - picture.textWidth(picture.title) / 2, 0}, picture.title, black);
 }
 
 /// Prints a text that ends at the right of a column of days, 1 to 7.
-void PrintInColumn(Canvas& canvas, int column, int y, const std::string& text, const Color& color) {
-    const int right = ahcCalendar.cellWidth * column + ahcCalendar.gridLeft;
-    canvas.DrawText({right - ahcCalendar.surface.TextWidth(text), y}, text, color);
+void PrintInColumn(Canvas& canvas, const MonthPicture& picture, int column, int y, const std::string& text,
+                   const Color& color) {
+    const int right = picture.measures.cellWidth * column + picture.measures.gridLeft;
+    canvas.DrawText({right - picture.textWidth(text), y}, text, color);
 }
 
-void PaintWeekdays(Canvas& canvas) {
-    for (int column = 1; column <= 7; ++column) {
-        PrintInColumn(canvas, column, ahcCalendar.rowHeight, LetterOverColumn(column), black);
+void PaintWeekdays(Canvas& canvas, const MonthPicture& picture) {
+    for (int column = 1; column <= daysOfWeek; ++column) {
+        PrintInColumn(canvas, picture, column, picture.measures.rowHeight,
+                      picture.columnLetters[static_cast<std::size_t>(column)], black);
     }
 }
 
-void PaintDayArea(Canvas& canvas) {
-    canvas.FillBox({2, 2 * ahcCalendar.charHeight}, InnerWidth() - 4, 7 * ahcCalendar.charHeight, buttonFaceColor);
-    const int ruleY = 2 * ahcCalendar.charHeight - 1;
-    const int ruleLength = InnerWidth() - 12;
+void PaintDayArea(Canvas& canvas, const CalendarMeasures& measures) {
+    canvas.FillBox({2, 2 * measures.charHeight}, InnerWidth(measures) - 4, 7 * measures.charHeight, buttonFaceColor);
+    const int ruleY = 2 * measures.charHeight - 1;
+    const int ruleLength = InnerWidth(measures) - 12;
     Pen(canvas, {6, ruleY}).Run(ruleLength, 0, buttonShadowColor);
     Pen(canvas, {6, ruleY + 1}).Run(ruleLength, 0, white);
 }
 
-void PaintSunkenFrame(Canvas& canvas, int left, int y) {
-    Pen(canvas, {left, y}).Run(ahcCalendar.cellWidth, 0, buttonShadowColor);
-    Pen(canvas, {left, y}).Run(0, ahcCalendar.rowHeight - 1, buttonShadowColor);
-    Pen(canvas, {left + ahcCalendar.cellWidth, y})
-        .Run(0, ahcCalendar.rowHeight - 2, white)
-        .Run(-ahcCalendar.cellWidth, 0, white);
+void PaintSunkenFrame(Canvas& canvas, const CalendarMeasures& measures, PixelPoint corner) {
+    Pen(canvas, corner).Run(measures.cellWidth, 0, buttonShadowColor);
+    Pen(canvas, corner).Run(0, measures.rowHeight - 1, buttonShadowColor);
+    Pen(canvas, {corner.x + measures.cellWidth, corner.y})
+        .Run(0, measures.rowHeight - 2, white)
+        .Run(-measures.cellWidth, 0, white);
 }
 
-void PaintCell(Canvas& canvas, int row, int column) {
-    const int cell = (row - 1) * 7 + column;
-    const int left = (column - 1) * ahcCalendar.cellWidth + 5;
-    const int y = (row + 1) * ahcCalendar.rowHeight;
-    Color color = ahcCalendar.dayColour[static_cast<std::size_t>(cell)] == 0 ? black : grey;
-    if (cell == ahcCalendar.selectedCell) {
+void PaintCell(Canvas& canvas, const MonthPicture& picture, int row, int column) {
+    const CalendarMeasures& measures = picture.measures;
+    const CalendarMonth& month = picture.month;
+    const int cell = (row - 1) * daysOfWeek + column;
+    const PixelPoint corner{(column - 1) * measures.cellWidth + 5, (row + 1) * measures.rowHeight};
+    Color color = month.dayColour[static_cast<std::size_t>(cell)] == shownMonthColour ? black : grey;
+    if (cell == month.selectedCell) {
         color = white;
-        canvas.FillBox({left + 1, y}, ahcCalendar.cellWidth - 1, ahcCalendar.rowHeight - 2, darkBlue);
+        canvas.FillBox({corner.x + 1, corner.y}, measures.cellWidth - 1, measures.rowHeight - 2, darkBlue);
     }
-    if (cell == ahcCalendar.todayCell) {
-        PaintSunkenFrame(canvas, left, y);
+    if (cell == month.todayCell) {
+        PaintSunkenFrame(canvas, measures, corner);
     }
-    const int textY = (row - 1) * ahcCalendar.rowHeight + ahcCalendar.gridTop;
-    PrintInColumn(canvas, column, textY, std::to_string(ahcCalendar.dayNumber[static_cast<std::size_t>(cell)]), color);
+    const int textY = (row - 1) * measures.rowHeight + measures.gridTop;
+    const std::string number = std::to_string(month.dayNumber[static_cast<std::size_t>(cell)]);
+    PrintInColumn(canvas, picture, column, textY, number, color);
 }
 
-void PaintCells(Canvas& canvas) {
-    for (int row = 1; row <= 6; ++row) {
-        for (int column = 1; column <= 7; ++column) {
-            PaintCell(canvas, row, column);
+void PaintCells(Canvas& canvas, const MonthPicture& picture) {
+    for (int row = 1; row <= calendarCells / daysOfWeek; ++row) {
+        for (int column = 1; column <= daysOfWeek; ++column) {
+            PaintCell(canvas, picture, row, column);
         }
     }
 }
 
 }  // namespace
 
-void PaintCalendar(Canvas& canvas) {
-    PaintArrowButtons(canvas);
-    PaintTitle(canvas);
-    PaintWeekdays(canvas);
-    PaintDayArea(canvas);
-    PaintCells(canvas);
+void PaintMonth(Canvas& canvas, const MonthPicture& picture) {
+    PaintArrowButtons(canvas, picture.measures);
+    PaintTitle(canvas, picture);
+    PaintWeekdays(canvas, picture);
+    PaintDayArea(canvas, picture.measures);
+    PaintCells(canvas, picture);
 }
 
 }  // namespace ballhaven

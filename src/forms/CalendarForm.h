@@ -3,6 +3,7 @@
 #include "platform/controls/Controls.h"
 #include "platform/controls/DrawingSurface.h"
 #include "platform/controls/Window.h"
+#include "state/CalendarMonth.h"
 
 #include <array>
 #include <chrono>
@@ -11,11 +12,6 @@
 #include <string>
 
 namespace ballhaven {
-
-inline constexpr int calendarCells = 42;
-
-/// A table of the calendar's cells, which count from 1. Cell 0 stands for the day before the first of the month.
-using CellTable = std::array<std::int16_t, calendarCells + 1>;
 
 /// The pop-up calendar, a modal month view that draws itself. Created once. To offer a date: `Terminate` if it is
 /// `Loaded`, set `OutputControl`, `SetToday`, clear `OutputFormat`, `Initialize`; what has been chosen is then told to
@@ -51,28 +47,11 @@ struct CalendarForm {
     std::int16_t BorderTop = 0;
     std::int16_t result = 0;  ///< index of the button that closed the calendar; 0 for any other way out
 
-    // Measures in pixels
-    std::int16_t charHeight = 0;
-    std::int16_t cellWidth = 0;
-    std::int16_t rowHeight = 0;
-    std::int16_t gridLeft = 0;
-    std::int16_t gridTop = 0;
-    platform::PixelRect prevRect;
-    platform::PixelRect nextRect;
-
-    // The month on show
-    std::chrono::year_month shownMonth{};
-    std::int16_t selectedCell = 0;  ///< 0 for none
-    std::int16_t todayCell = 0;     ///< cell of the current date, 0 while it is not on show
-    CellTable dayNumber{};
-    CellTable dayColour{};                        ///< index of the 16 colours: 0 black, 8 grey for the months beside
-    std::array<std::string, 15> weekdayLetter{};  ///< 1 to 14: the week twice in a row, as the system begins it
-
-    // The cell under the mouse
+    CalendarMeasures measures;
+    CalendarMonth month;  ///< the month on show
+    WeekdayLetters weekdayLetter;
+    AimedCell aim;
     bool dragging = false;  ///< a focus rectangle is on the screen
-    std::int16_t hitColumn = 0;
-    std::int16_t hitRow = 0;  ///< day rows begin at 2
-    platform::PixelRect focusRect;
 
     platform::DrawingSurface surface;
     platform::Line Line1;

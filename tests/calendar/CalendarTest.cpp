@@ -8,6 +8,7 @@
 #include "support/CalendarReset.h"
 #include "support/MainFormReset.h"
 #include "support/MessageScript.h"
+#include "support/qt/RunningProgram.h"
 #include "support/qt/TestWindow.h"
 
 #include <QApplication>
@@ -99,9 +100,11 @@ class Calendar : public testing::Test {
     }
 
     /// The left top pixel of a cell, and its middle; row and column from 0.
-    static QPoint Corner(int row, int column) { return {5 + column * form.cellWidth, (row + 2) * form.rowHeight}; }
+    static QPoint Corner(int row, int column) {
+        return {5 + column * form.measures.cellWidth, (row + 2) * form.measures.rowHeight};
+    }
     static QPoint Middle(int row, int column) {
-        return Corner(row, column) + QPoint(form.cellWidth / 2, form.rowHeight / 2);
+        return Corner(row, column) + QPoint(form.measures.cellWidth / 2, form.measures.rowHeight / 2);
     }
     static QPoint MiddleOf(int cell) { return Middle((cell - 1) / 7, (cell - 1) % 7); }
 
@@ -127,7 +130,7 @@ TEST_F(Calendar, IsAsLargeAsItsTextsNeedAndHoldsAllItsParts) {
         EXPECT_EQ(Surface().height(), 23 * form.surface.TextHeight() / 2);
         EXPECT_TRUE(Surface().rect().contains(ButtonOf(0).geometry()));
         EXPECT_TRUE(Surface().rect().contains(ButtonOf(1).geometry()));
-        EXPECT_LE(8 * form.rowHeight, 136) << "the days end above the line over the buttons";
+        EXPECT_LE(8 * form.measures.rowHeight, 136) << "the days end above the line over the buttons";
         EXPECT_EQ(ButtonOf(0).geometry(), QRect(96, 144, 57, 25));
         EXPECT_EQ(ButtonOf(1).geometry(), QRect(16, 144, 57, 25));
     });
@@ -135,6 +138,25 @@ TEST_F(Calendar, IsAsLargeAsItsTextsNeedAndHoldsAllItsParts) {
 
 TEST_F(Calendar, OpensBesideTheMainWindowsPicture) {
     Use(year{2004} / 2 / 3, [] { EXPECT_EQ(Widget().pos(), QPoint((2520 + 500 + 7) / 15, (720 + 1000 + 7) / 15)); });
+}
+
+TEST_F(Calendar, WhatIsNoDateLeavesTheSelectedOne) {
+    form.SetToday(year{2004} / 2 / 29);
+    form.SetToday(year{2003} / 2 / 29);
+    EXPECT_EQ(form.Today, year{2004} / 2 / 29);
+    form.SetToday(year_month_day{});
+    EXPECT_EQ(form.Today, year{2004} / 2 / 29);
+}
+
+TEST_F(Calendar, IsTitledWithTheMonthOnShow) {
+    std::vector<std::string> asked;
+    platform::services.monthName = [&asked](std::chrono::month month) {
+        asked.push_back(platform::EnglishMonthName(month));
+        return asked.back();
+    };
+    Use(year{2004} / 2 / 3, [] { Surface().grab(); });
+    ASSERT_FALSE(asked.empty());
+    EXPECT_EQ(asked.back(), "February");
 }
 
 TEST_F(Calendar, OffersTodayWhereNoDateHasBeenSet) {
@@ -243,23 +265,23 @@ TEST_F(QuirkCalendarKeys1, EnterTheSpaceBarAndTheUnderlinedLettersDoNothing) {
 
 TEST_F(Calendar, TheArrowsAnswerOnAllTheirEdges) {
     Use(year{2004} / 2 / 3, [] {
-        const int right = form.nextRect.right;
-        const int left = form.nextRect.left;
+        const int right = form.measures.nextRect.right;
+        const int left = form.measures.nextRect.left;
         for (const QPoint place : {QPoint(2, 2), QPoint(13, 2), QPoint(2, 13), QPoint(13, 13)}) {
             form.Today = year{2004} / 2 / 3;
             Click({left, 2});
             Click(place);
-            EXPECT_EQ(form.shownMonth, year{2004} / 2) << place.x() << ", " << place.y();
+            EXPECT_EQ(form.month.shownMonth, year{2004} / 2) << place.x() << ", " << place.y();
         }
         for (const QPoint place : {QPoint(left, 2), QPoint(right, 2), QPoint(left, 13), QPoint(right, 13)}) {
             Click({2, 2});
             Click(place);
-            EXPECT_EQ(form.shownMonth, year{2004} / 2) << place.x() << ", " << place.y();
+            EXPECT_EQ(form.month.shownMonth, year{2004} / 2) << place.x() << ", " << place.y();
         }
         for (const QPoint place : {QPoint(1, 2), QPoint(2, 1), QPoint(14, 13), QPoint(13, 14), QPoint(left - 1, 2),
                                    QPoint(right + 1, 2), QPoint(left, 14), QPoint(right, 1)}) {
             Click(place);
-            EXPECT_EQ(form.shownMonth, year{2004} / 2) << place.x() << ", " << place.y();
+            EXPECT_EQ(form.month.shownMonth, year{2004} / 2) << place.x() << ", " << place.y();
         }
         EXPECT_EQ(form.Today, year{2004} / 2 / 3);
     });
@@ -267,9 +289,9 @@ TEST_F(Calendar, TheArrowsAnswerOnAllTheirEdges) {
 
 TEST_F(Calendar, EachPressInQuickSuccessionStepsOneMonth) {
     Use(year{2004} / 1 / 31, [] {
-        QTest::mouseClick(&Surface(), Qt::LeftButton, {}, QPoint(form.nextRect.left + 5, 7));
-        QTest::mouseDClick(&Surface(), Qt::LeftButton, {}, QPoint(form.nextRect.left + 5, 7));
-        EXPECT_EQ(form.shownMonth, year{2004} / 3);
+        QTest::mouseClick(&Surface(), Qt::LeftButton, {}, QPoint(form.measures.nextRect.left + 5, 7));
+        QTest::mouseDClick(&Surface(), Qt::LeftButton, {}, QPoint(form.measures.nextRect.left + 5, 7));
+        EXPECT_EQ(form.month.shownMonth, year{2004} / 3);
         EXPECT_EQ(form.Today, year{2004} / 3 / 29) << "by way of February";
     });
 }
@@ -287,8 +309,9 @@ TEST_F(Calendar, APressOnAnArrowNeverStartsADrag) {
 
 TEST_F(Calendar, APressInTheTitleBandOrBelowTheDaysDoesNothing) {
     Use(year{2004} / 2 / 3, [] {
-        for (const QPoint place : {QPoint(80, 5), QPoint(80, form.rowHeight + 3), QPoint(80, 8 * form.rowHeight - 1),
-                                   QPoint(4, 3 * form.rowHeight), QPoint(5 + 7 * form.cellWidth, 3 * form.rowHeight)}) {
+        for (const QPoint place : {QPoint(80, 5), QPoint(80, form.measures.rowHeight + 3),
+                                   QPoint(80, 8 * form.measures.rowHeight - 1), QPoint(4, 3 * form.measures.rowHeight),
+                                   QPoint(5 + 7 * form.measures.cellWidth, 3 * form.measures.rowHeight)}) {
             Press(place);
             EXPECT_FALSE(form.dragging) << place.x() << ", " << place.y();
             Release(place);
@@ -301,10 +324,11 @@ TEST_F(Calendar, EachCellAnswersOnItsCornerPixels) {
     Use(year{2004} / 3 / 15, [] {
         for (int cell = 1; cell <= 31; ++cell) {  // March 2004 begins in cell 1
             const QPoint corner = Corner((cell - 1) / 7, (cell - 1) % 7);
-            for (const QPoint inside : {QPoint(0, 0), QPoint(form.cellWidth - 1, 0), QPoint(0, form.rowHeight - 1),
-                                        QPoint(form.cellWidth - 1, form.rowHeight - 1)}) {
+            for (const QPoint inside :
+                 {QPoint(0, 0), QPoint(form.measures.cellWidth - 1, 0), QPoint(0, form.measures.rowHeight - 1),
+                  QPoint(form.measures.cellWidth - 1, form.measures.rowHeight - 1)}) {
                 Click(corner + inside);
-                ASSERT_EQ(form.selectedCell, cell) << inside.x() << ", " << inside.y();
+                ASSERT_EQ(form.month.selectedCell, cell) << inside.x() << ", " << inside.y();
                 ASSERT_EQ(form.Today, year{2004} / 3 / cell);
             }
         }
@@ -315,12 +339,12 @@ TEST_F(Calendar, GreyCellsLeadToTheMonthsBeside) {
     Use(year{2010} / 2 / 10, [] {
         Click(MiddleOf(42));
         EXPECT_EQ(form.Today, year{2010} / 3 / 14);
-        EXPECT_EQ(form.shownMonth, year{2010} / 3);
+        EXPECT_EQ(form.month.shownMonth, year{2010} / 3);
     });
     Use(year{2004} / 2 / 10, [] {
         Click(MiddleOf(1));
         EXPECT_EQ(form.Today, year{2004} / 1 / 26);
-        EXPECT_EQ(form.shownMonth, year{2004} / 1);
+        EXPECT_EQ(form.month.shownMonth, year{2004} / 1);
     });
 }
 
@@ -328,11 +352,11 @@ TEST_F(Calendar, ADragFollowsTheMouseAndTakesTheCellOfTheRelease) {
     Use(year{2004} / 3 / 15, [] {
         Press(MiddleOf(1));
         EXPECT_EQ(form.Today, year{2004} / 3 / 15) << "the press selects nothing yet";
-        const int width = form.cellWidth + 1;
-        const int row = 2 * form.rowHeight;
-        ExpectFocusRects({{5, row, 5 + width, row + form.rowHeight - 1}});
+        const int width = form.measures.cellWidth + 1;
+        const int row = 2 * form.measures.rowHeight;
+        ExpectFocusRects({{5, row, 5 + width, row + form.measures.rowHeight - 1}});
         Move(MiddleOf(2));
-        ExpectFocusRects({{4 + width, row, 4 + 2 * width, row + form.rowHeight - 1}});
+        ExpectFocusRects({{4 + width, row, 4 + 2 * width, row + form.measures.rowHeight - 1}});
         Move(MiddleOf(9));
         Release(MiddleOf(9));
         ExpectFocusRects({});
@@ -346,7 +370,7 @@ TEST_F(Calendar, ADragThatEndsOutsideTheDaysTakesTheLastCellInside) {
     Use(year{2004} / 3 / 15, [] {
         Press(MiddleOf(1));
         Move(MiddleOf(14));
-        Move({5 + 7 * form.cellWidth, 3 * form.rowHeight + 4});
+        Move({5 + 7 * form.measures.cellWidth, 3 * form.measures.rowHeight + 4});
         EXPECT_EQ(form.surface.FocusRects().size(), 1U) << "the frame stays where it was";
         Release({400, 400});
         EXPECT_EQ(form.Today, year{2004} / 3 / 14);
@@ -379,18 +403,32 @@ TEST_F(Calendar, AClosingCutsADragShort) {
 // Not a bug: CALENDAR-LINE-1 in docs/not-bugs.md.
 TEST_F(QuirkCalendarLine1, APressOnItInTheLastColumnSelectsTheDayBeforeTheFirst) {
     Use(year{2004} / 3 / 15, [] {
-        Click({5 + 7 * form.cellWidth - 1, 2 * form.rowHeight - 1});
+        Click({5 + 7 * form.measures.cellWidth - 1, 2 * form.measures.rowHeight - 1});
         EXPECT_EQ(form.Today, year{2004} / 2 / 29);
         QTest::mouseClick(&ButtonOf(1), Qt::LeftButton);
     });
     EXPECT_EQ(accepted, Texts{"02/29/2004"});
 }
 
+TEST_F(QuirkCalendarLine1, AfterItTheArrowsCountFromTheSelectedDay) {
+    Use(year{2004} / 3 / 15, [] {
+        Click({5 + 7 * form.measures.cellWidth - 1, 2 * form.measures.rowHeight - 1});
+        Click({form.measures.nextRect.left, 5});
+        EXPECT_EQ(form.Today, year{2004} / 3 / 29);
+        EXPECT_EQ(form.month.shownMonth, year{2004} / 3);
+        EXPECT_EQ(form.month.selectedCell, 29);
+        Click({5 + 7 * form.measures.cellWidth - 1, 2 * form.measures.rowHeight - 1});
+        Click({form.measures.prevRect.left, 5});
+        EXPECT_EQ(form.Today, year{2004} / 1 / 29);
+        EXPECT_EQ(form.month.shownMonth, year{2004} / 1);
+    });
+}
+
 TEST_F(QuirkCalendarLine1, APressOnItInAnyOtherColumnEndsTheProgram) {
     support::MessageScript boxes;
     boxes.Expect("Ballhaven", "Subscript out of range: a table has no room for another row.", BoxButtons::Ok,
                  BoxIcon::Critical);
-    Use(year{2004} / 3 / 15, [] { Click({5 + 6 * form.cellWidth - 1, 2 * form.rowHeight - 1}); });
+    Use(year{2004} / 3 / 15, [] { Click({5 + 6 * form.measures.cellWidth - 1, 2 * form.measures.rowHeight - 1}); });
     EXPECT_EQ(exitCodes, std::vector<int>{1});
 }
 
@@ -497,6 +535,43 @@ TEST_F(Calendar, AListWithoutTheDateKeepsItsChoiceAndNoControlIsNoMatter) {
     EXPECT_EQ(list.Selected(), 0);
     form.OutputControl = nullptr;
     SendDateToControl();
+}
+
+/// The calendar of the whole program, which offers a date for a draw.
+class CalendarOfTheProgram : public support::RunningProgram {
+  protected:
+    void SetUp() override {
+        Store({.draws = {{"01/01/1990", {1, 2, 3, 4, 5, 6}}}});
+        Start();
+    }
+};
+
+TEST_F(CalendarOfTheProgram, OpensOverTheMainWindowsPicture) {
+    QPoint main;
+    QPoint calendar;
+    InCalendar([&] {
+        main = {frmMainForm.window.Left(), frmMainForm.window.Top()};
+        calendar = {form.window.Left(), form.window.Top()};
+        QTest::keyClick(dynamic_cast<QWidget*>(form.surface.view), Qt::Key_Escape);
+    });
+    frmMainForm.window.MoveTo(1500, 900);
+    support::Settle();
+    ChooseFromMenu("mnuEdit", "mnuEditArray(4)");
+    EXPECT_EQ(main, QPoint(1500, 900));
+    EXPECT_NEAR(calendar.x(), 1500 + 2520 + 500, 15) << "held on the screen's pixels";
+    EXPECT_NEAR(calendar.y(), 900 + 720 + 1000, 15);
+}
+
+TEST_F(CalendarOfTheProgram, HasTheOrdinaryPointerWhenTheToolbarOpensItUnderTheHourglass) {
+    bool opened = false;
+    InCalendar([&opened] {
+        opened = true;
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        QTest::keyClick(dynamic_cast<QWidget*>(form.surface.view), Qt::Key_Escape);
+    });
+    Click("cmdButton(2)");
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 }  // namespace

@@ -1,15 +1,13 @@
 #include "calendar/MonthPainting.h"
 
 #include "calendar/MonthLayout.h"
-#include "forms/CalendarForm.h"
-#include "platform/Services.h"
-#include "support/CalendarReset.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -97,24 +95,21 @@ class Paper : public platform::Canvas {
     std::map<std::pair<int, int>, Color> pixels;
 };
 
-// Without a window a character is 7 pixels wide and 15 high: cells are 21 wide, rows 16 high, the calendar 168 wide.
+// Texts of 7 by 15 pixels a character: cells are 21 wide, rows 16 high, the calendar 168 wide. The day is 14 February
+// 2004.
 class MonthPainting : public testing::Test {
   protected:
-    MonthPainting() {
-        platform::services.today = [] { return year{2004} / 2 / 14; };
-        support::ResetCalendar();
-    }
-    ~MonthPainting() override { platform::services = before; }
-
-    void Paint(std::chrono::year_month_day date) {
-        support::ShowMonthOf(date);
-        PaintCalendar(paper);
+    void Paint(std::chrono::year_month_day date, const char* title = "") {
+        MonthPicture picture;
+        picture.measures = MeasuresOf(15, 21);
+        picture.month = MonthOf(date, year{2004} / 2 / 14);
+        picture.title = title;
+        picture.columnLetters = {"", "M", "T", "W", "T", "F", "S", "S"};
+        picture.textWidth = [](std::string_view text) { return 7 * static_cast<int>(text.size()); };
+        PaintMonth(paper, picture);
     }
 
     Paper paper;
-
-  private:
-    const platform::Services before = platform::services;
 };
 
 TEST_F(MonthPainting, TheLeftButtonIsRaisedAndPointsBack) {
@@ -158,7 +153,7 @@ TEST_F(MonthPainting, TheRightButtonIsRaisedAndPointsOn) {
 }
 
 TEST_F(MonthPainting, TheTitleStandsInTheMiddle) {
-    Paint(year{2004} / 2 / 3);
+    Paint(year{2004} / 2 / 3, "February 2004");
     const Paper::Print& title = paper.PrintOf("February 2004");
     EXPECT_EQ(title.corner, (PixelPoint{84 - 45, 0})) << "168 / 2 less 91 / 2";
     EXPECT_EQ(title.color, platform::black);

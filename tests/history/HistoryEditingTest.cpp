@@ -46,8 +46,8 @@ class HistoryEditing : public support::RunningProgram {
     static void ClickDay(int day) {
         const auto first = std::chrono::sys_days{ahcCalendar.Today.year() / ahcCalendar.Today.month() / 1};
         const int cell = static_cast<int>(std::chrono::weekday{first}.iso_encoding()) - 1 + day - 1;
-        const QPoint place(5 + cell % 7 * ahcCalendar.cellWidth + ahcCalendar.cellWidth / 2,
-                           (cell / 7 + 2) * ahcCalendar.rowHeight + ahcCalendar.rowHeight / 2);
+        const QPoint place(5 + cell % 7 * ahcCalendar.measures.cellWidth + ahcCalendar.measures.cellWidth / 2,
+                           (cell / 7 + 2) * ahcCalendar.measures.rowHeight + ahcCalendar.measures.rowHeight / 2);
         QTest::mouseClick(&dynamic_cast<QWidget&>(*ahcCalendar.surface.view), Qt::LeftButton, {}, place);
     }
 

@@ -1,6 +1,5 @@
 #include "support/CalendarReset.h"
 
-#include "calendar/MonthLayout.h"
 #include "forms/CalendarForm.h"
 
 #include <memory>
@@ -13,13 +12,6 @@ void ResetCalendar() {
     std::destroy_at(&ahcCalendar);
     std::construct_at(&ahcCalendar);
     LayOutCalendar();
-}
-
-void ShowMonthOf(std::chrono::year_month_day date) {
-    ahcCalendar.SetToday(date);
-    MeasureCalendar();
-    FillWeekdayLetters();
-    LayOutMonth();
 }
 
 }  // namespace ballhaven::support
