@@ -2,7 +2,7 @@
 
 #include "forms/NewGameForm.h"
 #include "forms/SelectorLists.h"
-#include "games/GameRules.h"
+#include "games/GameDialogLists.h"
 #include "platform/Boxes.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
@@ -35,7 +35,7 @@ void Activate() {
 }
 
 /// The Enter key of the name box leads on to the kind of game instead of doing nothing.
-bool ServeNameKey(char key) {
+bool GoOnByEnter(char key) {
     if (key == enterKey) {
         ListOf(gameTypeList).TakeFocus();
     }
@@ -52,8 +52,8 @@ void Save() {
     appState.currentGame = appState.gameDialogSlot;
     ListGames();
     // QUIRK GAME-DIALOG-MODE-1: the mode stays as it is, so the main window loads the game anew not only when it comes
-    // back now, but each time it comes back from another window, until the dialog is cancelled. It is meant: the first
-    // of these loads is what shows the game. Clearing the mode here would leave the old game's tables on screen.
+    // back now, but each time it comes back from another window, until the dialog is cancelled. The first of these
+    // loads is what shows the game: clearing the mode here would leave the old game's tables on screen.
     frmNewGame.saved = true;
     frmNewGame.window.Unload();
 }
@@ -62,8 +62,7 @@ void Save() {
 void Unload() {
     if (!frmNewGame.saved) {
         // QUIRK GAME-CANCEL-1: after an add the game variables describe the free slot, while the main window still
-        // shows the old game's draws and tables. It is meant: the slot has been given up for the new game already, and
-        // the next switch tells what is in it. Switching here would show an empty game where the user changed his mind.
+        // shows the old game's draws and tables, until the next switch. Habits rest on it.
         appState.gameDialogMode = 0;
         LoadGameRecord(appState.gameDialogSlot);
     }
@@ -84,7 +83,7 @@ void WireGameDialog() {
     frmNewGame.window.load = Load;
     frmNewGame.window.activate = Activate;
     frmNewGame.window.unload = Unload;
-    frmNewGame.txtNewGame[0].keyPress = ServeNameKey;
+    frmNewGame.txtNewGame[0].keyPress = GoOnByEnter;
     OnChange(gameTypeList, ChangeGameType);
     OnChange(mainCountList, ChangeMainCount);
     OnChange(bonusCountList, ChangeBonusCount);

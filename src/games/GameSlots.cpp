@@ -32,8 +32,7 @@ bool IsCurrentGameUndefined() {
 /// The first slot without a game, 0 if there is none.
 int FirstFreeSlot() {
     // QUIRK UNDEFINED-NAME-1: a game whose name begins with "un-defined" counts as a free slot, and its name is not
-    // offered for alteration. It is meant: the name alone tells a free slot, so that a slot is freed by its name.
-    // Comparing all 20 columns would keep such games, but would take slots freed by hand for games.
+    // offered for alteration. Files rest on it: comparing all 20 columns would take other slots of theirs for games.
     for (int slot = 1; slot <= gameSlots; ++slot) {
         if (GameName(ReadGameRecord(slot)).starts_with(undefinedGameName)) {
             return slot;
@@ -52,8 +51,7 @@ void OpenGameDialog(int slot, int mode) {
 
 // QUIRK DELETE-GAME-1: plays are wiped in the slots of the game's picks only, and of the chosen picks only the main
 // list. Picks from a time when the game had more of them, and the chosen bonus picks, come back when a game with so
-// many picks, or with a bonus, is set up in the slot. It is meant: a game wipes what it can show, and what it cannot
-// show belongs to rules that may be set up again.
+// many picks, or with a bonus, is set up in the slot. Files and habits rest on it.
 void WipePlays() {
     const int slots = std::min<int>(appState.totalPicks, picksPerPlay);
     for (int play = 1; play <= playCount; ++play) {
@@ -99,8 +97,8 @@ void AddGame() {
 }
 
 // QUIRK GAME-FEWER-PICKS-1: an alteration touches no draws. With fewer picks the file keeps the columns that the game
-// no longer has until the draws are next saved, and loses them then. It is meant: until that save a wrong alteration
-// can be taken back. Writing the draws here would lose their last picks at once.
+// no longer has until the draws are next saved, and loses them then. Writing the draws here would lose their last picks
+// at once, also where the alteration is taken back.
 void AlterGame() {
     OpenGameDialog(appState.currentGame, alteringGame);
 }

@@ -210,6 +210,35 @@ TEST_F(TheGameDialog, OpensWithTheRulesOfTheGameAndTheOrdinaryPointer) {
     });
 }
 
+TEST_F(TheGameDialog, HasTheOrdinaryPointerWhenTheToolbarOpensItUnderTheHourglass) {
+    bool opened = false;
+    InGameDialog([this, &opened] {
+        opened = true;
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        ClickToClose("cmdNewGame(0)");
+    });
+    Click("cmdButton(0)");
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(TheGameDialog, SixPicksWithDuplicatesEndTheHighestListAt16AndFromLowest0At10) {
+    Alter([this] {
+        ChooseEntry("cboCombo(0)", 0);
+        ChooseEntry("cboCombo(1)", 5);
+        EXPECT_EQ(Entries("cboCombo(6)").size(), 99U);
+        ChooseEntry("cboCombo(4)", yes);
+        EXPECT_EQ(Entries("cboCombo(6)").size(), 16U);
+        EXPECT_EQ(Entries("cboCombo(6)").back(), "16");
+        EXPECT_EQ(Chosen("cboCombo(6)"), "16");
+        ChooseEntry("cboCombo(5)", 0);
+        EXPECT_EQ(Entries("cboCombo(6)").size(), 10U);
+        EXPECT_EQ(Entries("cboCombo(6)").back(), "10");
+        EXPECT_EQ(Chosen("cboCombo(6)"), "10");
+        ClickToClose("cmdNewGame(0)");
+    });
+}
+
 TEST_F(TheGameDialog, TheNameBoxHasTheKeyboardFirstAndEnterLeadsToTheKindOfGame) {
     for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
         Alter([this, enter] {

@@ -197,6 +197,19 @@ TEST_F(TwoGames, AddOnAShownFreeSlotWorksOnItAndNoOtherRecordChanges) {
     EXPECT_EQ(appState.currentGame, 3);
 }
 
+TEST_F(TwoGames, AddOnAShownFreeSlotWorksOnItThoughItIsNotTheFirstFreeOne) {
+    StoreShown(5, 1);
+    ExpectSetUpQuestion(5, BoxAnswer::No);
+    Start();
+    const std::string before = GameTableFile();
+    InDialogOf(addGame, [this] {
+        EXPECT_EQ(appState.gameDialogSlot, 5);
+        SetUpSixOf49("Fifth game");
+    });
+    EXPECT_EQ(GameTableFile(), WithRecords(before, {{6, SixOf49Record(5, "Fifth game")}}));
+    EXPECT_EQ(appState.currentGame, 5);
+}
+
 // Not a bug: LOAD-STORES-UNDER-CURRENT-1 in docs/not-bugs.md.
 TEST_F(QuirkLoadStoresUnderCurrent1, AddWithAnotherGameShownTakesSlot3AndLeavesRecord2WithTheTextOfTheFreeSlot) {
     Start();
@@ -427,6 +440,37 @@ TEST_F(TwoGames, DeleteKeepsTheFilesInFullSizeWithBlankRowsAndFreesTheSlot) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     Close();
     EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf({}), directory.Read("GAME01.CDB")));
+    EXPECT_EQ(directory.Read("PLAYS01.CDB"), std::string(320000, ' '));
+}
+
+TEST_F(TwoGames, DeleteKeepsTheOptionOfTheWheels) {
+    const std::string withOption = WithColumns(std::string(12800, ' '), {{300, "PW"}});
+    directory.Write("SHUFFLE.CDB", WithColumns(withOption, {{1, "7  12"}}));
+    Start();
+    ExpectDeleteQuestion(BoxAnswer::Yes);
+    Choose(deleteGame);
+    EXPECT_EQ(directory.Read("SHUFFLE.CDB"), withOption);
+}
+
+TEST_F(TwoGames, DeletedPlaysWaitForNoSave) {
+    Start();
+    boxes.ExpectBeforeLoss("Erase ALL Play Slips for this game?", BoxIcon::Question, BoxAnswer::Yes);
+    Choose("mnuEditArray(7)");
+    ASSERT_TRUE(appState.playsDirty);
+    ExpectDeleteQuestion(BoxAnswer::Yes);
+    Choose(deleteGame);
+    EXPECT_FALSE(appState.playsDirty);
+}
+
+TEST_F(GameSlots, ADeletedCardGameLeavesAFreeSlotOfNumbersAndPlaysByHand) {
+    Store({.name = "Cards", .gameType = 5, .mainPicks = 5, .bonusPicks = 1, .high = 52, .draws = {}});
+    directory.Write("PLAYS01.CDB", WithColumns(std::string(320000, ' '), {{1, "SH"}, {6, " 1"}}));
+    Start();
+    ExpectDeleteQuestion(BoxAnswer::Yes);
+    Choose(deleteGame);
+    EXPECT_EQ(RecordColumns(1, 1, 64), FreeRecord(1));
+    EXPECT_EQ(appState.gameType, 0);
+    EXPECT_EQ(appState.PlayTable(mainPicks, 1, 0), 0);
     EXPECT_EQ(directory.Read("PLAYS01.CDB"), std::string(320000, ' '));
 }
 

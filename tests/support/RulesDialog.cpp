@@ -1,6 +1,6 @@
 #include "support/RulesDialog.h"
 
-#include "games/GameRules.h"
+#include "games/GameDialogLists.h"
 #include "platform/files/FileSystem.h"
 #include "state/GameTable.h"
 
@@ -18,7 +18,7 @@ void ForgetDialog() {
     std::construct_at(&frmNewGame);
 }
 
-void Answer(GameList list, void (*change)()) {
+void OnChange(GameList list, void (*change)()) {
     ListOf(list).change = [change] {
         if (!frmNewGame.filling) {
             change();
@@ -52,11 +52,11 @@ std::string SavedRecord() {
 RulesDialog::RulesDialog() {
     platform::fileSystem.flush = [](int) { return 0; };  // waiting for the disk takes most of the time
     ForgetDialog();
-    Answer(gameTypeList, ChangeGameType);
-    Answer(mainCountList, ChangeMainCount);
-    Answer(bonusCountList, ChangeBonusCount);
-    Answer(duplicatesList, RefreshHighestLists);
-    Answer(mainLowList, RefreshHighestLists);
+    OnChange(gameTypeList, ChangeGameType);
+    OnChange(mainCountList, ChangeMainCount);
+    OnChange(bonusCountList, ChangeBonusCount);
+    OnChange(duplicatesList, RefreshHighestLists);
+    OnChange(mainLowList, RefreshHighestLists);
 }
 
 RulesDialog::~RulesDialog() {

@@ -1,10 +1,11 @@
-#include "games/GameRules.h"
+#include "games/GameDialogLists.h"
 
 #include "forms/NewGameForm.h"
 #include "platform/files/FileSystem.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "support/MainFormReset.h"
+#include "support/PointerKeeper.h"
 #include "support/RecordBytes.h"
 #include "support/RulesDialog.h"
 
@@ -70,43 +71,20 @@ Texts ShownChoices() {
 }
 
 /// The dialog without a window, open on slot 1 of a game table of the test's own.
-class GameRules : public support::RulesDialog {};
+class GameDialogLists : public support::RulesDialog {};
 
-using QuirkGameBonusLimits1 = GameRules;
-using QuirkGameHighest1 = GameRules;
-using QuirkUndefinedName1 = GameRules;
-
-// The limit of the highest number
-
-TEST(HighestNumber, Is99WithoutDuplicatesWhateverTheCounts) {
-    for (int picks = 0; picks <= 10; ++picks) {
-        EXPECT_EQ(HighestNumberLimit(false, picks, 0), 99);
-        EXPECT_EQ(HighestNumberLimit(false, picks, 1), 99);
-    }
-}
-
-TEST(HighestNumber, LeavesEachPickARunOfCellsWhereNumbersCanRepeat) {
-    const std::vector<int> fromOne = {99, 49, 33, 24, 19, 16, 14, 12, 11, 9};
-    const std::vector<int> fromZero = {98, 47, 30, 20, 14, 10, 7, 4, 2, -1};
-    for (int picks = 1; picks <= 10; ++picks) {
-        EXPECT_EQ(HighestNumberLimit(true, picks, 1), fromOne[static_cast<std::size_t>(picks - 1)]) << picks;
-        EXPECT_EQ(HighestNumberLimit(true, picks, 0), fromZero[static_cast<std::size_t>(picks - 1)]) << picks;
-    }
-}
-
-TEST(HighestNumber, Is99WithoutPicks) {
-    EXPECT_EQ(HighestNumberLimit(true, 0, 0), 99);
-    EXPECT_EQ(HighestNumberLimit(true, 0, 1), 99);
-}
+using QuirkGameBonusLimits1 = GameDialogLists;
+using QuirkGameHighest1 = GameDialogLists;
+using QuirkUndefinedName1 = GameDialogLists;
 
 // The fill
 
-TEST_F(GameRules, ListsTheSixKindsOfGame) {
+TEST_F(GameDialogLists, ListsTheSixKindsOfGame) {
     Open(sixOf49);
     EXPECT_EQ(ListOf(gameTypeList).Entries(), kinds);
 }
 
-TEST_F(GameRules, ShowsForEachKindItsOwnQuestionsWithTheDefaults) {
+TEST_F(GameDialogLists, ShowsForEachKindItsOwnQuestionsWithTheDefaults) {
     const std::vector<Texts> expected = {
         {"1: 10", "3: No", "4: No", "5: 1", "6: 99"},
         {"1: 9", "2: 1", "3: No", "4: No", "5: 1", "6: 99"},
@@ -122,14 +100,14 @@ TEST_F(GameRules, ShowsForEachKindItsOwnQuestionsWithTheDefaults) {
     }
 }
 
-TEST_F(GameRules, ShowsWhatAConfiguredGameHas) {
+TEST_F(GameDialogLists, ShowsWhatAConfiguredGameHas) {
     Open(fiveAndOne);
     EXPECT_EQ(*frmNewGame.txtNewGame[0].text, "Five and one");
     EXPECT_EQ(ShownChoices(), (Texts{"1: 5", "2: 1", "3: Yes", "4: No", "5: 1", "6: 69", "9: 0", "10: 26"}));
     EXPECT_EQ(appState.gameRecord, fiveAndOne);
 }
 
-TEST_F(GameRules, OffersTheEntriesOfEachList) {
+TEST_F(GameDialogLists, OffersTheEntriesOfEachList) {
     Open(fiveAndOne);
     EXPECT_EQ(ListOf(mainCountList).Entries(), NumbersTo(10));
     EXPECT_EQ(ListOf(bonusCountList).Entries(), NumbersTo(5));
@@ -141,12 +119,12 @@ TEST_F(GameRules, OffersTheEntriesOfEachList) {
     EXPECT_EQ(ListOf(bonusHighList).Entries(), NumbersTo(99));
 }
 
-TEST_F(GameRules, TheNameBoxStaysEmptyForAnUndefinedSlot) {
+TEST_F(GameDialogLists, TheNameBoxStaysEmptyForAnUndefinedSlot) {
     Open(defaultRecords[0]);
     EXPECT_EQ(*frmNewGame.txtNewGame[0].text, "");
 }
 
-TEST_F(GameRules, AGameWithoutBonusHasNothingSelectedInTheHiddenLists) {
+TEST_F(GameDialogLists, AGameWithoutBonusHasNothingSelectedInTheHiddenLists) {
     Open(sixOf49);
     EXPECT_EQ(ListOf(bonusCountList).Selected(), -1);
     EXPECT_TRUE(ListOf(bonusCountList).Entries().empty());
@@ -155,14 +133,14 @@ TEST_F(GameRules, AGameWithoutBonusHasNothingSelectedInTheHiddenLists) {
     EXPECT_EQ(appState.gameRecord, WithColumns(sixOf49, {{59, "52"}}));
 }
 
-TEST_F(GameRules, ABonusFromTheSamePoolTakesTheMainLimitsAtTheFill) {
+TEST_F(GameDialogLists, ABonusFromTheSamePoolTakesTheMainLimitsAtTheFill) {
     Open(WithColumns(defaultRecords[1], {{33, "0"}, {35, "36"}}));
     EXPECT_EQ(ListOf(bonusLowList).Text(), "0");
     EXPECT_EQ(ListOf(bonusHighList).Text(), "36");
     EXPECT_EQ(appState.gameRecord, WithColumns(defaultRecords[1], {{33, "0"}, {35, "36"}, {57, "0"}, {59, "36"}}));
 }
 
-TEST_F(GameRules, ACardGameHasNothingSelectedInTheHiddenListsAndNoDuplicates) {
+TEST_F(GameDialogLists, ACardGameHasNothingSelectedInTheHiddenListsAndNoDuplicates) {
     Open(WithColumns(defaultRecords[3], {{42, "Y"}}));
     for (const GameList list : {duplicatesList, mainLowList, mainHighList, bonusLowList, bonusHighList}) {
         EXPECT_EQ(ListOf(list).Selected(), -1) << list;
@@ -171,14 +149,14 @@ TEST_F(GameRules, ACardGameHasNothingSelectedInTheHiddenListsAndNoDuplicates) {
     EXPECT_EQ(appState.gameRecord.substr(58, 2), "52");
 }
 
-TEST_F(GameRules, AnAnswerOfTheRecordThatIsNeitherYesNorNoCountsAsYesForTheOrderAndNoForDuplicates) {
+TEST_F(GameDialogLists, AnAnswerOfTheRecordThatIsNeitherYesNorNoCountsAsYesForTheOrderAndNoForDuplicates) {
     Open(WithColumns(sixOf49, {{42, "?"}, {44, "?"}}));
     EXPECT_EQ(ListOf(orderList).Text(), "Yes");
     EXPECT_EQ(ListOf(duplicatesList).Text(), "No");
     EXPECT_EQ(appState.gameRecord.substr(41, 3), "N/Y");
 }
 
-TEST_F(GameRules, AHighestNumberAboveItsLimitIsCutAtTheFill) {
+TEST_F(GameDialogLists, AHighestNumberAboveItsLimitIsCutAtTheFill) {
     Open(WithColumns(sixOf49, {{42, "Y"}}));
     EXPECT_EQ(ListOf(mainHighList).Entries(), NumbersTo(16));
     EXPECT_EQ(ListOf(mainHighList).Text(), "16");
@@ -195,13 +173,13 @@ TEST_F(GameRules, AHighestNumberAboveItsLimitIsCutAtTheFill) {
     EXPECT_EQ(appState.gameRecord.substr(58, 2), "14");
 }
 
-TEST_F(GameRules, ABonusCountOf0HasTheLimitWithoutDuplicates) {
+TEST_F(GameDialogLists, ABonusCountOf0HasTheLimitWithoutDuplicates) {
     Open(WithColumns(fiveAndOne, {{42, "Y"}, {49, "0"}}));
     EXPECT_EQ(ListOf(bonusCountList).Selected(), -1);
     EXPECT_EQ(ListOf(bonusHighList).Entries(), NumbersTo(99));
 }
 
-TEST_F(GameRules, DamagedRecordsAreHeldInsideTheLists) {
+TEST_F(GameDialogLists, DamagedRecordsAreHeldInsideTheLists) {
     std::mt19937 chance(1912);
     const std::string letters = "0123456789 NYC-/?";
     for (int attempt = 0; attempt < 500; ++attempt) {
@@ -226,7 +204,7 @@ TEST_F(GameRules, DamagedRecordsAreHeldInsideTheLists) {
 
 // The changes
 
-TEST_F(GameRules, ChangingTheTypeResetsCountsAndLimitsWhileTheTypedNameStays) {
+TEST_F(GameDialogLists, ChangingTheTypeResetsCountsAndLimitsWhileTheTypedNameStays) {
     Open(fiveAndOne);
     TypeName("Half typed");
     Choose(gameTypeList, 1);
@@ -238,20 +216,20 @@ TEST_F(GameRules, ChangingTheTypeResetsCountsAndLimitsWhileTheTypedNameStays) {
     EXPECT_FALSE(frmNewGame.filling);
 }
 
-TEST_F(GameRules, ChoosingTheSameTypeAgainFallsBackToItsDefaultsToo) {
+TEST_F(GameDialogLists, ChoosingTheSameTypeAgainFallsBackToItsDefaultsToo) {
     Open(fiveAndOne);
     Choose(gameTypeList, 2);
     EXPECT_EQ(ShownChoices(), (Texts{"1: 9", "2: 1", "3: No", "4: No", "5: 1", "6: 99", "9: 1", "10: 99"}));
 }
 
-TEST_F(GameRules, TheDefaultsAreThoseOfTheDialogsSlot) {
+TEST_F(GameDialogLists, TheDefaultsAreThoseOfTheDialogsSlot) {
     Open(fiveAndOne);
     appState.gameDialogSlot = 12;
     Choose(gameTypeList, 2);
     EXPECT_EQ(appState.gameRecord, WithColumns(defaultRecords[2], {{1, "12"}}));
 }
 
-TEST_F(GameRules, EachCountsListOffersOnlyWhatTheOtherLeaves) {
+TEST_F(GameDialogLists, EachCountsListOffersOnlyWhatTheOtherLeaves) {
     Open(fiveAndOne);
     ChooseText(mainCountList, "7");
     EXPECT_EQ(ListOf(bonusCountList).Entries(), NumbersTo(3));
@@ -262,7 +240,7 @@ TEST_F(GameRules, EachCountsListOffersOnlyWhatTheOtherLeaves) {
     EXPECT_FALSE(frmNewGame.filling);
 }
 
-TEST_F(GameRules, ABonusCountAboveWhatALargerMainCountLeavesIsCutToThat) {
+TEST_F(GameDialogLists, ABonusCountAboveWhatALargerMainCountLeavesIsCutToThat) {
     Open(fiveAndOne);
     ChooseText(bonusCountList, "5");
     ChooseText(mainCountList, "2");
@@ -275,7 +253,7 @@ TEST_F(GameRules, ABonusCountAboveWhatALargerMainCountLeavesIsCutToThat) {
     EXPECT_EQ(ListOf(bonusCountList).Text(), "2");
 }
 
-TEST_F(GameRules, AMainCountOf10WithABonusTypeEmptiesTheBonusListAndSavesABonusCountOf0) {
+TEST_F(GameDialogLists, AMainCountOf10WithABonusTypeEmptiesTheBonusListAndSavesABonusCountOf0) {
     Open(fiveAndOne);
     ChooseText(mainCountList, "10");
     EXPECT_TRUE(ListOf(bonusCountList).Entries().empty());
@@ -285,7 +263,7 @@ TEST_F(GameRules, AMainCountOf10WithABonusTypeEmptiesTheBonusListAndSavesABonusC
     EXPECT_EQ(Stored(1).substr(45, 4), "10/0");
 }
 
-TEST_F(GameRules, ABonusListThatWasEmptiedComesBackWithTheCountOfTheRecord) {
+TEST_F(GameDialogLists, ABonusListThatWasEmptiedComesBackWithTheCountOfTheRecord) {
     Open(WithColumns(fiveAndOne, {{49, "3"}}));
     ChooseText(mainCountList, "10");
     ChooseText(mainCountList, "4");
@@ -293,7 +271,7 @@ TEST_F(GameRules, ABonusListThatWasEmptiedComesBackWithTheCountOfTheRecord) {
     EXPECT_EQ(ListOf(bonusCountList).Text(), "3");
 }
 
-TEST_F(GameRules, SixPicksWithDuplicatesEndTheHighestListAt16AndFromLowest0At10) {
+TEST_F(GameDialogLists, SixPicksWithDuplicatesEndTheHighestListAt16AndFromLowest0At10) {
     Open(sixOf49);
     ChooseText(duplicatesList, "Yes");
     EXPECT_EQ(ListOf(mainHighList).Entries(), NumbersTo(16));
@@ -322,7 +300,7 @@ TEST_F(QuirkGameHighest1, TheLowestBonusNumberDoesNotRebuildTheBonusList) {
     EXPECT_EQ(ListOf(bonusHighList).Entries(), NumbersTo(20));
 }
 
-TEST_F(GameRules, BothHighestListsFollowTheirCountsWhereNumbersCanRepeat) {
+TEST_F(GameDialogLists, BothHighestListsFollowTheirCountsWhereNumbersCanRepeat) {
     Open(fiveAndOne);
     ChooseText(duplicatesList, "Yes");
     EXPECT_EQ(ListOf(mainHighList).Entries(), NumbersTo(19));
@@ -335,7 +313,20 @@ TEST_F(GameRules, BothHighestListsFollowTheirCountsWhereNumbersCanRepeat) {
     EXPECT_EQ(ListOf(bonusHighList).Text(), "7");
 }
 
-TEST_F(GameRules, TenPicksFromLowest0LeaveNoHighestNumberWhereNumbersCanRepeat) {
+TEST_F(GameDialogLists, TheHiddenHighestBonusNumberFollowsItsCountInAGameOfOnePool) {
+    Open(defaultRecords[1]);
+    TypeName("Same pool");
+    ChooseText(duplicatesList, "Yes");
+    EXPECT_EQ(ListOf(bonusHighList).Entries(), NumbersTo(99)) << "of one bonus pick";
+    ChooseText(mainCountList, "6");
+    ChooseText(bonusCountList, "3");
+    EXPECT_EQ(ListOf(bonusHighList).Entries(), NumbersTo(33)) << "99 / 3, from 1 on";
+    EXPECT_EQ(ListOf(bonusHighList).Text(), "33");
+    EXPECT_FALSE(ListOf(bonusHighList).visible);
+    EXPECT_EQ(SavedRecord().substr(56, 4), "1/33");
+}
+
+TEST_F(GameDialogLists, TenPicksFromLowest0LeaveNoHighestNumberWhereNumbersCanRepeat) {
     Open(defaultRecords[0]);
     ChooseText(mainLowList, "0");
     ChooseText(duplicatesList, "Yes");
@@ -345,7 +336,7 @@ TEST_F(GameRules, TenPicksFromLowest0LeaveNoHighestNumberWhereNumbersCanRepeat) 
     EXPECT_EQ(appState.mainHigh, 0);
 }
 
-TEST_F(GameRules, OrderAndTheHighestNumbersChangeNothingElse) {
+TEST_F(GameDialogLists, OrderAndTheHighestNumbersChangeNothingElse) {
     Open(fiveAndOne);
     ChooseText(orderList, "No");
     ChooseText(mainHighList, "40");
@@ -355,7 +346,7 @@ TEST_F(GameRules, OrderAndTheHighestNumbersChangeNothingElse) {
     EXPECT_EQ(appState.gameRecord, fiveAndOne) << "the record takes them at the save";
 }
 
-TEST_F(GameRules, TheListsDoNotAnswerWhileTheDialogIsBeingFilled) {
+TEST_F(GameDialogLists, TheListsDoNotAnswerWhileTheDialogIsBeingFilled) {
     Open(sixOf49);
     frmNewGame.filling = true;
     Choose(gameTypeList, 4);
@@ -364,9 +355,25 @@ TEST_F(GameRules, TheListsDoNotAnswerWhileTheDialogIsBeingFilled) {
     EXPECT_TRUE(ListOf(bonusCountList).Entries().empty());
 }
 
+TEST_F(GameDialogLists, ARebuiltListOfHighestNumbersIsEmptyWhileTheScreenFollows) {
+    /// A toolkit that looks at the lists whenever it is given a turn.
+    class Onlooker : public support::PointerKeeper {
+      public:
+        void ProcessPendingEvents() override {
+            seen.push_back(ListOf(mainHighList).Entries().size());
+            seen.push_back(ListOf(bonusHighList).Entries().size());
+        }
+        std::vector<std::size_t> seen;
+    };
+    Open(fiveAndOne);
+    Onlooker onlooker;
+    ChooseText(duplicatesList, "Yes");
+    EXPECT_EQ(onlooker.seen, (std::vector<std::size_t>{0, 99, 19, 0}));
+}
+
 // The save
 
-TEST_F(GameRules, AGameWithoutBonusIsSavedFieldByField) {
+TEST_F(GameDialogLists, AGameWithoutBonusIsSavedFieldByField) {
     Open(defaultRecords[0]);
     TypeName("Pick Six");
     ChooseText(mainCountList, "6");
@@ -382,7 +389,7 @@ TEST_F(GameRules, AGameWithoutBonusIsSavedFieldByField) {
     EXPECT_EQ(appState.bonusHigh, 0);
 }
 
-TEST_F(GameRules, AGameWithItsBonusFromAPoolOfItsOwnIsSavedFieldByField) {
+TEST_F(GameDialogLists, AGameWithItsBonusFromAPoolOfItsOwnIsSavedFieldByField) {
     Open(defaultRecords[2]);
     TypeName("Five and one");
     ChooseText(mainCountList, "5");
@@ -399,7 +406,7 @@ TEST_F(GameRules, AGameWithItsBonusFromAPoolOfItsOwnIsSavedFieldByField) {
     EXPECT_EQ(appState.bonusHigh, 26);
 }
 
-TEST_F(GameRules, AGameWithDuplicatesIsSavedFieldByField) {
+TEST_F(GameDialogLists, AGameWithDuplicatesIsSavedFieldByField) {
     Open(defaultRecords[0]);
     TypeName("Daily 3");
     ChooseText(mainCountList, "3");
@@ -413,7 +420,7 @@ TEST_F(GameRules, AGameWithDuplicatesIsSavedFieldByField) {
     EXPECT_EQ(appState.mainHigh, 9);
 }
 
-TEST_F(GameRules, CardGamesAreSavedFieldByField) {
+TEST_F(GameDialogLists, CardGamesAreSavedFieldByField) {
     const Texts expected = {"1 /Cards                 /010/3/1/52/ / /N/N/05/0/N /  /1/52/   ",
                             "1 /Cards                 /010/4/1/52/ / /N/N/05/1/N /  /1/52/   ",
                             "1 /Cards                 /010/5/1/52/ / /N/N/05/1/N /  /1/52/   "};
@@ -430,31 +437,31 @@ TEST_F(GameRules, CardGamesAreSavedFieldByField) {
     }
 }
 
-TEST_F(GameRules, SavingACardGameStores1And52InBothPairsWhateverTheRecordHeld) {
+TEST_F(GameDialogLists, SavingACardGameStores1And52InBothPairsWhateverTheRecordHeld) {
     Open(WithColumns(defaultRecords[5], {{33, "0"}, {35, "17"}, {42, "Y"}, {57, "7"}, {59, "03"}}));
     TypeName("Cards");
     EXPECT_EQ(SavedRecord(), "1 /Cards                 /010/5/1/52/ / /N/N/09/1/N /  /1/52/   ");
     EXPECT_FALSE(appState.duplicatesAllowed);
 }
 
-TEST_F(GameRules, ANameOf25CharactersIsStoredAsItsFirst20) {
+TEST_F(GameDialogLists, ANameOf25CharactersIsStoredAsItsFirst20) {
     Open(defaultRecords[0]);
     TypeName("abcdefghijklmnopqrstuvwxy");
     EXPECT_EQ(SavedRecord().substr(3, 22), "abcdefghijklmnopqrst  ");
 }
 
-TEST_F(GameRules, ANameIsStoredWithoutTheBlanksAroundIt) {
+TEST_F(GameDialogLists, ANameIsStoredWithoutTheBlanksAroundIt) {
     Open(defaultRecords[0]);
     TypeName("  Pick 6  ");
     EXPECT_EQ(SavedRecord().substr(3, 22), "Pick 6                ");
 }
 
-TEST_F(GameRules, WhatTheDialogDoesNotShowStaysInTheRecord) {
+TEST_F(GameDialogLists, WhatTheDialogDoesNotShowStaysInTheRecord) {
     Open(WithColumns(fiveAndOne, {{51, "Y "}, {54, "ab"}, {62, "xyz"}}));
     EXPECT_EQ(SavedRecord(), "1 /Five and one          /000/2/1/69/ / /N/Y/05/1/Y /ab/0/26/xyz");
 }
 
-TEST_F(GameRules, TheOrderCountsAsNotMatteringUntilTheNextLoad) {
+TEST_F(GameDialogLists, TheOrderCountsAsNotMatteringUntilTheNextLoad) {
     Open(fiveAndOne);
     SavedRecord();
     EXPECT_FALSE(appState.orderMatters);
