@@ -28,10 +28,16 @@ constexpr int cardBoxLength = 3;
 constexpr int clearButtonGap = 50;
 constexpr int marginButtonOffset = 30;
 
-/// What assistive tools call a pick column of the log.
-std::string PickName(int column) {
-    return column <= appState.mainPickCount ? "Pick " + std::to_string(column)
-                                            : "Bonus " + std::to_string(column - appState.mainPickCount);
+/// What assistive tools call a pick column of the log in a game of so many main picks.
+std::string PickName(int column, int mainPicks) {
+    return column <= mainPicks ? "Pick " + std::to_string(column) : "Bonus " + std::to_string(column - mainPicks);
+}
+
+/// The last control on show, null if none is.
+template <typename Controls>
+const platform::Control* LastShown(const Controls& controls) {
+    const auto last = std::find_if(controls.rbegin(), controls.rend(), [](const auto& each) { return *each.visible; });
+    return last == controls.rend() ? nullptr : &*last;
 }
 
 }  // namespace
@@ -67,7 +73,7 @@ void ArrangeLogColumns() {
         pick.focusable = isPick;
         pick.background = isPick ? platform::windowColor : platform::buttonFaceColor;
         pick.heading = isBonus ? "+" : "";
-        pick.accessibleHeading = isPick ? PickName(column) : "";
+        pick.accessibleHeading = isPick ? PickName(column, appState.mainPickCount) : "";
         pick.width = cards ? cardPickWidth : numberPickWidth;
     }
     platform::GridPane& picks = frmMainForm.grdHist.Pane(pickPane);
@@ -95,15 +101,16 @@ void ArrangeHiLiteBoxes() {
         box.locked = cards;
         box.maxLength = cards ? cardBoxLength : numberBoxLength;
         box.pointer = cards ? platform::PointerShape::IBeam : platform::PointerShape::Cross;
-        // QUIRK HILITE-BOX-1: with nine picks nothing is hidden, so the tenth box stays on show after a game of ten. It
-        // is meant: the box takes a text of the user's like the others; hiding it would leave its text at work unseen.
+        // QUIRK HILITE-BOX-1: with nine picks nothing is hidden, so the tenth box stays on show after a game of ten, or
+        // where a game of nine is the first one shown. Habits rest on it.
         if (i < picks || picks < hiLiteBoxes - 1) {
             box.visible = i < picks;
             swatch.visible = i < picks;
         }
     }
-    const platform::Bounds& last = frmMainForm.txtHiLite[static_cast<std::size_t>(picks - 1)].bounds;
-    frmMainForm.cmdColor[1].SetLeft(last.left + last.width + clearButtonGap);
+    if (const platform::Control* last = LastShown(frmMainForm.txtHiLite)) {
+        frmMainForm.cmdColor[1].SetLeft(last->bounds->left + last->bounds->width + clearButtonGap);
+    }
 }
 
 void ClearHiLiteBoxes() {
@@ -111,6 +118,22 @@ void ClearHiLiteBoxes() {
         box.text = "";
     }
     frmMainForm.hiLiteCode.fill("");
+}
+
+HiLites ShownHiLites() {
+    HiLites hiLites;
+    hiLites.on = appState.colorMode != 0;
+    std::ranges::transform(frmMainForm.txtHiLite, hiLites.texts.begin(),
+                           [](const platform::TextBox& box) -> const std::string& { return *box.text; });
+    return hiLites;
+}
+
+GridExtent ShownLog() {
+    return {frmMainForm.logRowCount, frmMainForm.logLastColumn + 1};
+}
+
+GridExtent ShownHotCells() {
+    return {frmMainForm.hotRowCount, frmMainForm.hotColumnCount};
 }
 
 void RepaintHiLites() {

@@ -110,8 +110,7 @@ constexpr const char* editCaptions[] = {
     "-",
     "&Erase all Play Slips for this Game",
 };
-// QUIRK VIEW-MENU-1: "Decending" is spelled so in the menu, and right on the toolbar beside it. It is meant: users find
-// the entry by its looks, and the instructions quote it.
+// QUIRK VIEW-MENU-1: "Decending" is spelled so in the menu, and right on the toolbar beside it. Habits rest on it.
 constexpr const char* viewCaptions[] = {"Date &Ascending", "Date &Decending", "-", "Play &Slips"};
 constexpr const char* toolCaptions[] = {
     "&Wheel or Shuffle",

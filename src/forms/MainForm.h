@@ -4,38 +4,13 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/Menu.h"
 #include "platform/controls/Window.h"
+#include "state/HiLiteBoxes.h"
 
 #include <array>
 #include <cstdint>
 #include <string>
 
 namespace ballhaven {
-
-inline constexpr int hiLiteBoxes = 10;
-
-/// A colour of the Color by Number toolbar, with the foreground that can be read on it and the name that a person calls
-/// it by.
-struct HiLiteColor {
-    platform::Color background;
-    platform::Color foreground;
-    const char* name;
-};
-
-/// The colours of the swatches `lblColor`(0) to (9).
-inline constexpr std::array<HiLiteColor, hiLiteBoxes> hiLiteColors = {{
-    // clang-format off
-    {{255,   0, 255}, platform::black, "Magenta"},
-    {{255, 255,   0}, platform::black, "Yellow"},
-    {{255,   0,   0}, platform::white, "Red"},
-    {{  0, 255, 255}, platform::black, "Cyan"},
-    {{  0, 255,   0}, platform::black, "Green"},
-    {{  0, 128, 128}, platform::white, "Teal"},
-    {{128,   0, 128}, platform::white, "Purple"},
-    {{128, 128,   0}, platform::white, "Olive"},
-    {{  0,   0, 255}, platform::white, "Blue"},
-    {{  0,   0,   0}, platform::white, "Black"},
-    // clang-format on
-}};
 
 /// The panes of `grdHist`, and its columns of picks.
 inline constexpr int datePane = 0;
@@ -65,7 +40,7 @@ struct MainForm {
     std::array<platform::Button, 2> cmdColor;
     std::array<platform::Label, hiLiteBoxes> lblColor;
     std::array<platform::TextBox, hiLiteBoxes> txtHiLite;
-    std::array<std::string, hiLiteBoxes> hiLiteCode;  ///< the picks of the boxes as stored codes
+    BoxTexts hiLiteCode;  ///< the picks of the boxes as stored codes
 
     // The left column
     std::array<platform::Label, 4> lblLabel;

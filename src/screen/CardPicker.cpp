@@ -27,7 +27,7 @@ void TakeLogCard(std::string card) {
     frmMainForm.picCards[0].visible = false;
 }
 
-void ServeLogCardsClick(double x, double y) {
+void ClickLogCards(double x, double y) {
     const CardHit hit = LogCardAt(x, y);
     switch (hit.area) {
         case CardArea::CloseBox:
@@ -50,7 +50,7 @@ void TakeHiLiteCard(std::string card) {
     frmMainForm.picCards[1].visible = false;
 }
 
-void ServeHiLiteCardsClick(double x, double y) {
+void ClickHiLiteCards(double x, double y) {
     const CardHit hit = HiLiteCardAt(x, y);
     switch (hit.area) {
         case CardArea::CloseBox:
@@ -68,14 +68,14 @@ void ServeHiLiteCardsClick(double x, double y) {
 }  // namespace
 
 void WireCardPicker() {
-    frmMainForm.picCards[0].click = ServeLogCardsClick;
-    frmMainForm.picCards[1].click = ServeHiLiteCardsClick;
+    frmMainForm.picCards[0].click = ClickLogCards;
+    frmMainForm.picCards[1].click = ClickHiLiteCards;
 }
 
-void ServeLogCards() {
+void OpenOrCloseLogCards() {
     // QUIRK CARD-CLICK-1: a click on the cell that is current already moves nothing and so opens no cards, but stands
-    // until the next move, which opens them even by key. It is meant: forgetting the click at its end would leave one
-    // on the first pick after a start, where the cursor stands, without any answer.
+    // until the next move, which opens them even by key. Forgetting the click at its end would leave one on the first
+    // pick after a start, where the cursor stands, without any answer.
     if (!frmMainForm.cardClicked) {
         return;
     }

@@ -9,7 +9,7 @@ void WireCardPicker();
 
 /// What a move of the log's current cell does to its cards after a click in a card game (`cardClicked`, which it
 /// clears): a move to a pick opens them, or closes open ones and goes on to the date; a move to a date closes them.
-void ServeLogCards();
+void OpenOrCloseLogCards();
 
 /// Shows the cards that fill a hi-lite box (0 to 9), which becomes `hiLiteTarget`, in place of those of the log.
 void OpenHiLiteCards(std::int16_t box);

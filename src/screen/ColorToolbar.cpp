@@ -5,9 +5,13 @@
 #include "screen/CardPicker.h"
 #include "screen/DrawingHiLite.h"
 #include "state/AppState.h"
+#include "state/DateText.h"
+#include "state/ViewRows.h"
 #include "state/modUTILS.h"
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace ballhaven {
 
@@ -27,9 +31,8 @@ void ClearHiLites() {
 }
 
 // QUIRK HILITE-CODE-1: the stored code takes the digits as they are typed, each behind the box's text, and knows
-// nothing of corrections. It is meant: only the button that hi-lites a drawing compares it, and a box that was
-// corrected by hand is no copy of a drawing any more. Taking the code from the text would let that button clear what
-// the user typed.
+// nothing of corrections. Only the button that hi-lites a drawing compares it. Taking the code from the text would let
+// that button clear what the user typed.
 void NoteDigit(std::size_t box, char digit) {
     frmMainForm.hiLiteCode[box] = modUTILS::Trimmed(*frmMainForm.txtHiLite[box].text + digit);
 }
@@ -45,7 +48,7 @@ void LeaveByEnter(std::size_t box) {
     frmMainForm.cmdColor[0].click();
 }
 
-bool ServeKey(std::size_t box, char key) {
+bool TakeKey(std::size_t box, char key) {
     if (IsCardGame(appState.gameType)) {
         OpenHiLiteCards(static_cast<std::int16_t>(box));
         return true;
@@ -60,10 +63,36 @@ bool ServeKey(std::size_t box, char key) {
     return false;
 }
 
-void ServeClick(std::size_t box) {
+void ClickBox(std::size_t box) {
     if (IsCardGame(appState.gameType)) {
         OpenHiLiteCards(static_cast<std::int16_t>(box));
     }
+}
+
+/// The row of the view that the log's current row shows, -1 for none.
+int CurrentDraw() {
+    std::string date = frmMainForm.grdHist.Text(0);
+    DateToSerial(date);
+    return RowOfDate(appState.dateSerial);
+}
+
+/// The toggle over the log's current row: hi-lites its picks, or ends that. Without a draw in the row `colorMode`
+/// stays.
+void HiLiteDrawing() {
+    BoxContents boxes;
+    if (const int row = CurrentDraw(); row >= 0) {
+        const std::vector<std::int16_t> picks = PicksOfBoxes(PicksOfDraw(row), appState.totalPicks);
+        const bool isHiLited = HoldCodesOf(picks, frmMainForm.hiLiteCode);
+        appState.colorMode = isHiLited ? 0 : 2;
+        if (!isHiLited) {
+            boxes = BoxesWith(picks, appState.gameType);
+        }
+    }
+    for (std::size_t box = 0; box < boxes.texts.size(); ++box) {
+        frmMainForm.txtHiLite[box].text = boxes.texts[box];
+    }
+    frmMainForm.hiLiteCode = boxes.codes;
+    RepaintHiLites();
 }
 
 }  // namespace
@@ -73,8 +102,8 @@ void WireColorToolbar() {
     frmMainForm.cmdColor[1].click = ClearHiLites;
     frmMainForm.cmdColorHist.click = HiLiteDrawing;
     for (std::size_t box = 0; box < frmMainForm.txtHiLite.size(); ++box) {
-        frmMainForm.txtHiLite[box].keyPress = [box](char key) { return ServeKey(box, key); };
-        frmMainForm.txtHiLite[box].click = [box] { ServeClick(box); };
+        frmMainForm.txtHiLite[box].keyPress = [box](char key) { return TakeKey(box, key); };
+        frmMainForm.txtHiLite[box].click = [box] { ClickBox(box); };
     }
 }
 

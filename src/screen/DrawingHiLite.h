@@ -1,11 +1,28 @@
 #pragma once
 
+#include "state/HiLiteBoxes.h"
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
 namespace ballhaven {
 
-/// The toggle over the log's current row. Puts the picks of its draw into the hi-lite boxes of their columns, as text
-/// and as stored code, with `colorMode` 2; or, when the boxes hold the codes of just these picks already, empties them,
-/// with `colorMode` 0. A blank pick leaves its box empty. With no draw in the row the boxes become empty and
-/// `colorMode` stays.
-void HiLiteDrawing();
+/// The picks of a draw that belong to boxes, one for each box of a game of `totalPicks`; -1 for a blank one.
+[[nodiscard]] std::vector<std::int16_t> PicksOfBoxes(std::span<const std::int16_t> draw, int totalPicks);
+
+/// Whether the boxes from the first on hold the codes of just these picks.
+[[nodiscard]] bool HoldCodesOf(std::span<const std::int16_t> picks, const BoxTexts& codes);
+
+/// What the ten boxes show, and the picks in them as stored codes.
+struct BoxContents {
+    BoxTexts texts;
+    BoxTexts codes;
+
+    bool operator==(const BoxContents&) const = default;
+};
+
+/// The boxes filled from the first on with the picks of a draw. A blank pick leaves its box empty.
+[[nodiscard]] BoxContents BoxesWith(std::span<const std::int16_t> picks, int gameType);
 
 }  // namespace ballhaven

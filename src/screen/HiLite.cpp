@@ -22,16 +22,16 @@ void LogContrastRule(platform::CellStyle& style) {
     }
 }
 
-BoxRange MainBoxes() {
-    return {0, appState.mainPickCount - 1};
+BoxRange MainBoxes(int mainPicks) {
+    return {0, mainPicks - 1};
 }
 
-BoxRange BonusBoxes() {
-    return {appState.mainPickCount, appState.mainPickCount + appState.bonusPickCount - 1};
+BoxRange BonusBoxes(int mainPicks, int bonusPicks) {
+    return {mainPicks, mainPicks + bonusPicks - 1};
 }
 
-BoxRange AllBoxes() {
-    return {0, BonusBoxes().last};
+BoxRange AllBoxes(int mainPicks, int bonusPicks) {
+    return {0, mainPicks + bonusPicks - 1};
 }
 
 }  // namespace ballhaven

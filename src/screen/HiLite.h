@@ -1,9 +1,8 @@
 #pragma once
 
-#include "forms/MainForm.h"
 #include "platform/controls/Color.h"
-#include "platform/controls/Grid.h"
-#include "state/AppState.h"
+#include "platform/controls/GridColumns.h"
+#include "state/HiLiteBoxes.h"
 
 #include <algorithm>
 #include <optional>
@@ -28,20 +27,20 @@ struct BoxRange {
     bool operator==(const BoxRange&) const = default;
 };
 
-/// The boxes of the game's main picks, of its bonus picks, and of both.
-[[nodiscard]] BoxRange MainBoxes();
-[[nodiscard]] BoxRange BonusBoxes();
-[[nodiscard]] BoxRange AllBoxes();
+/// The boxes of a game's main picks, of its bonus picks, and of both.
+[[nodiscard]] BoxRange MainBoxes(int mainPicks);
+[[nodiscard]] BoxRange BonusBoxes(int mainPicks, int bonusPicks);
+[[nodiscard]] BoxRange AllBoxes(int mainPicks, int bonusPicks);
 
 /// First box of a run whose text passes `matches`, which takes the text as it stands in the box; none if no box does,
 /// or when the hi-lite is off.
 template <typename Matches>
-[[nodiscard]] std::optional<int> FindBox(BoxRange boxes, const Matches& matches) {
-    if (appState.colorMode == 0) {
+[[nodiscard]] std::optional<int> FindBox(const HiLites& hiLites, BoxRange boxes, const Matches& matches) {
+    if (!hiLites.on) {
         return std::nullopt;
     }
     for (int box = std::max(0, boxes.first); box <= std::min(boxes.last, hiLiteBoxes - 1); ++box) {
-        if (matches(*frmMainForm.txtHiLite[static_cast<std::size_t>(box)].text)) {
+        if (matches(hiLites.texts[static_cast<std::size_t>(box)])) {
             return box;
         }
     }

@@ -1,8 +1,9 @@
 #include "screen/HotCells.h"
 
-#include "forms/MainForm.h"
+#include "forms/GamePresentation.h"
 #include "screen/HiLite.h"
 #include "state/AppState.h"
+#include "state/GameRules.h"
 #include "state/PickText.h"
 #include "state/modUTILS.h"
 #include "statistics/HotFigures.h"
@@ -33,16 +34,16 @@ constexpr std::array<RowLayout, 5> rowLayouts{{
 }};
 
 /// The boxes whose picks count in the statistics.
-BoxRange CountedBoxes(CountedPicks counted) {
+BoxRange CountedBoxes(CountedPicks counted, const GameRules& rules) {
     switch (counted) {
         case CountedPicks::Main:
-            return MainBoxes();
+            return MainBoxes(rules.mainPickCount);
         case CountedPicks::Bonus:
-            return BonusBoxes();
+            return BonusBoxes(rules.mainPickCount, rules.bonusPickCount);
         case CountedPicks::All:
             break;
     }
-    return AllBoxes();
+    return AllBoxes(rules.mainPickCount, rules.bonusPickCount);
 }
 
 }  // namespace
@@ -91,8 +92,7 @@ bool IsHiLitedBy(std::string_view box, std::string_view picks) {
 }
 
 std::optional<std::string> HotCellValue(int row, int column) {
-    const bool isChosen = appState.hotTableChoice > 0;
-    if (!isChosen || row >= frmMainForm.hotRowCount || column < 0 || column >= frmMainForm.hotColumnCount) {
+    if (appState.hotTableChoice < 1 || !ShownHotCells().Has(row, column)) {
         return std::nullopt;
     }
     return HotCellText(ShownHotTable(), CellsOfRow(ShownHotTable(), row), column, appState.historyViewLast + 1,
@@ -110,8 +110,8 @@ void HotCellStyle(int row, int column, platform::CellStyle& style) {
         style.foreground = SuitColor(picks);
     }
     const std::optional<int> box =
-        FindBox(CountedBoxes(CountedPicks{appState.hotSortChoice}),
-                [&picks](const std::string& boxText) { return IsHiLitedBy(boxText, picks); });
+        FindBox(ShownHiLites(), CountedBoxes(CountedPicks{appState.hotSortChoice}, CurrentRules()),
+                [&picks](std::string_view boxText) { return IsHiLitedBy(boxText, picks); });
     if (box) {
         style.background = HiLiteBackground(*box);
     }

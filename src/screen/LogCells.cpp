@@ -1,13 +1,12 @@
 #include "screen/LogCells.h"
 
-#include "forms/MainForm.h"
 #include "screen/HiLite.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 #include "state/PickText.h"
 #include "state/modUTILS.h"
 
-#include <cstdint>
+#include <string_view>
 
 namespace ballhaven {
 
@@ -16,68 +15,76 @@ namespace {
 constexpr int dateColumn = 0;
 constexpr std::int16_t blankPick = -1;
 
-/// The cell of the view that a cell of the log shows; none outside the log.
-std::optional<std::int16_t> DrawCell(int row, int column) {
-    if (row >= frmMainForm.logRowCount || column > frmMainForm.logLastColumn ||
-        !appState.historyView.Has(column, row)) {
-        return std::nullopt;
-    }
-    return appState.historyView(column, row);
-}
-
-bool IsRedCard(const std::string& card) {
+bool IsRedCard(std::string_view card) {
     return card.ends_with('h') || card.ends_with('d');
 }
 
+bool SharesOnePool(int gameType) {
+    return gameType == 1 || gameType == 4;
+}
+
 /// The boxes whose picks a column of the log can hold.
-BoxRange BoxesOfColumn(int column) {
-    if (appState.gameType == 1 || appState.gameType == 4) {
-        return AllBoxes();
+BoxRange BoxesOfColumn(int column, const GameRules& rules) {
+    if (SharesOnePool(rules.gameType)) {
+        return AllBoxes(rules.mainPickCount, rules.bonusPickCount);
     }
-    return column <= appState.mainPickCount ? MainBoxes() : BonusBoxes();
+    return column <= rules.mainPickCount ? MainBoxes(rules.mainPickCount)
+                                         : BonusBoxes(rules.mainPickCount, rules.bonusPickCount);
 }
 
 /// The box whose colour a pick takes; none when it is not hi-lited.
-std::optional<int> BoxOfPick(const std::string& pick, int column) {
-    const auto holdsPick = [&pick](const std::string& box) { return modUTILS::Trimmed(box) == pick; };
-    if (!appState.orderMatters) {
-        return FindBox(BoxesOfColumn(column), holdsPick);
+std::optional<int> BoxOfPick(const std::string& pick, int column, const GameRules& rules, const HiLites& hiLites) {
+    const auto holdsPick = [&pick](std::string_view box) { return modUTILS::Trimmed(box) == pick; };
+    if (!rules.orderMatters) {
+        return FindBox(hiLites, BoxesOfColumn(column, rules), holdsPick);
     }
     // QUIRK ORDER-HILITE-1: where the order of drawing matters, only the first box is compared, and the colour tells at
-    // which place its pick was drawn. It is meant: looking through all boxes would give a pick one colour everywhere.
-    return FindBox({0, 0}, holdsPick) ? std::optional(column - 1) : std::nullopt;
+    // which place its pick was drawn. Looking through all boxes would give a pick one colour everywhere.
+    return FindBox(hiLites, {0, 0}, holdsPick) ? std::optional(column - 1) : std::nullopt;
 }
 
 }  // namespace
 
+std::optional<std::int16_t> DrawCell(const Table& view, const GridExtent& log, int row, int column) {
+    if (!log.Has(row, column) || !view.Has(column, row)) {
+        return std::nullopt;
+    }
+    return view(column, row);
+}
+
+platform::CellStyle StyleOfPick(int pick, int column, const GameRules& rules, const HiLites& hiLites) {
+    platform::CellStyle style{platform::black, platform::white};
+    if (pick == blankPick) {
+        return style;
+    }
+    const std::string text = PickToText(pick, rules.gameType);
+    if (IsCardGame(rules.gameType) && IsRedCard(text)) {
+        style.foreground = platform::red;
+    }
+    if (const std::optional<int> box = BoxOfPick(text, column, rules, hiLites)) {
+        style.background = HiLiteBackground(*box);
+    }
+    LogContrastRule(style);
+    return style;
+}
+
 std::optional<std::string> LogCellValue(int row, int column) {
-    const std::optional<std::int16_t> cell = DrawCell(row, column);
+    const std::optional<std::int16_t> cell = DrawCell(appState.historyView, ShownLog(), row, column);
     if (!cell) {
         return std::nullopt;
     }
     if (*cell == blankPick) {
         return std::string();
     }
-    return column == dateColumn ? SerialToDate(*cell) : PickToText(*cell);
+    return column == dateColumn ? SerialToDate(*cell) : PickToText(*cell, appState.gameType);
 }
 
 void LogCellStyle(int row, int column, platform::CellStyle& style) {
-    const std::optional<std::int16_t> cell = DrawCell(row, column);
-    if (!cell || column == dateColumn || column > logPickColumns) {
+    const std::optional<std::int16_t> cell = DrawCell(appState.historyView, ShownLog(), row, column);
+    if (!cell || column == dateColumn) {
         return;
     }
-    style = {platform::black, platform::white};
-    if (*cell == blankPick) {
-        return;
-    }
-    const std::string pick = PickToText(*cell);
-    if (IsCardGame(appState.gameType) && IsRedCard(pick)) {
-        style.foreground = platform::red;
-    }
-    if (const std::optional<int> box = BoxOfPick(pick, column)) {
-        style.background = HiLiteBackground(*box);
-    }
-    LogContrastRule(style);
+    style = StyleOfPick(*cell, column, CurrentRules(), ShownHiLites());
 }
 
 }  // namespace ballhaven

@@ -90,7 +90,7 @@ void EndWinnersDisplay() {
 }
 
 void ServeMove() {
-    ServeLogCards();
+    OpenOrCloseLogCards();
     EndWinnersDisplay();
 }
 

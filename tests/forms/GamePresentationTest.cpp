@@ -201,6 +201,27 @@ TEST_F(QuirkHiLiteBox1, TheTenthBoxStaysHiddenWhenNinePicksFollowEight) {
     EXPECT_EQ(VisibleBoxes(), (std::vector<int>{0, 1, 2, 3, 4, 5, 6, 7, 8}));
 }
 
+// Not a bug: HILITE-BOX-1 in docs/not-bugs.md.
+TEST_F(QuirkHiLiteBox1, TheClearingButtonStandsBesideTheTenthBoxWhereItStays) {
+    Play(0, 10, 0);
+    ArrangeHiLiteBoxes();
+    Play(0, 9, 0);
+    ArrangeHiLiteBoxes();
+    EXPECT_EQ(frmMainForm.cmdColor[1].bounds->left, 7560 + 390 * 9 + 375 + 50);
+    Play(0, 8, 0);
+    ArrangeHiLiteBoxes();
+    Play(0, 9, 0);
+    ArrangeHiLiteBoxes();
+    EXPECT_EQ(frmMainForm.cmdColor[1].bounds->left, 7560 + 390 * 8 + 375 + 50);
+}
+
+TEST_F(QuirkHiLiteBox1, AGameOfNinePicksThatIsTheFirstOneShownHasTheTenthBox) {
+    Play(0, 9, 0);
+    ArrangeHiLiteBoxes();
+    EXPECT_EQ(VisibleBoxes().size(), 10U);
+    EXPECT_EQ(frmMainForm.cmdColor[1].bounds->left, 7560 + 390 * 9 + 375 + 50);
+}
+
 TEST_F(GamePresentation, TheClearingButtonStandsBesideTheBoxOfTheLastPick) {
     Play(0, 10, 0);
     ArrangeHiLiteBoxes();
@@ -242,6 +263,37 @@ TEST_F(GamePresentation, ClearingTheBoxesEmptiesBothOfTheirTexts) {
     ClearHiLiteBoxes();
     EXPECT_EQ(*frmMainForm.txtHiLite[3].text, "");
     EXPECT_EQ(frmMainForm.hiLiteCode[3], "");
+}
+
+TEST_F(GamePresentation, CellsAreComparedWithTheTextsOfTheBoxesWhileTheHiLiteIsOn) {
+    frmMainForm.txtHiLite[0].text = "7";
+    frmMainForm.txtHiLite[9].text = " Kh";
+    frmMainForm.hiLiteCode[1] = "8";
+    EXPECT_FALSE(ShownHiLites().on);
+    for (const std::int16_t mode : std::initializer_list<std::int16_t>{1, 2}) {
+        appState.colorMode = mode;
+        EXPECT_TRUE(ShownHiLites().on) << mode;
+    }
+    const std::array<std::string_view, 10> expected = {"7", "", "", "", "", "", "", "", "", " Kh"};
+    EXPECT_EQ(ShownHiLites().texts, expected);
+}
+
+TEST_F(GamePresentation, TheLogShowsItsRowsAndTheColumnsWithData) {
+    frmMainForm.logRowCount = 25;
+    frmMainForm.logLastColumn = 6;
+    EXPECT_TRUE(ShownLog().Has(0, 0));
+    EXPECT_TRUE(ShownLog().Has(24, 6));
+    EXPECT_FALSE(ShownLog().Has(25, 0));
+    EXPECT_FALSE(ShownLog().Has(0, 7));
+    EXPECT_FALSE(ShownLog().Has(-1, 0));
+    EXPECT_FALSE(ShownLog().Has(0, -1));
+}
+
+TEST_F(GamePresentation, TheHotTableShowsItsRowsInFourColumns) {
+    frmMainForm.hotRowCount = 49;
+    EXPECT_TRUE(ShownHotCells().Has(48, 3));
+    EXPECT_FALSE(ShownHotCells().Has(49, 3));
+    EXPECT_FALSE(ShownHotCells().Has(48, 4));
 }
 
 TEST_F(GamePresentation, HidingTheCardsForgetsAClickThatWouldOpenThem) {

@@ -107,6 +107,14 @@ TEST_F(CardPicker, APickedCardIsStoredCountedAndSaved) {
     ExpectFile(draws);
 }
 
+TEST_F(CardPicker, ACardAloneMarksTheHistoryAsChanged) {
+    ClickCell("grdHist", 0, 2);
+    ASSERT_TRUE(LogCardsShown());
+    appState.historyDirty = false;  // the press of the mouse on the log has set it
+    ClickAt("picCards(0)", {65, 191});
+    EXPECT_TRUE(appState.historyDirty);
+}
+
 // The picture's columns and rows by their outermost pixels: 26 is 390 twips, 27 is 405.
 TEST_F(CardPicker, TheCardsOfTheLogBeginAndEndAtTheirPixels) {
     const std::vector<std::pair<QPoint, const char*>> cards = {
@@ -327,6 +335,29 @@ TEST_F(CardPickerOfTwoGames, AClickThatWaitsForAMoveOpensNothingInAnotherGame) {
     ChooseEntry("cboList(0)", 1);
     Press(Qt::Key_Up);
     EXPECT_FALSE(LogCardsShown());
+}
+
+/// Another card game beside the card game.
+class CardPickerOfTwoCardGames : public CardPicker {
+  protected:
+    void SetUp() override {
+        Store({.slot = 2, .gameType = 3, .mainPicks = 2, .high = 52, .draws = {{"01/01/1990", {7, 8}}}});
+        CardPicker::SetUp();
+    }
+};
+
+TEST_F(CardPickerOfTwoCardGames, AnotherCardGameBeginsWithoutTheCardsOfTheLog) {
+    ClickCell("grdHist", 0, 2);
+    ASSERT_TRUE(LogCardsShown());
+    ChooseEntry("cboList(0)", 1);
+    EXPECT_FALSE(LogCardsShown());
+}
+
+TEST_F(CardPickerOfTwoCardGames, AnotherCardGameBeginsWithoutTheCardsOfTheBoxes) {
+    Click("txtHiLite(1)");
+    ASSERT_TRUE(HiLiteCardsShown());
+    ChooseEntry("cboList(0)", 1);
+    EXPECT_FALSE(HiLiteCardsShown());
 }
 
 }  // namespace

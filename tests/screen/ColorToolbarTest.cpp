@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include <functional>
+
 namespace ballhaven {
 namespace {
 
@@ -66,6 +68,41 @@ TEST_F(ColorToolbar, TheButtonAppliesTheColoursToBothGrids) {
     EXPECT_EQ(CellColor("grdHist", 2, 1), white) << "a blank pick";
     EXPECT_EQ(CellText("grdHot", 0, 0), "7");
     EXPECT_EQ(CellColor("grdHot", 0, 0), magenta);
+}
+
+/// Counts how often the cells of both grids are asked for their colours.
+class ColorToolbarAndItsGrids : public ColorToolbar {
+  protected:
+    void SetUp() override {
+        ColorToolbar::SetUp();
+        Count(frmMainForm.grdHist, logCells);
+        Count(frmMainForm.grdHot, hotCells);
+    }
+
+    void ExpectBothGridsDrawn(const std::function<void()>& act) {
+        support::Settle();
+        logCells = hotCells = 0;
+        act();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return logCells > 0 && hotCells > 0; }))
+            << logCells << " cells of the log, " << hotCells << " of the Hot table";
+    }
+
+  private:
+    static void Count(platform::Grid& grid, int& cells) {
+        grid.cellStyle = [&cells, colour = grid.cellStyle](const platform::GridCell& cell, platform::CellStyle& style) {
+            ++cells;
+            colour(cell, style);
+        };
+    }
+
+    int logCells = 0;
+    int hotCells = 0;
+};
+
+TEST_F(ColorToolbarAndItsGrids, BothAreDrawnAgainWhenTheColoursAreAppliedOrCleared) {
+    ExpectBothGridsDrawn([] { frmMainForm.cmdColor[0].click(); });
+    ExpectBothGridsDrawn([] { frmMainForm.cmdColor[1].click(); });
+    ExpectBothGridsDrawn([] { frmMainForm.cmdColorHist.click(); });
 }
 
 TEST_F(ColorToolbar, TheOtherButtonClearsTheBoxesAndTheColours) {
@@ -175,6 +212,22 @@ TEST_F(ColorToolbar, TheButtonOnARowWithABlankPickLeavesThatBoxEmpty) {
     HiLiteRow(2);
     EXPECT_EQ(Boxes(), (Texts{"", "12", "7"}));
     EXPECT_EQ(Codes(), (Texts{"", "12", "7"}));
+}
+
+TEST_F(ColorToolbar, OfTwoRowsWithOneDateTheButtonHiLitesTheFirst) {
+    appState.historyView(0, 1) = appState.historyView(0, 0);
+    frmMainForm.grdHist.ReadAgain();
+    HiLiteRow(1);
+    EXPECT_EQ(Boxes(), (Texts{"7", "8", "9"}));
+}
+
+TEST_F(ColorToolbar, WithoutADrawInTheRowTheBoxesBecomeEmptyAndTheModeStays) {
+    TypeInBox("txtHiLite(0)", "7\r");
+    appState.historyViewLast = -1;
+    frmMainForm.cmdColorHist.click();
+    EXPECT_EQ(Boxes(), (Texts{"", "", ""}));
+    EXPECT_EQ(Codes(), (Texts{"", "", ""}));
+    EXPECT_EQ(appState.colorMode, 1);
 }
 
 TEST_F(ColorToolbar, TypedNumbersOfADrawingAreThatDrawing) {

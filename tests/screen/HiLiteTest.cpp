@@ -1,10 +1,11 @@
 #include "screen/HiLite.h"
 
-#include "support/MainScreen.h"
+#include "forms/MainForm.h"
+#include "support/MainFormReset.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace ballhaven {
@@ -12,10 +13,6 @@ namespace {
 
 using platform::CellStyle;
 using platform::Color;
-using support::BonusPool;
-using support::FillBox;
-using support::NumberGame;
-using support::StartWith;
 
 constexpr Color black = platform::black;
 constexpr Color white = platform::white;
@@ -29,8 +26,8 @@ Color ForegroundOn(Color background) {
     return style.foreground;
 }
 
-std::optional<int> BoxHolding(const std::string& text, BoxRange boxes) {
-    return FindBox(boxes, [&text](const std::string& box) { return box == text; });
+std::optional<int> BoxHolding(std::string_view text, const HiLites& hiLites, BoxRange boxes) {
+    return FindBox(hiLites, boxes, [text](std::string_view box) { return box == text; });
 }
 
 TEST(HiLiteBackground, TheTenBoxesHaveTheirColoursFromLeftToRight) {
@@ -42,7 +39,7 @@ TEST(HiLiteBackground, TheTenBoxesHaveTheirColoursFromLeftToRight) {
 }
 
 TEST(HiLiteBackground, IsTheColourOfTheSwatchAboveTheBox) {
-    StartWith(NumberGame());
+    support::ResetMainForm();
     for (int box = 0; box < hiLiteBoxes; ++box) {
         EXPECT_EQ(HiLiteBackground(box), *frmMainForm.lblColor[static_cast<std::size_t>(box)].background) << box;
     }
@@ -95,42 +92,31 @@ TEST(LogContrastRule, TheTenColoursBearTheirUsualText) {
 }
 
 TEST(BoxRanges, MainAndBonusBoxesStandSideBySide) {
-    StartWith(NumberGame().Picks(5).Bonus(2, BonusPool::Separate));
-
-    EXPECT_EQ(MainBoxes(), (BoxRange{0, 4}));
-    EXPECT_EQ(BonusBoxes(), (BoxRange{5, 6}));
-    EXPECT_EQ(AllBoxes(), (BoxRange{0, 6}));
+    EXPECT_EQ(MainBoxes(5), (BoxRange{0, 4}));
+    EXPECT_EQ(BonusBoxes(5, 2), (BoxRange{5, 6}));
+    EXPECT_EQ(AllBoxes(5, 2), (BoxRange{0, 6}));
 }
 
 TEST(FindBox, TheFirstBoxOfTheRunThatHoldsTheTextIsFound) {
-    StartWith(NumberGame().Picks(6));
-    appState.colorMode = 1;
-    FillBox(1, "7");
-    FillBox(4, "7");
+    const HiLites hiLites{true, {"", "7", "", "", "7"}};
 
-    EXPECT_EQ(BoxHolding("7", {0, 5}), 1);
-    EXPECT_EQ(BoxHolding("7", {2, 5}), 4);
-    EXPECT_EQ(BoxHolding("7", {2, 3}), std::nullopt);
+    EXPECT_EQ(BoxHolding("7", hiLites, {0, 5}), 1);
+    EXPECT_EQ(BoxHolding("7", hiLites, {2, 5}), 4);
+    EXPECT_EQ(BoxHolding("7", hiLites, {2, 4}), 4);
+    EXPECT_EQ(BoxHolding("7", hiLites, {2, 3}), std::nullopt);
 }
 
 TEST(FindBox, NothingIsFoundWithTheHiLiteOff) {
-    StartWith(NumberGame().Picks(6));
-    FillBox(1, "7");
-
-    appState.colorMode = 0;
-    EXPECT_EQ(BoxHolding("7", {0, 5}), std::nullopt);
-
-    appState.colorMode = 2;
-    EXPECT_EQ(BoxHolding("7", {0, 5}), 1);
+    EXPECT_EQ(BoxHolding("7", {false, {"", "7"}}, {0, 5}), std::nullopt);
+    EXPECT_EQ(BoxHolding("7", {true, {"", "7"}}, {0, 5}), 1);
 }
 
-TEST(FindBox, ARunBeyondTheTenthBoxEndsThere) {
-    StartWith(NumberGame().Picks(6));
-    appState.colorMode = 1;
-    FillBox(9, "7");
+TEST(FindBox, ARunBeyondTheTenBoxesEndsThere) {
+    const HiLites hiLites{true, {"1", "", "", "", "", "", "", "", "", "7"}};
 
-    EXPECT_EQ(BoxHolding("7", {0, 40}), 9);
-    EXPECT_EQ(BoxHolding("8", {0, 40}), std::nullopt);
+    EXPECT_EQ(BoxHolding("7", hiLites, {0, 40}), 9);
+    EXPECT_EQ(BoxHolding("8", hiLites, {0, 40}), std::nullopt);
+    EXPECT_EQ(BoxHolding("1", hiLites, {-3, 40}), 0);
 }
 
 }  // namespace

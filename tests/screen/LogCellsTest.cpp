@@ -41,6 +41,47 @@ Color BackgroundOf(int column) {
     return StyleOf(0, column).background;
 }
 
+/// Two main picks and a bonus pick of a pool of its own.
+constexpr GameRules twoAndOne{.gameType = 2, .mainPickCount = 2, .bonusPickCount = 1, .mainHigh = 49, .bonusHigh = 49};
+constexpr HiLites sevens{true, {"7", "", " 8"}};
+
+TEST(DrawCell, TheLogEndsWithItsRowsItsColumnsAndTheView) {
+    Table view(4, 3, 5);
+    EXPECT_EQ(DrawCell(view, {2, 3}, 1, 2), 5);
+    EXPECT_EQ(DrawCell(view, {2, 3}, 0, 0), 5);
+    EXPECT_EQ(DrawCell(view, {2, 3}, 2, 2), std::nullopt) << "a row that the log does not show";
+    EXPECT_EQ(DrawCell(view, {2, 3}, 1, 3), std::nullopt) << "a column without data";
+    EXPECT_EQ(DrawCell(view, {9, 9}, 3, 0), std::nullopt) << "a row that the view does not have";
+    EXPECT_EQ(DrawCell(view, {9, 9}, 0, 4), std::nullopt) << "a column that it does not have";
+    EXPECT_EQ(DrawCell(view, {9, 9}, -1, 0), std::nullopt);
+    EXPECT_EQ(DrawCell(view, {9, 9}, 0, -1), std::nullopt);
+}
+
+TEST(StyleOfPick, APickHasTheColourOfTheBoxOfItsPoolThatHoldsIt) {
+    EXPECT_EQ(StyleOfPick(7, 1, twoAndOne, sevens), (CellStyle{black, magenta}));
+    EXPECT_EQ(StyleOfPick(7, 2, twoAndOne, sevens), (CellStyle{black, magenta}));
+    EXPECT_EQ(StyleOfPick(7, 3, twoAndOne, sevens), (CellStyle{black, white}));
+    EXPECT_EQ(StyleOfPick(8, 2, twoAndOne, sevens), (CellStyle{black, white}));
+    EXPECT_EQ(StyleOfPick(8, 3, twoAndOne, sevens), (CellStyle{white, red}));
+}
+
+TEST(StyleOfPick, ABlankPickIsBlackOnWhite) {
+    EXPECT_EQ(StyleOfPick(-1, 1, twoAndOne, {true, {"-1"}}), (CellStyle{black, white}));
+}
+
+TEST(LogCells, ReadingAndColouringThemChangesNoDateThatIsAtWork) {
+    StartWith(CardGame().Picks(2));
+    ShowDraws({{5, 6}});
+    appState.dateSerial = 77;
+    appState.dateWeekday = 3;
+
+    EXPECT_EQ(LogCellValue(0, 0), "01/01/1990");
+    StyleOf(0, 1);
+
+    EXPECT_EQ(appState.dateSerial, 77);
+    EXPECT_EQ(appState.dateWeekday, 3);
+}
+
 TEST(LogCellValue, TheFirstColumnTellsTheDateAndTheOthersThePicks) {
     StartWith(NumberGame().Picks(3).From(0));
     ShowDraws({{0, 14, 49}, {7, 8, 9}});
