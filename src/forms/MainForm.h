@@ -24,6 +24,8 @@ struct MainForm {
     // Fields that several of the window's events share
     bool windowStarting = false;  ///< from the load until the end of the first activation
     bool gameLoading = false;     ///< while a game is being switched in
+    bool bringingInDraw = false;  ///< while a draw that has waited for the timer is brought into view
+    bool askingAtStart = false;   ///< during the first activation, which asks about an un-defined game
     std::int32_t logRowCount = 0;
     std::int16_t logLastColumn = 0;  ///< highest column of `grdHist` that holds data
     std::int16_t hotRowCount = 0;

@@ -2,6 +2,7 @@
 
 #include "forms/MainForm.h"
 #include "state/AppState.h"
+#include "state/GameRecord.h"
 #include "state/GameTable.h"
 
 #include <string>
@@ -10,21 +11,29 @@
 
 namespace ballhaven {
 
+namespace {
+
+std::vector<std::string> HistorySetNames() {
+    std::vector<std::string> names;
+    for (int size = smallestHistorySet; size <= largestHistorySet; size += historySetStep) {
+        names.push_back("Last " + std::to_string(size) + " Games");
+    }
+    return names;
+}
+
+}  // namespace
+
 void ListGames() {
     std::vector<std::string> names;
-    for (int slot = 1; slot <= gameSlots; ++slot) {
-        names.push_back(GameName(ReadGameRecord(slot)));
+    for (const std::string& record : ReadGameRecords()) {
+        names.push_back(GameName(record));
     }
     frmMainForm.cboList[0].Fill(std::move(names));
     frmMainForm.cboList[0].Select(appState.currentGame - 1);
 }
 
 void LoadHistorySetList() {
-    std::vector<std::string> sets;
-    for (int size = smallestHistorySet; size <= largestHistorySet; size += historySetStep) {
-        sets.push_back("Last " + std::to_string(size) + " Games");
-    }
-    frmMainForm.cboList[1].Fill(std::move(sets));
+    frmMainForm.cboList[1].Fill(HistorySetNames());
     frmMainForm.cboList[1].Select(appState.historySetSize / historySetStep - 1);
 }
 

@@ -1,15 +1,14 @@
 #include "history/DrawDates.h"
 
-#include "forms/MainForm.h"
-#include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
-#include "history/HistoryView.h"
 #include "platform/Boxes.h"
 #include "platform/Pointer.h"
 #include "platform/Services.h"
 #include "state/AppState.h"
 #include "state/DateMask.h"
+#include "state/DateSerial.h"
 #include "state/DateText.h"
+#include "state/ViewRows.h"
 #include "state/modUTILS.h"
 
 #include <algorithm>
@@ -26,46 +25,7 @@ constexpr int choosingNewDraw = -1;
 // A view of so many rows counts a new draw before it has been cut again.
 constexpr int viewThatCountsNewDraw = 10;
 
-/// The first row of `HistoryTable` with a date, -1 if there is none.
-int FindDraw(std::int16_t date) {
-    for (int row = 0; row <= appState.historyLast; ++row) {
-        if (appState.HistoryTable.PickAt(dateColumn, row) == date) {
-            return row;
-        }
-    }
-    return -1;
-}
-
-std::int16_t SerialOfText(std::string text) {
-    DateToSerial(text);
-    return appState.dateSerial;
-}
-
-void GoToDraw(const std::string& date) {
-    for (int row = 0; row <= appState.historyViewLast; ++row) {
-        if (SerialToDate(appState.historyView(dateColumn, row)) == date) {
-            frmMainForm.grdHist.GoToRow(row);
-        }
-    }
-}
-
-std::chrono::year_month_day DateToOffer() {
-    const std::chrono::year_month_day today = platform::services.today();
-    if (appState.nextLogDate == 0) {
-        appState.nextLogDate = SerialOfText(FormatDate(today, DateMaskOf(appState.shortDateFormat)));
-        return today;
-    }
-    // QUIRK OFFERED-DATE-1: the day after the last draw is offered only where there are two draws and it is not the
-    // first offer since the game was loaded; else it is today. It is meant: a log is begun, and taken up again, with
-    // the draw of the day. Offering the next day always would put that draw on the day after a gap.
-    if (appState.historyLast <= 0) {
-        return today;
-    }
-    appState.nextLogDate = modUTILS::ToInt16(appState.HistoryTable(dateColumn, appState.historyLast) + 1);
-    return TextToDate(SerialToDate(appState.nextLogDate)).value_or(today);
-}
-
-void SayDateExists() {
+void TellDateExists() {
     platform::Tell("Date already exists,\nplease select another date.", platform::BoxIcon::Information);
 }
 
@@ -73,54 +33,59 @@ bool AsksToChange() {
     return platform::Ask("Are you sure you want to change this date?");
 }
 
-void ChangeDate(std::int16_t date) {
-    const std::int16_t oldDate = SerialOfText(frmMainForm.grdHist.Text(dateColumn));
-    if (const int row = FindDraw(oldDate); row >= 0) {
-        appState.HistoryTable(dateColumn, row) = date;
+void ChangeDate(Table& history, int last, std::int16_t oldDate, std::int16_t date) {
+    if (const int row = RowOfDate(history, last, oldDate); row >= 0) {
+        history(dateColumn, row) = date;
     }
-    appState.dateSerial = date;
 }
 
-/// The row for a new draw, which is counted.
-int RowForNewDraw() {
-    // QUIRK FULL-LOG-1: a full table replaces its first draw, the oldest one, without a word. It is meant: who enters
-    // draw number 1001 keeps the last 1000. Refusing it would stop the log for good.
-    if (appState.historyLast == historyRows - 1) {
-        return 0;
-    }
-    ++appState.historyLast;
-    if (appState.historyLast > appState.historyViewLast && appState.historyViewLast < viewThatCountsNewDraw) {
-        appState.historyViewLast = appState.historyLast;
-    }
-    return appState.historyLast;
+/// The row for a new draw behind rows 0 to `last`.
+int RowForNewDraw(int last) {
+    // QUIRK FULL-LOG-1: a full table replaces its first draw, the oldest one, without a word: who enters draw number
+    // 1001 keeps the last 1000. Refusing it would stop the log for good.
+    return last == historyRows - 1 ? 0 : last + 1;
+}
+
+void PutNewDraw(Table& history, int row, std::int16_t date) {
+    const auto cells = history.Row(row);
+    std::ranges::fill(cells, blankPick);
+    cells[dateColumn] = date;
 }
 
 void AddDraw(std::int16_t date) {
-    const auto cells = appState.HistoryTable.Row(RowForNewDraw());
-    std::ranges::fill(cells, blankPick);
-    cells[dateColumn] = date;
+    const int row = RowForNewDraw(appState.historyLast);
+    if (row > appState.historyLast) {
+        appState.historyLast = modUTILS::ToInt16(row);
+        if (row > appState.historyViewLast && appState.historyViewLast < viewThatCountsNewDraw) {
+            appState.historyViewLast = appState.historyLast;
+        }
+    }
+    PutNewDraw(appState.HistoryTable, row, date);
 }
 
 }  // namespace
 
 std::chrono::year_month_day BeginNewDraw() {
-    // A draw that still waits for the timer would be forgotten by the next choice.
-    BringInChosenDraw();
     appState.pendingLogDate = choosingNewDraw;
     appState.logDateText.clear();
-    return DateToOffer();
+    const std::chrono::year_month_day today = platform::services.today();
+    if (appState.nextLogDate == 0) {
+        appState.nextLogDate = ReadSerial(FormatDate(today, DateMaskOf(appState.shortDateFormat)));
+        return today;
+    }
+    // QUIRK OFFERED-DATE-1: the day after the last draw is offered only where there are two draws and it is not the
+    // first offer since the game was loaded; else it is today. Offering the next day always would put the draw of the
+    // day on the day after a gap.
+    if (appState.historyLast <= 0) {
+        return today;
+    }
+    appState.nextLogDate = modUTILS::ToInt16(appState.HistoryTable(dateColumn, appState.historyLast) + 1);
+    return DateOfText(SerialToDate(appState.nextLogDate), appState.shortDateFormat).value_or(today);
 }
 
-std::chrono::year_month_day BeginDateChange() {
-    platform::Grid& log = frmMainForm.grdHist;
-    if (appState.pendingLogDate > 0) {
-        const std::string date = log.Text(dateColumn);
-        BringInChosenDraw();
-        GoToDraw(date);
-    }
-    log.GoToColumn(dateColumn);
-    appState.logDateText = log.Text(dateColumn);
-    return TextToDate(appState.logDateText).value_or(platform::services.today());
+std::chrono::year_month_day BeginDateChange(const std::string& date) {
+    appState.logDateText = date;
+    return DateOfText(date, appState.shortDateFormat).value_or(platform::services.today());
 }
 
 bool TakeChosenDate(const std::string& chosen) {
@@ -128,27 +93,28 @@ bool TakeChosenDate(const std::string& chosen) {
     if (appState.pendingLogDate < 1 && modUTILS::Trimmed(chosen) == modUTILS::Trimmed(appState.logDateText)) {
         return true;
     }
-    const std::int16_t date = SerialOfText(chosen);
+    const std::int16_t date = ReadSerial(chosen);
     // QUIRK FIRST-DAY-1: 1 January 1984 can be chosen, and nothing comes of it. Its number is 0, which stands for a row
     // without a draw: a draw that took it would be gone, and the draws behind its row with it.
     if (date < 1) {
         return true;
     }
-    if (appState.historyViewLast >= 0 && FindDraw(date) >= 0) {
-        SayDateExists();
+    if (appState.historyViewLast >= 0 && RowOfDate(appState.HistoryTable, appState.historyLast, date) >= 0) {
+        TellDateExists();
         return false;
     }
     const platform::WaitPointer waiting;
     if (isNewDraw) {
         AddDraw(date);
     } else if (AsksToChange()) {
-        ChangeDate(date);
+        ChangeDate(appState.HistoryTable, appState.historyLast, ReadSerial(appState.logDateText), date);
+        appState.dateSerial = date;
     } else {
         return true;
     }
-    // QUIRK ENTRY-ORDER-1: the draws are saved before they are sorted, and after it only if something else has changed.
-    // It is meant: the entry is on the disk at once, and one save is enough to keep it. Sorting here would move the
-    // rows under a log that still shows them in their earlier places.
+    // QUIRK ENTRY-ORDER-1: the draws are saved before they are sorted, and after it only if something else has changed:
+    // the entry is on the disk at once. Sorting here would move the rows under a log that still shows them in their
+    // earlier places.
     SaveHistory(0);
     appState.pendingLogDate = appState.dateSerial;
     return true;
@@ -158,17 +124,6 @@ void EndDateChoice() {
     if (appState.pendingLogDate == choosingNewDraw) {
         appState.pendingLogDate = 0;
     }
-}
-
-void BringInChosenDraw() {
-    if (frmMainForm.windowStarting || appState.pendingLogDate < 1) {
-        return;
-    }
-    const platform::WaitPointer waiting;
-    SortHistory();
-    RefreshHistory(modUTILS::ToInt16(appState.pendingLogDate));
-    appState.pendingLogDate = 0;
-    frmMainForm.gameLoading = false;
 }
 
 }  // namespace ballhaven

@@ -6,17 +6,16 @@
 namespace ballhaven {
 
 // The date of a draw is chosen in the calendar, in these steps: one of the two `Begin...` routines before it opens,
-// `TakeChosenDate` for each date that the user chooses, and `EndDateChoice` when it has closed. The draw comes to its
-// place in the log at the next `BringInChosenDraw`.
+// `TakeChosenDate` for each date that the user chooses, and `EndDateChoice` when it has closed.
 
 /// Begins the choice of a new draw's date and returns the date to offer: today at the first time in a game, then the
 /// day after the last draw, or today again while there is only one. Sets `pendingLogDate` to -1, `nextLogDate`, and
 /// empties `logDateText`. Raises the overflow failure beyond the range of the serial.
 [[nodiscard]] std::chrono::year_month_day BeginNewDraw();
 
-/// Begins the change of the date of the draw in the log's current row, which goes to its date column, and returns that
-/// date; today where there is none. Sets `logDateText`.
-[[nodiscard]] std::chrono::year_month_day BeginDateChange();
+/// Begins the change of a draw's date, given in the screen form, and returns that date; today where the text is none.
+/// Sets `logDateText`.
+[[nodiscard]] std::chrono::year_month_day BeginDateChange(const std::string& date);
 
 /// Takes a date in the screen form for the draw that the choice was begun for, asking before a date is changed, and
 /// saves the history at once, a new draw standing at the end. False when another draw has the date: after saying so
@@ -26,9 +25,5 @@ namespace ballhaven {
 
 /// Ends the choice: without a date taken nothing waits for one any more.
 void EndDateChoice();
-
-/// Sorts the draws and brings the one whose date was taken into view, if there is one and the window is not starting.
-/// Sets `pendingLogDate` to 0, and clears `gameLoading`.
-void BringInChosenDraw();
 
 }  // namespace ballhaven

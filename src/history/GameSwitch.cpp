@@ -9,6 +9,7 @@
 #include "platform/Pointer.h"
 #include "plays/PlayFile.h"
 #include "state/AppState.h"
+#include "state/DateText.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/ViewRows.h"
@@ -17,24 +18,20 @@
 #include "statistics/HotTables.h"
 #include "wheels/ShuffleFile.h"
 
+#include <string>
+#include <utility>
+
 namespace ballhaven {
 
 namespace {
 
-/// The slot of the game shown last. A damaged record has slot 1.
-std::int16_t StoredSlot() {
-    const std::int16_t slot = FieldValue(appState.systemRecord, systemField::shownSlot);
-    return slot < 1 || slot > gameSlots ? std::int16_t{1} : slot;
-}
+constexpr int dateColumn = 0;
+constexpr std::int16_t newestDraw = -1;
 
-void ChooseCurrentGame() {
-    if (appState.currentGame == 0) {
-        appState.currentGame = StoredSlot();
-        return;
-    }
-    appState.currentGame = modUTILS::ToInt16(frmMainForm.cboList[0].Selected() + 1);
-    SetFieldValue(appState.systemRecord, systemField::shownSlot, appState.currentGame);
-    SaveSystemRecord();
+/// The slot of the game shown last. A damaged record has slot 1.
+std::int16_t StoredSlot(const std::string& systemRecord) {
+    const std::int16_t slot = FieldValue(systemRecord, systemField::shownSlot);
+    return slot < 1 || slot > gameSlots ? std::int16_t{1} : slot;
 }
 
 void LoadPlays() {
@@ -56,7 +53,6 @@ void ShowHotTableFromTheTop() {
     ShowHotNumbersCaption();
     ShowHotHeadings();
     frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
-    frmMainForm.grdHot.ReadAgain();
     frmMainForm.grdHot.GoTo(0, 2);
 }
 
@@ -68,43 +64,56 @@ void EmptyTables() {
     appState.repeaterTable = Table(3, 1);
 }
 
-void GoToNewestDraw() {
-    frmMainForm.grdHist.GoToRow(appState.historySortOrder != 0 ? appState.historyViewLast : 0);
+/// The row of the newest draw in a view up to `last`.
+int NewestRow(int last, bool newestFirst) {
+    return newestFirst ? 0 : last;
 }
 
-void BringIntoView(std::int16_t date) {
-    frmMainForm.grdHist.GoToColumn(1);
-    if (date == -1) {
-        GoToNewestDraw();
-        return;
-    }
-    const int row = RowOfDate(date);
-    if (row >= 0) {
-        frmMainForm.grdHist.GoToRow(row);
-        const bool typesPicks = !IsCardGame(appState.gameType) && appState.pendingLogDate != 0;
-        frmMainForm.grdHist.GoToColumn(typesPicks ? 1 : 0);
-        return;
-    }
-    GoToNewestDraw();
+void TellDrawIsNotInSet() {
     // QUIRK SMALLER-SET-1: the words speak of an added record also when the user only chose a smaller set and the
-    // current draw is not in it. They are meant: in both cases the way out is a larger set.
-    if (appState.pendingLogDate != -1) {
-        platform::Tell(
-            "The record you have added cannot be displayed within the selected history set.\n"
-            "If you wish to see this record, select larger history set.");
+    // current draw is not in it. In both cases the way out is a larger set.
+    platform::Tell(
+        "The record you have added cannot be displayed within the selected history set.\n"
+        "If you wish to see this record, select larger history set.");
+}
+
+void BringIntoView(platform::Grid& log, std::int16_t date) {
+    const int row = date == newestDraw ? -1 : RowOfDate(date);
+    log.GoTo(row >= 0 ? row : NewestRow(appState.historyViewLast, appState.historySortOrder == 0), 1);
+    if (date == newestDraw) {
+        return;
     }
-    frmMainForm.grdHist.GoToColumn(0);
+    if (row < 0 && appState.pendingLogDate != -1) {
+        TellDrawIsNotInSet();
+    }
+    const bool typesPicks = row >= 0 && !IsCardGame(appState.gameType) && appState.pendingLogDate != 0;
+    log.GoToColumn(typesPicks ? 1 : 0);
 }
 
 }  // namespace
 
 void SwitchGame() {
     const platform::WaitPointer waiting;
-    appState.colorMode = 0;
     OpenGameTable();
-    ChooseCurrentGame();
+    if (appState.currentGame == 0) {
+        SwitchGameTo(StoredSlot(appState.systemRecord));
+        return;
+    }
+    const std::int16_t slot = modUTILS::ToInt16(frmMainForm.cboList[0].Selected() + 1);
+    SetFieldValue(appState.systemRecord, systemField::shownSlot, slot);
+    SaveSystemRecord();
+    SwitchGameTo(slot);
+}
+
+void SwitchGameTo(std::int16_t slot) {
+    const platform::WaitPointer waiting;
+    // Events that are let in while a file gets its full size must find nobody reading half a game.
+    const platform::GridPause logPause(frmMainForm.grdHist);
+    const platform::GridPause hotPause(frmMainForm.grdHot);
+    appState.colorMode = 0;
+    appState.currentGame = slot;
     ClearHiLiteBoxes();
-    LoadGameRecord(appState.currentGame);
+    LoadGameRecord(slot);
     frmMainForm.gameLoading = true;
     SizePlayGrid();
     LoadPlays();
@@ -115,12 +124,25 @@ void SwitchGame() {
     ArrangeHiLiteBoxes();
     ArrangeHotOptions();
     HideCards();
-    RefreshHistory(-1);
+    RefreshHistory(newestDraw);
     ShowHotTableFromTheTop();
     ListGames();
     LoadHistorySetList();
     LoadComboHot();
     frmMainForm.gameLoading = false;
+}
+
+void BuildHistoryView() {
+    const bool newestFirst = appState.historySortOrder == 0;
+    Draws view = ViewOf(appState.HistoryTable, appState.historyLast, appState.totalPicks,
+                        {.size = appState.historySetSize, .newestFirst = newestFirst});
+    appState.historyView = std::move(view.table);
+    appState.historyViewLast = view.last;
+    frmMainForm.logRowCount = view.last + 1;
+    frmMainForm.grdHist.SetRowCount(frmMainForm.logRowCount);
+    if (view.last >= 0) {
+        frmMainForm.newestDrawText = SerialToDate(appState.historyView(dateColumn, NewestRow(view.last, newestFirst)));
+    }
 }
 
 void RefreshHistory(std::int16_t date) {
@@ -139,7 +161,7 @@ void RefreshHistory(std::int16_t date) {
         if (isEmpty) {
             EmptyTables();
         } else {
-            BringIntoView(date);
+            BringIntoView(frmMainForm.grdHist, date);
         }
     }
     frmMainForm.grdHist.ReadAgain();

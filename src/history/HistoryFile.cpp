@@ -1,10 +1,10 @@
 #include "history/HistoryFile.h"
 
-#include "platform/Application.h"
 #include "state/AppState.h"
-#include "state/RecordFile.h"
+#include "state/FullSizeFile.h"
 #include "state/modUTILS.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,16 +12,14 @@ namespace ballhaven {
 
 namespace {
 
-constexpr int recordLength = 64;
 constexpr int headerRecord = 1;
 constexpr int firstRowRecord = 2;
-constexpr int recordCount = 1 + historyRows;
 
-// A file of at most this many records comes from a version that kept 100 draws.
-constexpr int olderRecordCount = 1 + 100;
+// The older form comes from a version that kept 100 draws. The header is a stamp of the format that nothing reads.
+constexpr FileSizes fileSizes{
+    .recordLength = 64, .recordCount = 1 + historyRows, .olderRecordCount = 1 + 100, .header = "10-26-2002"};
 
-// The header: a stamp of the format that nothing reads, and a mark that only a deletion touches.
-constexpr std::string_view formatStamp = "10-26-2002";
+// A mark in the header, which only a deletion touches.
 constexpr int markColumn = 12;
 constexpr std::string_view blankMark = "  ";
 
@@ -34,44 +32,29 @@ constexpr int PickFieldColumn(int pick) {
     return 3 * pick + 3;
 }
 
-RecordFile OpenedHistoryFile() {
-    return {appState.programDirectory + "GAME" + modUTILS::ZeroPadded(appState.currentGame, 2) + ".CDB", recordLength,
-            recordCount};
+std::string PathOf(const std::string& directory, int slot) {
+    return directory + "GAME" + modUTILS::ZeroPadded(slot, 2) + ".CDB";
 }
 
-void WriteBlankRecords(RecordFile& file, int first) {
-    for (int record = first; record <= recordCount; ++record) {
-        file.Write(record, "");
-    }
-}
-
-/// Brings a file that is empty, or that has the older size, to its full size. Returns whether there was anything to do.
-bool Complete(RecordFile& file) {
-    if (file.Length() > olderRecordCount * recordLength) {
+/// Puts a record's date and picks into the cells of a row, as many as there are. Without a date they stay as they are,
+/// and it returns false.
+bool DecodeDraw(std::string_view record, std::span<std::int16_t> cells) {
+    const std::int16_t date = modUTILS::ValueOf16(modUTILS::Columns(record, dateColumn, dateWidth));
+    if (date <= 0) {
         return false;
     }
-    const int firstMissing = file.Length() == 0 ? firstRowRecord : olderRecordCount + 1;
-    file.Write(headerRecord, formatStamp);
-    WriteBlankRecords(file, firstMissing);
+    cells[0] = date;
+    for (std::size_t pick = 1; pick < cells.size(); ++pick) {
+        const int column = PickFieldColumn(static_cast<int>(pick));
+        cells[pick] = modUTILS::PickOfField(modUTILS::Columns(record, column, pickWidth));
+    }
     return true;
 }
 
-void DecodeRow(const std::string& record, int row) {
-    const std::int16_t date = modUTILS::ValueOf16(modUTILS::Columns(record, dateColumn, dateWidth));
-    if (date <= 0) {
-        return;
-    }
-    ++appState.historyLast;
-    appState.HistoryTable(0, row) = date;
-    for (int pick = 1; pick <= appState.totalPicks; ++pick) {
-        appState.HistoryTable(pick, row) =
-            modUTILS::PickOfField(modUTILS::Columns(record, PickFieldColumn(pick), pickWidth));
-    }
-}
-
-std::string EncodeRow(int row) {
-    std::string record(recordLength, ' ');
-    const std::int16_t date = appState.HistoryTable.PickAt(0, row);
+/// The record of the draw in a row of a table, with the first `picks` of its picks.
+std::string EncodeDraw(const Table& draws, int row, int picks) {
+    std::string record(static_cast<std::size_t>(fileSizes.recordLength), ' ');
+    const std::int16_t date = draws.PickAt(0, row);
     if (date <= 0) {
         return record;
     }
@@ -79,8 +62,8 @@ std::string EncodeRow(int row) {
     // loses its last digit and comes back as a date some decades earlier. The file's columns are settled; a fifth digit
     // in the blank column 5 would make files that copies of the program already in use read wrongly.
     modUTILS::SetColumns(record, dateColumn, std::to_string(date).substr(0, dateWidth));
-    for (int pick = 1; pick <= appState.totalPicks; ++pick) {
-        const std::int16_t value = appState.HistoryTable.PickAt(pick, row);
+    for (int pick = 1; pick <= picks; ++pick) {
+        const std::int16_t value = draws.PickAt(pick, row);
         if (value > -1) {
             modUTILS::SetColumns(record, PickFieldColumn(pick), modUTILS::PickField(value));
         }
@@ -91,30 +74,26 @@ std::string EncodeRow(int row) {
 }  // namespace
 
 void LoadHistory() {
-    RecordFile file = OpenedHistoryFile();
-    while (Complete(file)) {
-        file.Close();
-        platform::ProcessPendingEvents();
-        file = OpenedHistoryFile();
-    }
-
+    const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory, appState.currentGame), fileSizes);
     appState.HistoryTable = Table(1 + appState.totalPicks, historyRows);
     appState.historyLast = -1;
     for (int row = 0; row < historyRows; ++row) {
-        DecodeRow(file.Read(firstRowRecord + row), row);
+        if (DecodeDraw(file.Read(firstRowRecord + row), appState.HistoryTable.Row(row))) {
+            ++appState.historyLast;
+        }
     }
-    file.Close();
 }
 
 void SaveHistory(std::int16_t clearMark) {
-    RecordFile file = OpenedHistoryFile();
+    RecordFile file(PathOf(appState.programDirectory, appState.currentGame), fileSizes.recordLength,
+                    fileSizes.recordCount);
     if (clearMark == 1) {
         std::string header = file.Read(headerRecord);
         modUTILS::SetColumns(header, markColumn, blankMark);
         file.Write(headerRecord, header);
     }
     for (int row = 0; row < historyRows; ++row) {
-        file.Write(firstRowRecord + row, EncodeRow(row));
+        file.Write(firstRowRecord + row, EncodeDraw(appState.HistoryTable, row, appState.totalPicks));
     }
     file.Close();
     appState.historyDirty = false;

@@ -1,12 +1,10 @@
 #include "history/HistoryView.h"
 
-#include "forms/MainForm.h"
 #include "state/AppState.h"
-#include "state/DateText.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace ballhaven {
@@ -27,68 +25,59 @@ void CopyRow(const Table& from, int fromRow, Table& to, int toRow) {
     }
 }
 
-Table EmptyDraws(int rows) {
-    return {appState.totalPicks + 1, rows};
-}
-
-/// Rows of `HistoryTable` that belong to the history set, in display order.
-std::vector<int> RowsOfHistorySet() {
-    const int first = std::max(0, appState.historyLast - (appState.historySetSize - 1));
-    std::vector<int> rows(static_cast<std::size_t>(std::max(0, appState.historyLast - first + 1)));
+/// The rows of a history up to `last` that belong to the set, in display order.
+std::vector<int> RowsOfSet(int last, const HistorySet& set) {
+    const int first = std::max(0, last - (set.size - 1));
+    std::vector<int> rows(static_cast<std::size_t>(std::max(0, last - first + 1)));
     std::iota(rows.begin(), rows.end(), first);
-    if (appState.historySortOrder == 0) {
+    if (set.newestFirst) {
         std::ranges::reverse(rows);
     }
     return rows;
 }
 
-void ShowNewestDraw() {
-    const int newest = appState.historySortOrder == 0 ? 0 : appState.historyViewLast;
-    frmMainForm.newestDrawText = SerialToDate(appState.historyView(dateColumn, newest));
-}
-
 }  // namespace
 
-void BuildHistoryView() {
-    appState.historyViewLast = -1;
-    appState.historyView = EmptyDraws(appState.historySetSize);
-    for (const int row : RowsOfHistorySet()) {
-        if (!HasDate(appState.HistoryTable, row)) {
+Draws ViewOf(const Table& history, int last, int picks, const HistorySet& set) {
+    Draws view{.table = Table(picks + 1, set.size)};
+    for (const int row : RowsOfSet(last, set)) {
+        if (!HasDate(history, row)) {
             break;
         }
-        CopyRow(appState.HistoryTable, row, appState.historyView, ++appState.historyViewLast);
+        CopyRow(history, row, view.table, ++view.last);
     }
+    return view;
+}
 
-    frmMainForm.logRowCount = appState.historyViewLast + 1;
-    frmMainForm.grdHist.SetRowCount(frmMainForm.logRowCount);
-    if (appState.historyViewLast >= 0) {
-        ShowNewestDraw();
+Table Sorted(const Table& history, int last) {
+    std::vector<int> rows(static_cast<std::size_t>(std::max(0, std::min(last + 1, history.Rows()))));
+    std::iota(rows.begin(), rows.end(), 0);
+    std::ranges::stable_sort(rows, {}, [&history](int row) { return history(dateColumn, row); });
+    Table sorted = history;
+    for (int row = 0; const int from : rows) {
+        CopyRow(history, from, sorted, row++);
     }
+    return sorted;
+}
+
+Draws Compacted(const Table& history, int picks) {
+    Draws draws{.table = Table(picks + 1, historyRows)};
+    for (int row = 0; row < historyRows; ++row) {
+        if (HasDate(history, row)) {
+            CopyRow(history, row, draws.table, ++draws.last);
+        }
+    }
+    return draws;
 }
 
 void SortHistory() {
-    const int rowCount = std::min(appState.historyLast + 1, appState.HistoryTable.Rows());
-    if (rowCount < 2) {
-        return;
-    }
-    const Table unsorted = appState.HistoryTable;
-    std::vector<int> rows(static_cast<std::size_t>(rowCount));
-    std::iota(rows.begin(), rows.end(), 0);
-    std::ranges::stable_sort(rows, {}, [&unsorted](int row) { return unsorted(dateColumn, row); });
-    for (int row = 0; row < rowCount; ++row) {
-        CopyRow(unsorted, rows[static_cast<std::size_t>(row)], appState.HistoryTable, row);
-    }
+    appState.HistoryTable = Sorted(appState.HistoryTable, appState.historyLast);
 }
 
 void CompactHistory() {
-    const Table gapped = appState.HistoryTable;
-    appState.HistoryTable = EmptyDraws(historyRows);
-    appState.historyLast = -1;
-    for (int row = 0; row < historyRows; ++row) {
-        if (HasDate(gapped, row)) {
-            CopyRow(gapped, row, appState.HistoryTable, ++appState.historyLast);
-        }
-    }
+    Draws draws = Compacted(appState.HistoryTable, appState.totalPicks);
+    appState.HistoryTable = std::move(draws.table);
+    appState.historyLast = draws.last;
 }
 
 }  // namespace ballhaven

@@ -1,21 +1,20 @@
 #include "plays/PlayFile.h"
 
-#include "platform/Application.h"
 #include "plays/BoardRedraw.h"
 #include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
-#include "state/RecordFile.h"
+#include "state/FullSizeFile.h"
 #include "state/modUTILS.h"
 
+#include <string>
 #include <string_view>
 
 namespace ballhaven {
 
 namespace {
 
-constexpr int recordLength = 64;
-constexpr std::int64_t longestOlderFile = 1000 * recordLength;  // of a version that kept 1000 plays
-constexpr int firstPlayAdded = 1001;
+// The older form comes from a version that kept 1000 plays.
+constexpr FileSizes fileSizes{.recordLength = 64, .recordCount = playCount, .olderRecordCount = 1000};
 
 // A play's record: its method in columns 1-2, then the main picks from column 6 on and the bonus picks from column 36
 // on, each in two columns behind a blank.
@@ -26,42 +25,26 @@ constexpr int PickFieldColumn(int pickColumn, int slot) {
     return 3 * (pickColumn * picksPerPlay + slot) + 3;
 }
 
-RecordFile OpenedPlayFile() {
-    return {appState.programDirectory + "PLAYS" + modUTILS::ZeroPadded(appState.currentGame, 2) + ".CDB", recordLength,
-            playCount};
+std::string PathOf(const std::string& directory, int slot) {
+    return directory + "PLAYS" + modUTILS::ZeroPadded(slot, 2) + ".CDB";
 }
 
-void WriteEmptyPlays(RecordFile& file, int first) {
-    for (int play = first; play <= playCount; ++play) {
-        file.Write(play, "");
-    }
-}
-
-/// Brings a file that is empty, or that has the older size, to its full size. Returns whether there was anything to do.
-bool Complete(RecordFile& file) {
-    if (file.Length() > longestOlderFile) {
-        return false;
-    }
-    WriteEmptyPlays(file, file.Length() == 0 ? 1 : firstPlayAdded);
-    return true;
-}
-
-void DecodePlay(std::string_view record, int play) {
-    appState.PlayTable(mainPicks, play, 0) = MethodOfCode(record.substr(methodColumn - 1, methodCodeWidth));
+void DecodePlay(std::string_view record, PlayPicks& plays, int play) {
+    plays(mainPicks, play, 0) = MethodOfCode(record.substr(methodColumn - 1, methodCodeWidth));
     for (const int pickColumn : {mainPicks, bonusPicks}) {
         for (int slot = 1; slot <= picksPerPlay; ++slot) {
             const auto start = static_cast<std::size_t>(PickFieldColumn(pickColumn, slot) - 1);
-            appState.PlayTable(pickColumn, play, slot) = modUTILS::PickOfField(record.substr(start, pickWidth));
+            plays(pickColumn, play, slot) = modUTILS::PickOfField(record.substr(start, pickWidth));
         }
     }
 }
 
-std::string EncodePlay(int play) {
-    std::string record(recordLength, ' ');
-    modUTILS::SetColumns(record, methodColumn, CodeOfMethod(appState.PlayTable(mainPicks, play, 0)));
+std::string EncodePlay(const PlayPicks& plays, int play) {
+    std::string record(static_cast<std::size_t>(fileSizes.recordLength), ' ');
+    modUTILS::SetColumns(record, methodColumn, CodeOfMethod(plays(mainPicks, play, 0)));
     for (const int pickColumn : {mainPicks, bonusPicks}) {
         for (int slot = 1; slot <= picksPerPlay; ++slot) {
-            const std::int16_t pick = appState.PlayTable(pickColumn, play, slot);
+            const std::int16_t pick = plays(pickColumn, play, slot);
             if (pick >= 0) {
                 modUTILS::SetColumns(record, PickFieldColumn(pickColumn, slot), modUTILS::PickField(pick));
             }
@@ -73,24 +56,18 @@ std::string EncodePlay(int play) {
 }  // namespace
 
 void LoadPlayFile() {
-    RecordFile file = OpenedPlayFile();
-    while (Complete(file)) {
-        file.Close();
-        platform::ProcessPendingEvents();
-        file = OpenedPlayFile();
-    }
-
+    const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory, appState.currentGame), fileSizes);
     appState.PlayTable = PlayPicks();
     for (int play = 1; play <= playCount; ++play) {
-        DecodePlay(file.Read(play), play);
+        DecodePlay(file.Read(play), appState.PlayTable, play);
     }
-    file.Close();
 }
 
 void SavePlayFile() {
-    RecordFile file = OpenedPlayFile();
+    RecordFile file(PathOf(appState.programDirectory, appState.currentGame), fileSizes.recordLength,
+                    fileSizes.recordCount);
     for (int play = 1; play <= playCount; ++play) {
-        file.Write(play, EncodePlay(play));
+        file.Write(play, EncodePlay(appState.PlayTable, play));
     }
     file.Close();
 }

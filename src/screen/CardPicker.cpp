@@ -1,7 +1,7 @@
 #include "screen/CardPicker.h"
 
 #include "forms/MainForm.h"
-#include "history/HistoryEdits.h"
+#include "history/LogEntry.h"
 #include "screen/CardLayout.h"
 #include "state/AppState.h"
 #include "state/PickText.h"

@@ -71,9 +71,7 @@ void ClickBox(std::size_t box) {
 
 /// The row of the view that the log's current row shows, -1 for none.
 int CurrentDraw() {
-    std::string date = frmMainForm.grdHist.Text(0);
-    DateToSerial(date);
-    return RowOfDate(appState.dateSerial);
+    return RowOfDate(ReadSerial(frmMainForm.grdHist.Text(0)));
 }
 
 /// The toggle over the log's current row: hi-lites its picks, or ends that. Without a draw in the row `colorMode`

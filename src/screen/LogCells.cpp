@@ -2,7 +2,7 @@
 
 #include "screen/HiLite.h"
 #include "state/AppState.h"
-#include "state/DateText.h"
+#include "state/DateSerial.h"
 #include "state/PickText.h"
 #include "state/modUTILS.h"
 
@@ -76,7 +76,8 @@ std::optional<std::string> LogCellValue(int row, int column) {
     if (*cell == blankPick) {
         return std::string();
     }
-    return column == dateColumn ? SerialToDate(*cell) : PickToText(*cell, appState.gameType);
+    return column == dateColumn ? TextOfSerial(*cell, appState.shortDateFormat)
+                                : PickToText(*cell, appState.gameType);
 }
 
 void LogCellStyle(int row, int column, platform::CellStyle& style) {

@@ -2,12 +2,14 @@
 
 #include "forms/GamePresentation.h"
 #include "forms/MainForm.h"
-#include "history/HistoryEdits.h"
+#include "history/LogEntry.h"
+#include "history/PickEntry.h"
 #include "platform/Boxes.h"
 #include "plays/BoardRedraw.h"
 #include "screen/CardPicker.h"
 #include "screen/LogCells.h"
 #include "state/AppState.h"
+#include "state/GameRules.h"
 #include "statistics/HotTables.h"
 
 namespace ballhaven {
@@ -18,7 +20,7 @@ constexpr int marginWidth = 255;
 constexpr int marginRowHeight = 225;
 
 bool AcceptPick(int column, const std::string& text) {
-    if (IsPickInRange(column, text)) {
+    if (IsPickInRange(CurrentRules(), column, TypedPick(text))) {
         return true;
     }
     platform::Tell("Number out of range for this lottery game");
@@ -35,7 +37,8 @@ void TakePick(int column, const std::string& text) {
     }
 }
 
-bool ServeKey(platform::GridKey key) {
+/// What a key does beyond the grid's own; false where it is the grid's.
+bool SelectOrChangePane(platform::GridKey key) {
     switch (key) {
         case platform::GridKey::Insert:
             frmMainForm.grdHist.SelectCellText();
@@ -69,14 +72,13 @@ void SelectRowByMargin(int x, int y) {
 }
 
 // QUIRK LOG-DIRTY-1: a press of the mouse marks the history as changed, whether anything is changed after it or not,
-// and typing alone does not. It is meant: marking on each typed pick would write the file for a cell that was only
-// tried.
-void ServePress(int x, int y) {
+// and typing alone does not. Marking on each typed pick would write the file for a cell that was only tried.
+void TakePress(int x, int y) {
     appState.historyDirty = true;
     SelectRowByMargin(x, y);
 }
 
-void ServeClick() {
+void NoteCardClick() {
     if (IsCardGame(appState.gameType)) {
         frmMainForm.cardClicked = true;
     }
@@ -89,7 +91,7 @@ void EndWinnersDisplay() {
     }
 }
 
-void ServeMove() {
+void FollowCurrentCell() {
     OpenOrCloseLogCards();
     EndWinnersDisplay();
 }
@@ -101,10 +103,10 @@ void WireLogGrid() {
     frmMainForm.grdHist.cellStyle = platform::ByRowAndColumn(LogCellStyle);
     frmMainForm.grdHist.acceptEdit = AcceptPick;
     frmMainForm.grdHist.edited = TakePick;
-    frmMainForm.grdHist.keyDown = ServeKey;
-    frmMainForm.grdHist.mousePress = ServePress;
-    frmMainForm.grdHist.click = ServeClick;
-    frmMainForm.grdHist.currentCellChanged = ServeMove;
+    frmMainForm.grdHist.keyDown = SelectOrChangePane;
+    frmMainForm.grdHist.mousePress = TakePress;
+    frmMainForm.grdHist.click = NoteCardClick;
+    frmMainForm.grdHist.currentCellChanged = FollowCurrentCell;
     frmMainForm.grdHist.painted = PlaceHiLiteDrawingButton;
 }
 

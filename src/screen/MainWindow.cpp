@@ -3,8 +3,8 @@
 #include "forms/CalendarForm.h"
 #include "forms/MainForm.h"
 #include "games/GameSlots.h"
+#include "history/DrawCommands.h"
 #include "history/GameSwitch.h"
-#include "history/HistoryEditing.h"
 #include "platform/Application.h"
 #include "platform/Services.h"
 #include "platform/files/Paths.h"
@@ -54,23 +54,29 @@ void Load() {
     SetProgramDirectory();
 }
 
+void ReloadGame() {
+    // A pick that is still being typed must not reach the other game.
+    const platform::GridPause pause(frmMainForm.grdHist);
+    SaveWhatIsDirty();
+    SwitchGame();
+}
+
 void Activate() {
-    if (frmMainForm.windowStarting || appState.gameDialogMode != 0) {
-        {
-            // A pick that is still being typed must not reach the other game.
-            const platform::GridPause pause(frmMainForm.grdHist);
-            SaveWhatIsDirty();
-            SwitchGame();
-        }
-        // The dialog behind the question brings this window to the front again when it closes; a cancelled one must not
-        // find the start still going on and be asked about once more.
-        frmMainForm.windowStarting = false;
-        AskToSetUpGame();
+    // The dialog behind the first question brings this window to the front again when it closes. Where it was
+    // cancelled, the start that is still going on must not ask once more.
+    const bool isFirst = frmMainForm.windowStarting && !frmMainForm.askingAtStart;
+    if (!isFirst && appState.gameDialogMode == 0) {
+        return;
     }
+    ReloadGame();
+    frmMainForm.askingAtStart = true;
+    AskToSetUpGame();
+    frmMainForm.askingAtStart = false;
+    frmMainForm.windowStarting = false;
 }
 
 // QUIRK RESIZE-1: at the design height the grids take 7260 and 4860, one twip above it 7101 and 4711: the two rules do
-// not join up. They are meant so: the first leaves the window as it was drawn, the second keeps room below the grids.
+// not join up: the first leaves the window as it was drawn, the second keeps room below the grids.
 void FollowHeight() {
     const int height = frmMainForm.window.Height();
     if (height < designHeight) {
@@ -107,7 +113,7 @@ void WireMainWindow() {
     WireLogGrid();
     WireCardPicker();
     WireColorToolbar();
-    WireHistoryEditing();
+    WireDrawCommands();
 }
 
 }  // namespace ballhaven

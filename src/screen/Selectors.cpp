@@ -5,10 +5,10 @@
 #include "forms/SelectorLists.h"
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
+#include "history/LogEntry.h"
 #include "platform/Application.h"
 #include "platform/Pointer.h"
 #include "state/AppState.h"
-#include "state/DateText.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
@@ -16,11 +16,13 @@
 #include "statistics/HotTableKinds.h"
 #include "statistics/HotTables.h"
 
-#include <string>
+#include <cstdint>
 
 namespace ballhaven {
 
 namespace {
+
+constexpr std::int16_t newestDraw = -1;
 
 bool IsFilling() {
     return frmMainForm.windowStarting || frmMainForm.gameLoading;
@@ -37,14 +39,7 @@ void SelectGame() {
     }
     platform::ProcessPendingEvents();
     SaveWhatIsDirty();
-    {
-        const platform::GridPause logPause(frmMainForm.grdHist);
-        const platform::GridPause hotPause(frmMainForm.grdHot);
-        SwitchGame();
-    }
-    frmMainForm.grdHist.ReadAgain();
-    frmMainForm.grdHot.ReadAgain();
-    frmMainForm.grdPlay.ReadAgain();
+    SwitchGame();
     AskToSetUpGame();
     ShowHotTableAnew();
 }
@@ -58,13 +53,8 @@ void StoreHistorySet() {
 void SelectHistorySet() {
     appState.historySetSize = modUTILS::ToInt16((frmMainForm.cboList[1].Selected() + 1) * historySetStep);
     StoreHistorySet();
-    std::string date = frmMainForm.grdHist.Text(0);
-    if (date.empty()) {
-        RefreshHistory(-1);
-    } else {
-        DateToSerial(date);
-        RefreshHistory(appState.dateSerial);
-    }
+    const bool hasDraw = !frmMainForm.grdHist.Text(0).empty();
+    RefreshHistory(hasDraw ? LogDate() : newestDraw);
     ShowHotTableAnew();
 }
 
@@ -79,7 +69,7 @@ void SelectHotTable() {
 }
 
 /// A change of a list that the program is not filling itself: what all three have in common before their own work.
-void Answer(void (*change)()) {
+void TakeChoice(void (*change)()) {
     if (IsFilling()) {
         return;
     }
@@ -100,9 +90,9 @@ void ChoosePicksToCount(int option) {
 }  // namespace
 
 void WireSelectors() {
-    frmMainForm.cboList[0].change = [] { Answer(SelectGame); };
-    frmMainForm.cboList[1].change = [] { Answer(SelectHistorySet); };
-    frmMainForm.cboList[2].change = [] { Answer(SelectHotTable); };
+    frmMainForm.cboList[0].change = [] { TakeChoice(SelectGame); };
+    frmMainForm.cboList[1].change = [] { TakeChoice(SelectHistorySet); };
+    frmMainForm.cboList[2].change = [] { TakeChoice(SelectHotTable); };
     for (std::size_t i = 0; i < frmMainForm.optHot.size(); ++i) {
         frmMainForm.optHot[i].click = [i] { ChoosePicksToCount(static_cast<int>(i)); };
     }

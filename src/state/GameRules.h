@@ -17,7 +17,13 @@ struct GameRules {
     bool operator==(const GameRules&) const = default;
 };
 
+/// Columns of picks in a draw, at least 1.
+[[nodiscard]] int TotalPicksOf(const GameRules& rules);
+
 /// The rules of the game that the program works on.
 [[nodiscard]] GameRules CurrentRules();
+
+/// Makes rules those of the game that the program works on: fills its game variables, `totalPicks` among them.
+void TakeRules(const GameRules& rules);
 
 }  // namespace ballhaven

@@ -35,8 +35,8 @@ int RankOfLetter(char letter) {
 }
 
 /// The letter of BONUS in a cell; empty beside the word.
-std::string BonusLetter(int cell) {
-    const std::optional<int> letter = BonusLetterAt(appState.gameType, cell);
+std::string BonusLetter(int gameType, int cell) {
+    const std::optional<int> letter = BonusLetterAt(gameType, cell);
     return letter ? std::string(1, bonusWord[static_cast<std::size_t>(*letter)]) : std::string();
 }
 
@@ -49,12 +49,12 @@ struct NumberBlock {
 };
 
 /// The number in a cell of a block: the whole range once, or, where numbers can repeat, once for each pick of a draw.
-std::string NumberText(const NumberBlock& block, int cell) {
+std::string NumberText(const NumberBlock& block, bool canRepeat, int cell) {
     const int place = cell - block.base;
     if (place + block.low <= block.high) {
         return std::to_string(place + block.low);
     }
-    if (!appState.duplicatesAllowed) {
+    if (!canRepeat) {
         return {};
     }
     const int lowest = block.low < 1 ? 0 : 1;
@@ -62,24 +62,28 @@ std::string NumberText(const NumberBlock& block, int cell) {
     return place < runLength * block.count ? std::to_string(place % runLength + lowest) : std::string();
 }
 
-std::string NumberCellText(const BoardGeometry& board, int cell) {
+std::string NumberCellText(const GameRules& rules, int cell) {
+    const BoardGeometry board = BoardOf(rules.gameType);
     if (0 <= cell && cell < board.mainCells) {
-        return NumberText({0, appState.mainPickCount, appState.mainLow, appState.mainHigh}, cell);
+        const NumberBlock block{0, rules.mainPickCount, rules.mainLow, rules.mainHigh};
+        return NumberText(block, rules.duplicatesAllowed, cell);
     }
     if (cell >= board.firstBonusCell) {
-        return NumberText({board.firstBonusCell, appState.bonusPickCount, appState.bonusLow, appState.bonusHigh}, cell);
+        const NumberBlock block{board.firstBonusCell, rules.bonusPickCount, rules.bonusLow, rules.bonusHigh};
+        return NumberText(block, rules.duplicatesAllowed, cell);
     }
-    return BonusLetter(cell);
+    return BonusLetter(rules.gameType, cell);
 }
 
-std::string CardCellText(const BoardGeometry& board, int cell) {
+std::string CardCellText(int gameType, int cell) {
+    const BoardGeometry board = BoardOf(gameType);
     if (0 <= cell && cell < board.mainCells) {
         return std::to_string(cell + 1);
     }
     if (board.firstBonusCell <= cell && cell < board.firstBonusCell + deckSize) {
         return std::to_string(cell - board.firstBonusCell + 1);
     }
-    return BonusLetter(cell);
+    return BonusLetter(gameType, cell);
 }
 
 }  // namespace
@@ -120,9 +124,12 @@ std::string PickToText(int pick) {
     return PickToText(pick, appState.gameType);
 }
 
+std::string TextOfPickCell(const GameRules& rules, int cell) {
+    return IsCardGame(rules.gameType) ? CardCellText(rules.gameType, cell) : NumberCellText(rules, cell);
+}
+
 std::string PickCellText(int cell) {
-    const BoardGeometry board = BoardOf(appState.gameType);
-    return IsCardGame(appState.gameType) ? CardCellText(board, cell) : NumberCellText(board, cell);
+    return TextOfPickCell(CurrentRules(), cell);
 }
 
 }  // namespace ballhaven

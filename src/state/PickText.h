@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/GameRules.h"
+
 #include <cstdint>
 #include <string>
 
@@ -16,11 +18,14 @@ namespace ballhaven {
 /// The text of a pick in a kind of game: a number's digits, or a card's text.
 [[nodiscard]] std::string PickToText(int pick, int gameType);
 
-/// The text of a pick in the game at hand.
+/// The same in the game at hand.
 [[nodiscard]] std::string PickToText(int pick);
 
-/// The text of a cell of a pick grid, `cell` being row * `slipColumns` + column: a pick in decimal, a letter of BONUS
+/// The text of a cell of a game's pick grid, counted along its rows from 0: a pick in decimal, a letter of BONUS
 /// between the main and the bonus picks, or nothing.
+[[nodiscard]] std::string TextOfPickCell(const GameRules& rules, int cell);
+
+/// The same in the game at hand, `cell` being row * `slipColumns` + column.
 [[nodiscard]] std::string PickCellText(int cell);
 
 }  // namespace ballhaven

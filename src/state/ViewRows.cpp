@@ -26,13 +26,17 @@ DrawRows ViewedDraws() {
     return {appState.historyView, appState.historyViewLast + 1, {1, appState.totalPicks}};
 }
 
-int RowOfDate(std::int16_t date) {
-    for (int row = 0; row <= appState.historyViewLast; ++row) {
-        if (appState.historyView.Has(dateColumn, row) && appState.historyView(dateColumn, row) == date) {
+int RowOfDate(const Table& draws, int last, std::int16_t date) {
+    for (int row = 0; row <= last; ++row) {
+        if (draws.Has(dateColumn, row) && draws(dateColumn, row) == date) {
             return row;
         }
     }
     return -1;
+}
+
+int RowOfDate(std::int16_t date) {
+    return RowOfDate(appState.historyView, appState.historyViewLast, date);
 }
 
 std::span<const std::int16_t> PicksOfDraw(int row) {

@@ -36,7 +36,10 @@ class DrawRows {
 /// The draws of `historyView` with all their picks, columns 1 to `totalPicks`.
 [[nodiscard]] DrawRows ViewedDraws();
 
-/// First row of `historyView` with a date, as its serial; -1 if it has none.
+/// The first of rows 0 to `last` of a table of draws that has a date, as its serial; -1 if none has it.
+[[nodiscard]] int RowOfDate(const Table& draws, int last, std::int16_t date);
+
+/// The same in `historyView`.
 [[nodiscard]] int RowOfDate(std::int16_t date);
 
 /// The picks of a row of `historyView`, columns 1 to `totalPicks`, -1 for a blank cell. Fewer, or none, where the view

@@ -1,48 +1,31 @@
 #include "wheels/ShuffleFile.h"
 
-#include "platform/Application.h"
 #include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
-#include "state/RecordFile.h"
+#include "state/FullSizeFile.h"
 #include "state/modUTILS.h"
 
 #include <string>
-#include <string_view>
 
 namespace ballhaven {
 
 namespace {
 
-constexpr int recordLength = 320;
-constexpr int recordCount = 2 * gameSlots;
-constexpr std::int64_t longestOlderFile = gameSlots * recordLength;  // of a version without bonus lists
+// The older form comes from a version without bonus lists.
+constexpr FileSizes fileSizes{.recordLength = 320, .recordCount = 2 * gameSlots, .olderRecordCount = gameSlots};
 
 // A list's record: pick i in the two columns from 3 * i - 2 on, with a blank behind it, and the option.
 constexpr int pickWidth = 2;
 constexpr int pickStride = 3;
 constexpr int optionColumn = 300;
 
-RecordFile OpenedShuffleFile() {
-    return {appState.programDirectory + "SHUFFLE.CDB", recordLength, recordCount};
+std::string PathOf(const std::string& directory) {
+    return directory + "SHUFFLE.CDB";
 }
 
-int MainRecord() {
-    return appState.currentGame;
-}
-
-int BonusRecord() {
-    return gameSlots + appState.currentGame;
-}
-
-/// Brings a file that is empty, or that has no bonus lists, to its full size. Returns whether there was anything to do.
-bool Complete(RecordFile& file) {
-    if (file.Length() > longestOlderFile) {
-        return false;
-    }
-    for (int record = file.Length() == 0 ? 1 : gameSlots + 1; record <= recordCount; ++record) {
-        file.Write(record, "");
-    }
-    return true;
+/// The record of a slot's list.
+int RecordOf(int slot, int pickColumn) {
+    return pickColumn == mainPicks ? slot : gameSlots + slot;
 }
 
 Table EmptyShuffleTable() {
@@ -52,22 +35,23 @@ Table EmptyShuffleTable() {
     return table;
 }
 
-void DecodeList(const std::string& record, int pickColumn) {
+/// Puts the picks of a list's record into the slots of a table's column, closed up from slot 1 on.
+void DecodeList(const std::string& record, Table& chosen, int pickColumn) {
     int slot = 0;
     for (int field = 0; field < chosenPicks; ++field) {
         const std::int16_t pick = modUTILS::PickOfField(modUTILS::Columns(record, pickStride * field + 1, pickWidth));
         if (pick > -1) {
-            ++slot;
-            appState.ShuffleTable(pickColumn, slot) = pick;
+            chosen(pickColumn, ++slot) = pick;
         }
     }
 }
 
-std::string EncodeList(int pickColumn) {
-    std::string record(recordLength, ' ');
+/// The record of a list's picks, closed up, without an option.
+std::string EncodeList(const Table& chosen, int pickColumn) {
+    std::string record(static_cast<std::size_t>(fileSizes.recordLength), ' ');
     int column = 1;
     for (int slot = 1; slot <= chosenPicks; ++slot) {
-        const std::int16_t pick = appState.ShuffleTable.PickAt(pickColumn, slot);
+        const std::int16_t pick = chosen.PickAt(pickColumn, slot);
         if (pick != -1) {
             modUTILS::SetColumns(record, column, modUTILS::FixedWidth(std::to_string(pick), pickWidth));
             column += pickStride;
@@ -79,34 +63,27 @@ std::string EncodeList(int pickColumn) {
 }  // namespace
 
 void LoadShuffleFile() {
-    RecordFile file = OpenedShuffleFile();
-    while (Complete(file)) {
-        file.Close();
-        platform::ProcessPendingEvents();
-        file = OpenedShuffleFile();
-    }
-
+    const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory), fileSizes);
     appState.ShuffleTable = EmptyShuffleTable();
-    std::string record = file.Read(MainRecord());
-    DecodeList(record, mainPicks);
+    std::string record = file.Read(RecordOf(appState.currentGame, mainPicks));
+    DecodeList(record, appState.ShuffleTable, mainPicks);
     if (HasBonus(appState.gameType)) {
-        record = file.Read(BonusRecord());
-        DecodeList(record, bonusPicks);
+        record = file.Read(RecordOf(appState.currentGame, bonusPicks));
+        DecodeList(record, appState.ShuffleTable, bonusPicks);
     }
     // QUIRK SHUFFLE-OPTION-BONUS-1: the option is looked for in the record read last, which in a game with a bonus is
     // the bonus list's, where no option stands: such a game always comes back without one, and its window opens on
     // Shuffle. Looking in the main record would bring back options that were stored long ago and never shown.
     appState.ShuffleTable(mainPicks, 0) = MethodOfCode(modUTILS::Columns(record, optionColumn, methodCodeWidth));
-    file.Close();
 }
 
 void SaveShuffleFile() {
-    RecordFile file = OpenedShuffleFile();
-    std::string mainRecord = EncodeList(mainPicks);
+    RecordFile file(PathOf(appState.programDirectory), fileSizes.recordLength, fileSizes.recordCount);
+    std::string mainRecord = EncodeList(appState.ShuffleTable, mainPicks);
     modUTILS::SetColumns(mainRecord, optionColumn, CodeOfMethod(appState.ShuffleTable(mainPicks, 0)));
-    file.Write(MainRecord(), mainRecord);
+    file.Write(RecordOf(appState.currentGame, mainPicks), mainRecord);
     if (HasBonus(appState.gameType)) {
-        file.Write(BonusRecord(), EncodeList(bonusPicks));
+        file.Write(RecordOf(appState.currentGame, bonusPicks), EncodeList(appState.ShuffleTable, bonusPicks));
     }
     file.Close();
 }

@@ -6,6 +6,7 @@
 #include "state/modUTILS.h"
 #include "support/MainScreen.h"
 #include "support/TemporaryDirectory.h"
+#include "support/WatchedFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -61,6 +62,22 @@ TEST(ListGames, SelectsTheCurrentGame) {
     ListGames();
     EXPECT_EQ(games.Selected(), 19);
     EXPECT_EQ(games.Entries().size(), 20U);
+}
+
+TEST(ListGames, ReadsTheGameTableOnce) {
+    StartWith(NumberGame());
+    const support::TemporaryDirectory directory;
+    appState.programDirectory = directory.Path();
+    OpenGameTable();
+    const support::WatchedFiles files;
+    static_cast<void>(ReadGameRecord(1));
+    const Texts callsOfOneReading = files.Names();
+
+    ListGames();
+
+    Texts expected = callsOfOneReading;
+    expected.insert(expected.end(), callsOfOneReading.begin(), callsOfOneReading.end());
+    EXPECT_EQ(files.Names(), expected);
 }
 
 TEST(LoadHistorySetList, OffersSetsByTensFrom10To1000) {

@@ -2,6 +2,7 @@
 
 #include "forms/MainForm.h"
 #include "history/HistoryFile.h"
+#include "platform/files/FileSystem.h"
 #include "plays/PlayFile.h"
 #include "screen/HotCells.h"
 #include "screen/LogCells.h"
@@ -11,6 +12,7 @@
 #include "support/Games.h"
 #include "support/MainFormReset.h"
 #include "support/MessageScript.h"
+#include "support/PointerKeeper.h"
 #include "support/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
@@ -243,6 +245,56 @@ TEST_F(SwitchingGames, ALoadedGameLeavesTheWinnersDisplayAsItWas) {
     EXPECT_EQ(moves, 0);
 }
 
+TEST_F(SwitchingGames, ASlotIsMadeCurrentWithoutAListToTakeItFrom) {
+    Configure(12, 1, 5, 1);
+    SwitchGame();
+    frmMainForm.cboList[0].Fill({});
+    SwitchGameTo(12);
+    EXPECT_EQ(appState.currentGame, 12);
+    EXPECT_EQ(appState.totalPicks, 6);
+    EXPECT_EQ(frmMainForm.cboList[0].Selected(), 11);
+    EXPECT_EQ(directory.Read("LOTTOSYS").substr(0, 2), "01") << "the selector alone stores the slot";
+}
+
+// Else the hot table reads its cells of a game that is only half loaded.
+TEST_F(SwitchingGames, BothTablesAreOffWhileEventsAreLetIn) {
+    Configure(1, 3, 5, 0);
+    StoreDraws(1, Days(25, 5));
+    SwitchGame();
+    for (const char* file : {"GAME01.CDB", "PLAYS01.CDB", "SHUFFLE.CDB"}) {
+        directory.Write(file, "");
+    }
+    support::PointerKeeper toolkit;
+    int calls = 0;
+    toolkit.pendingEvents = [&calls] {
+        ++calls;
+        EXPECT_FALSE(frmMainForm.grdHist.IsOn());
+        EXPECT_FALSE(frmMainForm.grdHot.IsOn());
+    };
+    SwitchGame();
+    EXPECT_EQ(calls, 3);
+    EXPECT_TRUE(frmMainForm.grdHist.IsOn());
+    EXPECT_TRUE(frmMainForm.grdHot.IsOn());
+}
+
+TEST_F(SwitchingGames, AllFourHeadingsOfTheHotTableAreThoseOfItsFirstTable) {
+    Configure(1, 0, 6, 0);
+    Configure(2, 3, 5, 0);
+    SwitchGame();
+    for (const int slot : {2, 1}) {
+        for (int column = 0; column < 4; ++column) {
+            frmMainForm.grdHot.Column(column).heading = "of another table";
+        }
+        Select(slot);
+        SwitchGame();
+        std::vector<std::string> headings;
+        for (int column = 0; column < 4; ++column) {
+            headings.push_back(frmMainForm.grdHot.Column(column).heading);
+        }
+        EXPECT_EQ(headings, (std::vector<std::string>{slot == 2 ? "Card" : "Number", "Hits", "%", "Game Interval"}));
+    }
+}
+
 class RefreshingTheHistory : public SwitchingGames {
   protected:
     void SetUp() override {
@@ -312,7 +364,14 @@ TEST_F(RefreshingTheHistory, DirtyPlaysAndDrawsAreSavedHistoryFirst) {
     appState.historyDirty = true;
     appState.PlayTable(mainPicks, 1, 1) = 12;
     appState.playsDirty = true;
+    std::vector<std::string> saved;
+    platform::fileSystem.rename = [&saved](const std::string& from, const std::string& to) {
+        saved.push_back(to.substr(to.rfind('/') + 1));
+        return platform::SystemFiles().rename(from, to);
+    };
     SaveWhatIsDirty();
+    platform::fileSystem = platform::SystemFiles();
+    EXPECT_EQ(saved, (std::vector<std::string>{"GAME01.CDB", "PLAYS01.CDB"}));
     EXPECT_EQ(directory.Read("GAME01.CDB").substr(64 + 5, 2), "33");
     EXPECT_EQ(directory.Read("PLAYS01.CDB").substr(5, 2), "12");
     EXPECT_FALSE(appState.historyDirty || appState.playsDirty);

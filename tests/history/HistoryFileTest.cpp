@@ -1,6 +1,7 @@
 #include "history/HistoryFile.h"
 
 #include "state/AppState.h"
+#include "support/PointerKeeper.h"
 #include "support/RecordBytes.h"
 
 #include <gtest/gtest.h>
@@ -370,6 +371,16 @@ RC_GTEST_FIXTURE_PROP(HistoryFile, AnyDrawsBefore2011SurviveTheFile, ()) {
     LoadHistory();
     RC_ASSERT(appState.HistoryTable == table);
     RC_ASSERT(appState.historyLast == rows - 1);
+}
+
+TEST_F(HistoryFile, EventsAreLetInWhenAFileHasBeenFilledUpAndNotOtherwise) {
+    support::PointerKeeper toolkit;
+    int calls = 0;
+    toolkit.pendingEvents = [&calls] { ++calls; };
+    Load("");
+    EXPECT_EQ(calls, 1);
+    LoadHistory();
+    EXPECT_EQ(calls, 1);
 }
 
 }  // namespace

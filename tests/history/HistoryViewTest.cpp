@@ -1,6 +1,7 @@
 #include "history/HistoryView.h"
 
 #include "forms/MainForm.h"
+#include "history/GameSwitch.h"
 #include "state/AppState.h"
 #include "support/MainFormReset.h"
 #include "support/MainScreen.h"

@@ -2,6 +2,7 @@
 
 #include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
+#include "support/PointerKeeper.h"
 #include "support/RecordBytes.h"
 
 #include <gtest/gtest.h>
@@ -308,6 +309,16 @@ RC_GTEST_FIXTURE_PROP(PlayFile, AnyBytesLoadTheSameAgainAfterASave, ()) {
     SavePlayFile();
     LoadPlayFile();
     RC_ASSERT(appState.PlayTable == plays);
+}
+
+TEST_F(PlayFile, EventsAreLetInWhenAFileHasBeenFilledUpAndNotOtherwise) {
+    support::PointerKeeper toolkit;
+    int calls = 0;
+    toolkit.pendingEvents = [&calls] { ++calls; };
+    Load("");
+    EXPECT_EQ(calls, 1);
+    LoadPlayFile();
+    EXPECT_EQ(calls, 1);
 }
 
 }  // namespace

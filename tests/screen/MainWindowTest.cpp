@@ -6,6 +6,7 @@
 #include "platform/Services.h"
 #include "platform/files/FileSystem.h"
 #include "state/AppState.h"
+#include "state/GameTable.h"
 #include "support/MainFormReset.h"
 #include "support/MessageScript.h"
 #include "support/TemporaryDirectory.h"
@@ -98,6 +99,52 @@ TEST_F(MainWindow, YesToTheQuestionOpensTheDialogForTheGame) {
     EXPECT_TRUE(opened);
     EXPECT_EQ(appState.gameDialogMode, 1);
     EXPECT_EQ(appState.gameDialogSlot, 1);
+}
+
+TEST_F(MainWindow, TheStartGoesOnUntilItsQuestionIsAnswered) {
+    bool wasStarting = false;
+    services.showMessageBox = [&wasStarting](const platform::MessageBoxRequest&) {
+        wasStarting = frmMainForm.windowStarting;
+        return BoxAnswer::No;
+    };
+    frmMainForm.window.activate();
+    EXPECT_TRUE(wasStarting);
+    EXPECT_FALSE(frmMainForm.windowStarting);
+}
+
+// The closing dialog brings the window to the front again.
+TEST_F(MainWindow, AStartWhoseDialogIsCancelledAsksOnlyOnce) {
+    int questions = 0;
+    services.showMessageBox = [&questions](const platform::MessageBoxRequest&) {
+        return ++questions == 1 ? BoxAnswer::Yes : BoxAnswer::No;
+    };
+    frmNewGame.window.load = [] {
+        appState.gameDialogMode = 0;
+        frmMainForm.window.activate();
+    };
+    frmNewGame.window.activate = [] { frmNewGame.window.Unload(); };
+    frmMainForm.window.activate();
+    frmNewGame.window.load = nullptr;
+    frmNewGame.window.activate = nullptr;
+    EXPECT_EQ(questions, 1);
+    EXPECT_FALSE(frmMainForm.windowStarting);
+    frmMainForm.window.activate();
+    EXPECT_EQ(questions, 1);
+}
+
+TEST_F(MainWindow, AStartWhoseDialogIsSavedReloadsTheGame) {
+    services.showMessageBox = [](const platform::MessageBoxRequest&) { return BoxAnswer::Yes; };
+    frmNewGame.window.load = [] {
+        appState.gameRecord.replace(3, 20, "Pick Six            ");
+        SaveGameRecord(1);
+        frmMainForm.window.activate();
+    };
+    frmNewGame.window.activate = [] { frmNewGame.window.Unload(); };
+    frmMainForm.window.activate();
+    frmNewGame.window.load = nullptr;
+    frmNewGame.window.activate = nullptr;
+    EXPECT_EQ(frmMainForm.cboList[0].Text(), "Pick Six            ");
+    EXPECT_EQ(appState.gameDialogMode, 1);
 }
 
 TEST_F(MainWindow, ALaterActivationReloadsTheGameOnlyWhileTheDialogsModeStands) {

@@ -372,6 +372,20 @@ TEST_F(Selectors, WhatTheProgramFillsInWhileAGameIsLoadingOrTheWindowStartingDoe
     EXPECT_EQ(directory.Files(), files);
 }
 
+TEST_F(Selectors, TheHourglassStandsDuringEachChoiceAndTheArrowAfterIt) {
+    bool sawHourglass = false;
+    frmMainForm.grdHot.cellText = [&sawHourglass, real = frmMainForm.grdHot.cellText](const platform::GridCell& cell) {
+        sawHourglass = sawHourglass || QApplication::overrideCursor() != nullptr;
+        return real(cell);
+    };
+    for (const char* list : {"cboList(2)", "cboList(1)", "cboList(0)"}) {
+        sawHourglass = false;
+        ChooseEntry(list, 1);
+        EXPECT_TRUE(sawHourglass) << list;
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr) << list;
+    }
+}
+
 TEST_F(Selectors, TheLeftColumnFollowsTheHeightOfTheWindow) {
     EXPECT_EQ(Usable("picToolbar(0)").geometry(), QRect(0, 36, 153, 502));
     DragToHeight(9630);

@@ -238,24 +238,6 @@ RC_GTEST_FIXTURE_PROP(DateText, AnyTextBecomesNeutralOrOverflows, (std::string t
     RC_ASSERT(text.find_first_not_of("0123456789-") == std::string::npos);
 }
 
-struct PatternCase {
-    std::string systemPattern;
-    std::string expected;
-};
-
-const PatternCase patternCases[] = {
-    {"M/d/yyyy", "m/d/y"},   {"M/d/yy", "m/d/y"},     {"dd/MM/yyyy", "d/m/y"},  {"dd.MM.yyyy", "d.m.y"},
-    {"yyyy-MM-dd", "y-m-d"}, {"d-MMM-yy", "d-m-y"},   {"yyyy.MM.dd.", "y.m.d"}, {"", "m/d/y"},
-    {"yyyyMMdd", "m/d/y"},   {"dd/MMyyyy", "m/d/y"},  {"/dd/MM", "m/d/y"},      {"dd/MM/", "m/d/y"},
-    {"dd.MM-yyyy", "m/d/y"}, {"dd@MM@yyyy", "d@m@y"}, {"dd[MM[yyyy", "d[m[y"},  {"dd{MM{yyyy", "d{m{y"},
-};
-
-TEST(NormalisedDatePattern, KeepsTheLettersBesideTheSeparators) {
-    for (const PatternCase& pattern : patternCases) {
-        EXPECT_EQ(NormalisedDatePattern(pattern.systemPattern), pattern.expected) << pattern.systemPattern;
-    }
-}
-
 TEST(ProbeShortDate, NormalisesWhatTheSystemsFolderHas) {
     appState.windowsDirectory = "settings/";
     platform::services.shortDatePattern = [](const std::string& folder) {
@@ -265,22 +247,6 @@ TEST(ProbeShortDate, NormalisesWhatTheSystemsFolderHas) {
     appState.windowsDirectory = "elsewhere/";
     EXPECT_EQ(ProbeShortDate(), "m/d/y");
     platform::services = platform::Services();
-    support::ResetState();
-}
-
-RC_GTEST_PROP(NormalisedDatePattern, HasFiveCharactersWithOneSeparatorTwice, (const std::string& systemPattern)) {
-    const std::string pattern = NormalisedDatePattern(systemPattern);
-    RC_ASSERT(pattern.size() == 5U);
-    RC_ASSERT(pattern[1] == pattern[3]);
-}
-
-TEST(TextToDate, ReadsADateInTheUsersOrderAndNothingElse) {
-    support::ResetState();
-    EXPECT_EQ(TextToDate("02/29/1992"), std::chrono::year{1992} / 2 / 29);
-    EXPECT_EQ(TextToDate("02/30/1992"), std::nullopt);
-    EXPECT_EQ(TextToDate(""), std::nullopt);
-    appState.shortDateFormat = "d.m.y";
-    EXPECT_EQ(TextToDate("29.02.1992"), std::chrono::year{1992} / 2 / 29);
     support::ResetState();
 }
 

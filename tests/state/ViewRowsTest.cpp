@@ -81,6 +81,20 @@ TEST(RowOfDate, LooksAtNoRowThatTheViewDoesNotHave) {
     EXPECT_EQ(RowOfDate(2000), -1);
 }
 
+TEST(RowOfDate, LooksInAnyTableOfDrawsUpToItsLastRow) {
+    Table draws(1, 4);
+    draws(0, 0) = 1000;
+    draws(0, 1) = 1007;
+    draws(0, 2) = 1007;
+    draws(0, 3) = 1010;
+    EXPECT_EQ(RowOfDate(draws, 2, 1000), 0);
+    EXPECT_EQ(RowOfDate(draws, 2, 1007), 1);
+    EXPECT_EQ(RowOfDate(draws, 2, 1010), -1);
+    EXPECT_EQ(RowOfDate(draws, 9, 1010), 3);
+    EXPECT_EQ(RowOfDate(draws, 9, 1011), -1);
+    EXPECT_EQ(RowOfDate(draws, -1, 1000), -1);
+}
+
 TEST(PicksOfDraw, AreTheColumnsOfARowBehindItsDate) {
     support::StartWith(support::NumberGame().Picks(3).OldestFirst());
     support::ShowDraws({{1, 2, 3}, {4, -1, 6}});

@@ -2,14 +2,11 @@
 
 #include "forms/MainForm.h"
 #include "history/GameSwitch.h"
-#include "history/HistoryEdits.h"
 #include "history/HistoryFile.h"
 #include "platform/files/FileSystem.h"
 #include "screen/LogCells.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
-#include "statistics/HotNumbers.h"
-#include "statistics/HotTables.h"
 #include "support/MainFormReset.h"
 
 #include <map>
@@ -63,11 +60,6 @@ void HistoryLogTest::StartAgain() const {
     ResetMainForm();
     appState.programDirectory = directory.Path();
     frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
-    frmMainForm.grdHist.acceptEdit = IsPickInRange;
-    frmMainForm.grdHist.edited = [](int column, const std::string& text) {
-        PostLogEdit(column, text);
-        ComputeHotTable();
-    };
 }
 
 HistoryLogTest::~HistoryLogTest() {
@@ -127,11 +119,6 @@ std::string HistoryLogTest::TableAsFile() {
     const std::string file = appState.currentGame < 10 ? "GAME0" : "GAME";
     return historyFileFormat.Same(HistoryFileOf(draws),
                                   directory.Read(file + std::to_string(appState.currentGame) + ".CDB"));
-}
-
-bool HistoryLogTest::TypePick(int column, const std::string& text) {
-    frmMainForm.grdHist.GoToColumn(column);
-    return frmMainForm.grdHist.Edit(column, text);
 }
 
 }  // namespace ballhaven::support

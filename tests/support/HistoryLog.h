@@ -47,9 +47,6 @@ class HistoryLogTest : public ::testing::Test {
     /// Says where the game's file differs from one with these draws.
     [[nodiscard]] ::testing::AssertionResult FileHolds(const std::vector<Draw>& draws) const;
 
-    /// Types a pick into a column of the current row; whether it was accepted.
-    static bool TypePick(int column, const std::string& text);
-
     TemporaryDirectory directory;
     MessageScript boxes;
 

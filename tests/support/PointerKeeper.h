@@ -2,9 +2,11 @@
 
 #include "platform/controls/Toolkit.h"
 
+#include <functional>
+
 namespace ballhaven::support {
 
-/// A toolkit that only keeps the pointer.
+/// A toolkit that only keeps the pointer, and says when events are let in.
 class PointerKeeper : public platform::Toolkit {
   public:
     PointerKeeper() { platform::toolkit = this; }
@@ -15,9 +17,10 @@ class PointerKeeper : public platform::Toolkit {
     void Build(platform::Window&) override {}
     void TearDown(platform::Window&) override {}
     void ShowHourglass(bool shown) override { hourglass = shown; }
-    void ProcessPendingEvents() override {}
+    void ProcessPendingEvents() override { pendingEvents(); }
 
     bool hourglass = false;
+    std::function<void()> pendingEvents = [] {};
 };
 
 }  // namespace ballhaven::support

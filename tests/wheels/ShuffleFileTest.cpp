@@ -2,6 +2,7 @@
 
 #include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
+#include "support/PointerKeeper.h"
 #include "support/RecordBytes.h"
 
 #include <gtest/gtest.h>
@@ -325,6 +326,16 @@ RC_GTEST_FIXTURE_PROP(ShuffleFile, AnyBytesLoadTheSameAgainAfterASave, ()) {
         table(mainPicks, 0) = byHand;  // SHUFFLE-OPTION-BONUS-1
     }
     RC_ASSERT(appState.ShuffleTable == table);
+}
+
+TEST_F(ShuffleFile, EventsAreLetInWhenAFileHasBeenFilledUpAndNotOtherwise) {
+    support::PointerKeeper toolkit;
+    int calls = 0;
+    toolkit.pendingEvents = [&calls] { ++calls; };
+    Load("");
+    EXPECT_EQ(calls, 1);
+    LoadShuffleFile();
+    EXPECT_EQ(calls, 1);
 }
 
 }  // namespace

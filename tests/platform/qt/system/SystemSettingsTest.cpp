@@ -1,6 +1,6 @@
 #include "platform/qt/system/SystemSettings.h"
 
-#include "state/DateText.h"
+#include "state/DateSerial.h"
 
 #include <QLocale>
 #include <gtest/gtest.h>

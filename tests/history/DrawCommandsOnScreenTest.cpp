@@ -1,7 +1,6 @@
-#include "history/HistoryEditing.h"
-
 #include "forms/CalendarForm.h"
 #include "forms/MainForm.h"
+#include "history/DrawCommands.h"
 #include "state/AppState.h"
 #include "support/qt/RunningProgram.h"
 
@@ -18,7 +17,7 @@ using support::Draw;
 using Texts = std::vector<std::string>;
 
 /// Six numbers of 1 to 49 and three draws; the program opens with the cursor on the first pick of the newest one.
-class HistoryEditing : public support::RunningProgram {
+class DrawCommands : public support::RunningProgram {
   protected:
     void SetUp() override {
         Store({.draws = draws});
@@ -74,7 +73,7 @@ class HistoryEditing : public support::RunningProgram {
         {"01/01/1990", {1, 2, 3, 4, 5, 6}}, {"01/02/1990", {2, 3, 4, 5, 6, 7}}, {"01/03/1990", {3, 4, 5, 6, 7, 8}}};
 };
 
-TEST_F(HistoryEditing, TheMenuDeletesTheDrawOfTheCurrentRow) {
+TEST_F(DrawCommands, TheMenuDeletesTheDrawOfTheCurrentRow) {
     ClickCell("grdHist", 1, 3);
     ExpectQuestion("01/02/1990", BoxAnswer::Yes);
     ChooseFromMenu("mnuEdit", "mnuEditArray(5)");
@@ -84,7 +83,7 @@ TEST_F(HistoryEditing, TheMenuDeletesTheDrawOfTheCurrentRow) {
     ExpectFile({draws[0], draws[2]});
 }
 
-TEST_F(HistoryEditing, TheToolbarDeletesTheDrawOfTheCurrentRow) {
+TEST_F(DrawCommands, TheToolbarDeletesTheDrawOfTheCurrentRow) {
     ExpectQuestion("01/03/1990", BoxAnswer::Yes);
     Click("cmdButton(3)");
     EXPECT_EQ(Dates(), (Texts{"01/01/1990", "01/02/1990"}));
@@ -92,7 +91,7 @@ TEST_F(HistoryEditing, TheToolbarDeletesTheDrawOfTheCurrentRow) {
     ExpectFile({draws[0], draws[1]});
 }
 
-TEST_F(HistoryEditing, NoKeepsTheDraw) {
+TEST_F(DrawCommands, NoKeepsTheDraw) {
     ExpectQuestion("01/03/1990", BoxAnswer::No);
     Click("cmdButton(3)");
     EXPECT_EQ(Dates().size(), 3U);
@@ -100,7 +99,7 @@ TEST_F(HistoryEditing, NoKeepsTheDraw) {
     ExpectFile(draws);
 }
 
-TEST_F(HistoryEditing, AllDrawsCanBeDeletedAndTheLogIsEmptyThen) {
+TEST_F(DrawCommands, AllDrawsCanBeDeletedAndTheLogIsEmptyThen) {
     for (const char* date : {"01/03/1990", "01/02/1990", "01/01/1990"}) {
         ExpectQuestion(date, BoxAnswer::Yes);
         Click("cmdButton(3)");
@@ -112,7 +111,7 @@ TEST_F(HistoryEditing, AllDrawsCanBeDeletedAndTheLogIsEmptyThen) {
     ExpectFile({});
 }
 
-TEST_F(HistoryEditing, APickThatIsBeingTypedIsTakenBeforeItsDrawGoes) {
+TEST_F(DrawCommands, APickThatIsBeingTypedIsTakenBeforeItsDrawGoes) {
     ClickCell("grdHist", 2, 1);
     Type("49");
     ExpectQuestion("01/03/1990", BoxAnswer::No);
@@ -121,7 +120,7 @@ TEST_F(HistoryEditing, APickThatIsBeingTypedIsTakenBeforeItsDrawGoes) {
     EXPECT_EQ(EditorText("grdHist"), std::nullopt);
 }
 
-TEST_F(HistoryEditing, ARefusedPickKeepsTheCursorAndItsDraw) {
+TEST_F(DrawCommands, ARefusedPickKeepsTheCursorAndItsDraw) {
     ClickCell("grdHist", 2, 1);
     Type("50");
     boxes.Expect("Ballhaven", "Number out of range for this lottery game", BoxButtons::Ok, BoxIcon::None);
@@ -131,7 +130,7 @@ TEST_F(HistoryEditing, ARefusedPickKeepsTheCursorAndItsDraw) {
     Press(Qt::Key_Escape);
 }
 
-TEST_F(HistoryEditing, TheTimerSortsTheDrawsAndGoesToTheOneWhoseDateWasTaken) {
+TEST_F(DrawCommands, TheTimerSortsTheDrawsAndGoesToTheOneWhoseDateWasTaken) {
     appState.HistoryTable(0, 0) = support::SerialOf("02/01/1990");
     appState.pendingLogDate = support::SerialOf("02/01/1990");
     WaitForTick();
@@ -141,7 +140,7 @@ TEST_F(HistoryEditing, TheTimerSortsTheDrawsAndGoesToTheOneWhoseDateWasTaken) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(HistoryEditing, ADrawIsAddedThroughTheCalendarAndItsPicksAreTyped) {
+TEST_F(DrawCommands, ADrawIsAddedThroughTheCalendarAndItsPicksAreTyped) {
     platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 20; };
     InCalendar([this] {
         EXPECT_EQ(ahcCalendar.Today, std::chrono::year{1990} / std::chrono::January / 20);
@@ -158,12 +157,11 @@ TEST_F(HistoryEditing, ADrawIsAddedThroughTheCalendarAndItsPicksAreTyped) {
         Type(pick);
         Press(Qt::Key_Tab);
     }
-    ClickCell("grdHist", 0, 1);
     Close();
     ExpectFile({draws[0], draws[1], draws[2], {"01/09/1990", {11, 12, 13, 14, 15, 16}}});
 }
 
-TEST_F(HistoryEditing, ADateThatExistsKeepsTheCalendarOpenForAnother) {
+TEST_F(DrawCommands, ADateThatExistsKeepsTheCalendarOpenForAnother) {
     platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 2; };
     ExpectDateExists();
     InCalendar([this] {
@@ -179,7 +177,38 @@ TEST_F(HistoryEditing, ADateThatExistsKeepsTheCalendarOpenForAnother) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(HistoryEditing, ACancelledCalendarAddsNothingAndLeavesNothingPending) {
+TEST_F(DrawCommands, ADrawThatWaitsIsBroughtInByTheNextAdd) {
+    platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 20; };
+    InCalendar([this] {
+        ClickDay(9);
+        ClickToClose("cmdCal(1)");
+    });
+    Click("cmdButton(2)");
+    appState.pendingLogDate = support::SerialOf("01/09/1990");
+    InCalendar([this] {
+        EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/09/1990");
+        EXPECT_EQ(appState.pendingLogDate, -1);
+        ClickToClose("cmdCal(0)");
+    });
+    Click("cmdButton(2)");
+    EXPECT_EQ(Dates(), (Texts{"01/01/1990", "01/02/1990", "01/03/1990", "01/09/1990"}));
+}
+
+TEST_F(DrawCommands, AChangeOfADateBringsInTheDrawThatWaitsAndStaysWithItsRow) {
+    appState.HistoryTable(0, 2) = support::SerialOf("12/31/1989");
+    appState.pendingLogDate = support::SerialOf("12/31/1989");
+    InCalendar([this] {
+        EXPECT_EQ(Dates(), (Texts{"12/31/1989", "01/01/1990", "01/02/1990"}));
+        EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/02/1990");
+        EXPECT_EQ(ahcCalendar.Today, std::chrono::year{1990} / std::chrono::January / 2);
+        ClickToClose("cmdCal(0)");
+    });
+    frmMainForm.grdHist.GoToRow(1);
+    frmMainForm.grdHist.dropDown(0);
+    EXPECT_EQ(appState.pendingLogDate, 0);
+}
+
+TEST_F(DrawCommands, ACancelledCalendarAddsNothingAndLeavesNothingPending) {
     InCalendar([this] { ClickToClose("cmdCal(0)"); });
     Click("cmdButton(2)");
     EXPECT_EQ(appState.pendingLogDate, 0);
@@ -187,7 +216,7 @@ TEST_F(HistoryEditing, ACancelledCalendarAddsNothingAndLeavesNothingPending) {
     ExpectFile(draws);
 }
 
-TEST_F(HistoryEditing, TheDateButtonChangesTheDateOfItsRow) {
+TEST_F(DrawCommands, TheDateButtonChangesTheDateOfItsRow) {
     boxes.Expect("Ballhaven", "Are you sure you want to change this date?", BoxButtons::YesNo, BoxIcon::None,
                  BoxAnswer::Yes);
     InCalendar([this] {
