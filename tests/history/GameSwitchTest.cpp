@@ -14,6 +14,7 @@
 #include "support/MessageScript.h"
 #include "support/PointerKeeper.h"
 #include "support/TemporaryDirectory.h"
+#include "wheels/ShuffleFile.h"
 
 #include <gtest/gtest.h>
 
@@ -277,6 +278,59 @@ TEST_F(SwitchingGames, BothTablesAreOffWhileEventsAreLetIn) {
     EXPECT_TRUE(frmMainForm.grdHot.IsOn());
 }
 
+TEST_F(SwitchingGames, TheWindowIsArrangedForTheKindOfGame) {
+    Configure(1, 0, 10, 0);
+    Configure(2, 4, 5, 1);
+    StoreSystem("01", "0");
+    SwitchGame();
+    frmMainForm.picCards[0].visible = true;
+    frmMainForm.cardClicked = true;
+    Select(2);
+    SwitchGame();
+    EXPECT_TRUE(frmMainForm.grdHist.Pane(pickPane).locked);
+    EXPECT_EQ(*frmMainForm.grdHist.Column(6).heading, "+");
+    EXPECT_TRUE(frmMainForm.grdHist.Column(7).locked);
+    EXPECT_TRUE(frmMainForm.txtHiLite[5].visible);
+    EXPECT_FALSE(frmMainForm.txtHiLite[6].visible);
+    EXPECT_TRUE(frmMainForm.txtHiLite[0].locked);
+    EXPECT_FALSE(frmMainForm.picCards[0].visible);
+    EXPECT_FALSE(frmMainForm.cardClicked);
+    EXPECT_TRUE(frmMainForm.mnuViewArray[1].checked);
+    EXPECT_FALSE(frmMainForm.mnuViewArray[0].checked);
+    Select(1);
+    SwitchGame();
+    EXPECT_FALSE(frmMainForm.grdHist.Pane(pickPane).locked);
+    EXPECT_TRUE(frmMainForm.txtHiLite[9].visible);
+    EXPECT_FALSE(frmMainForm.optHot[2].visible);
+}
+
+TEST_F(SwitchingGames, ThePlaysAndTheChosenPicksAreThoseOfTheGame) {
+    Configure(1, 0, 6, 0);
+    Configure(2, 0, 6, 0);
+    SwitchGame();
+    appState.PlayTable(mainPicks, 1, 1) = 12;
+    SavePlayFile();
+    appState.ShuffleTable(mainPicks, 1) = 30;
+    SaveShuffleFile();
+    Select(2);
+    SwitchGame();
+    EXPECT_EQ(appState.PlayTable(mainPicks, 1, 1), -1);
+    EXPECT_EQ(appState.ShuffleTable(mainPicks, 1), -1);
+    Select(1);
+    SwitchGame();
+    EXPECT_EQ(appState.PlayTable(mainPicks, 1, 1), 12);
+    EXPECT_EQ(appState.ShuffleTable(mainPicks, 1), 30);
+}
+
+TEST_F(SwitchingGames, TheHourglassStandsMeanwhile) {
+    support::PointerKeeper toolkit;
+    bool sawHourglass = false;
+    toolkit.pendingEvents = [&] { sawHourglass = toolkit.hourglass; };
+    SwitchGame();
+    EXPECT_TRUE(sawHourglass);
+    EXPECT_FALSE(toolkit.hourglass);
+}
+
 TEST_F(SwitchingGames, AllFourHeadingsOfTheHotTableAreThoseOfItsFirstTable) {
     Configure(1, 0, 6, 0);
     Configure(2, 3, 5, 0);
@@ -349,7 +403,9 @@ TEST_F(RefreshingTheHistory, SaysNothingWhileANewDrawsDateIsBeingChosen) {
 
 TEST_F(RefreshingTheHistory, AnEmptyHistoryHasTablesOfOneRow) {
     appState.historyLast = -1;
+    frmMainForm.cmdColorHist.visible = true;
     RefreshHistory(-1);
+    EXPECT_FALSE(frmMainForm.cmdColorHist.visible);
     EXPECT_EQ(appState.historyView.Rows(), 1);
     EXPECT_EQ(appState.hotNumberTable.Rows(), 1);
     EXPECT_EQ(appState.hotPairTable.Rows(), 1);
