@@ -46,6 +46,7 @@ void SizePlayGrid() {
     const bool cards = IsCardGame(appState.gameType);
     const int columnWidth = cards ? cardBoardColumnWidth : numberBoardColumnWidth;
     const BoardGeometry board = BoardOf(appState.gameType);
+    const platform::GridPause pause(frmMainForm.grdPlay);  // so that it is laid out once
     appState.slipColumns = modUTILS::ToInt16(board.columns);
     for (int column = 0; column < frmMainForm.grdPlay.ColumnCount(); ++column) {
         frmMainForm.grdPlay.Column(column).visible = column < board.columns;
@@ -63,6 +64,7 @@ void ShowViewChecks() {
 }
 
 void ArrangeLogColumns() {
+    const platform::GridPause pause(frmMainForm.grdHist);  // so that it is laid out once
     const bool cards = IsCardGame(appState.gameType);
     for (int column = 1; column <= logPickColumns; ++column) {
         const bool isPick = column <= appState.totalPicks;

@@ -2,6 +2,7 @@
 
 #include "forms/MainForm.h"
 #include "state/AppState.h"
+#include "support/IdleGridView.h"
 #include "support/MainFormReset.h"
 
 #include <gtest/gtest.h>
@@ -116,6 +117,35 @@ TEST_F(GamePresentation, AssistiveToolsAreToldThePicksOfTheLogByNumber) {
         names.push_back(frmMainForm.grdHist.Column(column).accessibleHeading);
     }
     EXPECT_EQ(names, (std::vector<std::string>{"Pick 1", "Pick 2", "Pick 3", "Bonus 1", "Bonus 2", ""}));
+}
+
+/// A grid's widget that counts how often it would lay its parts out.
+class LayoutCounter : public support::IdleGridView {
+  public:
+    explicit LayoutCounter(platform::Grid& watchedGrid) : grid(watchedGrid) { grid.view = this; }
+    ~LayoutCounter() override { grid.view = nullptr; }
+
+    void Refresh() override { layouts += grid.IsOn() ? 1 : 0; }
+
+    int layouts = 0;
+
+  private:
+    platform::Grid& grid;
+};
+
+TEST_F(GamePresentation, GridsAreLaidOutOnceForAllTheirColumns) {
+    Play(1, 5, 1);
+    SizePlayGrid();
+    ArrangeLogColumns();
+    LayoutCounter play(frmMainForm.grdPlay);
+    LayoutCounter log(frmMainForm.grdHist);
+
+    Play(3, 6, 0);
+    SizePlayGrid();
+    ArrangeLogColumns();
+
+    EXPECT_EQ(play.layouts, 1);
+    EXPECT_EQ(log.layouts, 1);
 }
 
 TEST_F(GamePresentation, AGameOfTenPicksFitsTheLogAndColumnsBehindThePicksAreGreyAndClosed) {

@@ -1,5 +1,6 @@
 #include "platform/qt/grid/GridCellPainter.h"
 
+#include "platform/qt/grid/GridLines.h"
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QGuiApplication>
@@ -18,20 +19,13 @@ QColor PaletteColor(QPalette::ColorRole role) {
 }
 
 void DrawLines(QPainter& painter, const QRect& cell, const QColor& color) {
-    painter.fillRect(cell.right(), cell.top(), 1, cell.height(), color);
-    painter.fillRect(cell.left(), cell.bottom(), cell.width(), 1, color);
-}
-
-void DrawFrame(QPainter& painter, const QRect& place, const QColor& color) {
-    painter.fillRect(place.left(), place.top(), place.width(), 1, color);
-    painter.fillRect(place.left(), place.bottom(), place.width(), 1, color);
-    painter.fillRect(place.left(), place.top(), 1, place.height(), color);
-    painter.fillRect(place.right(), place.top(), 1, place.height(), color);
+    FillLine(painter, {cell.right(), cell.top(), 1, cell.height()}, color);
+    FillLine(painter, {cell.left(), cell.bottom(), cell.width(), 1}, color);
 }
 
 void DrawButton(QPainter& painter, const QRect& button) {
     painter.fillRect(button, PaletteColor(QPalette::Button));
-    DrawFrame(painter, button, PaletteColor(QPalette::Dark));
+    DrawLineFrame(painter, button, PaletteColor(QPalette::Dark));
     const QPoint middle = button.center();
     for (int line = 0; line < 4; ++line) {
         painter.fillRect(middle.x() - 3 + line, middle.y() - 1 + line, 7 - 2 * line, 1,
@@ -42,9 +36,9 @@ void DrawButton(QPainter& painter, const QRect& button) {
 /// The mark of the current cell: a dark frame, with a lighter one inside it so that it shows on any colour.
 void DrawMark(QPainter& painter, const QRect& cell, bool hasFocus) {
     const QRect inside = cell.adjusted(0, 0, -1, -1);
-    DrawFrame(painter, inside, hasFocus ? PaletteColor(QPalette::Highlight) : PaletteColor(QPalette::Shadow));
+    DrawLineFrame(painter, inside, hasFocus ? PaletteColor(QPalette::Highlight) : PaletteColor(QPalette::Shadow));
     if (hasFocus) {
-        DrawFrame(painter, inside.adjusted(1, 1, -1, -1), PaletteColor(QPalette::Highlight).lighter(220));
+        DrawLineFrame(painter, inside.adjusted(1, 1, -1, -1), PaletteColor(QPalette::Highlight).lighter(220));
     }
 }
 
@@ -100,7 +94,7 @@ void GridHeadings::paintSection(QPainter* painter, const QRect& section, int log
 void GridHeadings::paintEvent(QPaintEvent* event) {
     QHeaderView::paintEvent(event);
     QPainter painter(viewport());
-    painter.fillRect(0, 0, viewport()->width(), 1, GridFrameColor());
+    FillLine(painter, {0, 0, viewport()->width(), 1}, GridFrameColor());
 }
 
 void DrawGridFace(QPainter& painter, const QRect& place) {

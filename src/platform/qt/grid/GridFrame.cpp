@@ -1,6 +1,7 @@
 #include "platform/qt/grid/GridFrame.h"
 
 #include "platform/qt/grid/GridCellPainter.h"
+#include "platform/qt/grid/GridLines.h"
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QGuiApplication>
@@ -51,14 +52,6 @@ void DrawMargin(QPainter& painter, const Grid& grid, const GridMeasures& measure
     painter.restore();
 }
 
-void DrawFrameLines(QPainter& painter, QSize size) {
-    const QColor color = GridFrameColor();
-    painter.fillRect(0, 0, size.width(), 1, color);
-    painter.fillRect(0, size.height() - 1, size.width(), 1, color);
-    painter.fillRect(0, 0, 1, size.height(), color);
-    painter.fillRect(size.width() - 1, 0, 1, size.height(), color);
-}
-
 }  // namespace
 
 void DrawGridFrame(QPainter& painter, const Grid& grid, const GridMeasures& measures, QSize size, GridRowsInView rows) {
@@ -74,8 +67,8 @@ void DrawGridFrame(QPainter& painter, const Grid& grid, const GridMeasures& meas
         }
     }
     for (std::size_t pane = 1; pane < measures.panes.size(); ++pane) {
-        painter.fillRect(measures.panes[pane].place.left() - 1, measures.panes[pane].place.top(), 1, size.height(),
-                         GridFrameColor());
+        FillLine(painter, {measures.panes[pane].place.left() - 1, measures.panes[pane].place.top(), 1, size.height()},
+                 GridFrameColor());
     }
     if (grid.showsRowMargin) {
         DrawMargin(painter, grid, measures, rows);
@@ -83,7 +76,7 @@ void DrawGridFrame(QPainter& painter, const Grid& grid, const GridMeasures& meas
     if (!measures.caption.isEmpty()) {
         DrawCaption(painter, grid, measures.caption);
     }
-    DrawFrameLines(painter, size);
+    DrawLineFrame(painter, QRect(QPoint(0, 0), size), GridFrameColor());
 }
 
 }  // namespace ballhaven::platform

@@ -75,6 +75,7 @@ int RowPixels(const Grid& grid) {
 
 GridMeasures MeasureGrid(const Grid& grid, QSize size, int rowCount, int barExtent) {
     GridMeasures measures;
+    measures.rowHeight = RowPixels(grid);
     if (!grid.caption->empty()) {
         measures.caption = QRect(0, 0, size.width(), gridCaptionHeight);
     }

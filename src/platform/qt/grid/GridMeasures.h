@@ -22,6 +22,8 @@ struct GridMeasures {
         QRect place;
         QRect scrollBar;
         std::vector<int> columnWidths;
+
+        bool operator==(const PanePlace&) const = default;
     };
 
     QRect caption;  ///< empty where the grid has none
@@ -30,6 +32,9 @@ struct GridMeasures {
     QRect rows;
     QRect scrollBar;  ///< the vertical one, empty where all rows have room
     std::vector<PanePlace> panes;
+    int rowHeight = 0;
+
+    bool operator==(const GridMeasures&) const = default;
 };
 
 /// Height of a row in pixels, at least 1.

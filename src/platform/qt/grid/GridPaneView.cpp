@@ -56,7 +56,6 @@ void GridPaneView::FollowCurrentCell() {
     following = true;
     selectionModel()->setCurrentIndex(cells.IndexOf(grid.CurrentCell()), QItemSelectionModel::NoUpdate);
     following = false;
-    viewport()->update();
 }
 
 void GridPaneView::ScrollTo(const GridCell& cell) {
@@ -113,7 +112,12 @@ void GridPaneView::scrollContentsBy(int dx, int dy) {
 }
 
 void GridPaneView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
+    // The toolkit's table would tell assistive tools of a focus also where the keyboard is elsewhere.
+    if (hasFocus()) {
+        QTableView::currentChanged(current, previous);
+    } else {
+        QAbstractItemView::currentChanged(current, previous);
+    }
     if (!following && current.isValid()) {
         movedFromOutside(cells.CellOf(current));
     }

@@ -1,9 +1,10 @@
 #include "platform/qt/system/Appearance.h"
 
+#include "platform/qt/widgets/PlainScrollBarStyle.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
-#include <QProxyStyle>
 #include <QStyleFactory>
 
 namespace ballhaven::platform {
@@ -63,9 +64,9 @@ QFont ProgramFont() {
 constexpr int optionMark = 12;  // pixels: options stand 13 high
 
 /// Fusion with the habits and measures of classic windows.
-class ClassicStyle : public QProxyStyle {
+class ClassicStyle : public PlainScrollBarStyle {
   public:
-    ClassicStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+    ClassicStyle() : PlainScrollBarStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override {
@@ -77,7 +78,7 @@ class ClassicStyle : public QProxyStyle {
             case SH_DialogButtonBox_ButtonsHaveIcons:
                 return 0;
             default:
-                return QProxyStyle::styleHint(hint, option, widget, returned);
+                return PlainScrollBarStyle::styleHint(hint, option, widget, returned);
         }
     }
 
@@ -87,7 +88,7 @@ class ClassicStyle : public QProxyStyle {
             case PM_ExclusiveIndicatorHeight:
                 return optionMark;
             default:
-                return QProxyStyle::pixelMetric(metric, option, widget);
+                return PlainScrollBarStyle::pixelMetric(metric, option, widget);
         }
     }
 };

@@ -11,9 +11,9 @@ namespace {
 
 using Notices = std::vector<std::string>;
 
-class GridPanes : public testing::Test, protected support::LogOnScreen {
+class GridPaneViews : public testing::Test, protected support::LogOnScreen {
   protected:
-    GridPanes() {
+    GridPaneViews() {
         Show();
         QTest::qWait(1);
     }
@@ -30,7 +30,7 @@ class GridPanes : public testing::Test, protected support::LogOnScreen {
     }
 };
 
-TEST_F(GridPanes, TheLastPixelsStayWhileTheGridIsOff) {
+TEST_F(GridPaneViews, TheLastPixelsStayWhileTheGridIsOff) {
     const QImage drawn = OnScreen();
     const GridPause pause(grid);
     cells[0][1] = "77";
@@ -40,7 +40,7 @@ TEST_F(GridPanes, TheLastPixelsStayWhileTheGridIsOff) {
     EXPECT_EQ(OnScreen(), drawn);
 }
 
-TEST_F(GridPanes, BackOnTheyAreDrawnAnew) {
+TEST_F(GridPaneViews, BackOnTheyAreDrawnAnew) {
     const QImage drawn = OnScreen();
     {
         const GridPause pause(grid);
@@ -51,7 +51,7 @@ TEST_F(GridPanes, BackOnTheyAreDrawnAnew) {
     EXPECT_NE(OnScreen(), drawn);
 }
 
-TEST_F(GridPanes, APlaceThatWasNeverDrawnIsEmptyWhileTheGridIsOff) {
+TEST_F(GridPaneViews, APlaceThatWasNeverDrawnIsEmptyWhileTheGridIsOff) {
     const GridPause pause(grid);
     cellsRead = 0;
 
@@ -64,7 +64,7 @@ TEST_F(GridPanes, APlaceThatWasNeverDrawnIsEmptyWhileTheGridIsOff) {
     EXPECT_EQ(cellsRead, 0);
 }
 
-TEST_F(GridPanes, TheTableOfTheCurrentPaneAloneHasACurrentCell) {
+TEST_F(GridPaneViews, TheTableOfTheCurrentPaneAloneHasACurrentCell) {
     grid.GoTo(2, 3);
     EXPECT_EQ(PaneView(1)->currentIndex(), IndexIn(1, 2, 2));
     EXPECT_FALSE(PaneView(0)->currentIndex().isValid());
@@ -74,21 +74,21 @@ TEST_F(GridPanes, TheTableOfTheCurrentPaneAloneHasACurrentCell) {
     EXPECT_FALSE(PaneView(1)->currentIndex().isValid());
 }
 
-TEST_F(GridPanes, AMoveFromOutsideIsTheUsers) {
+TEST_F(GridPaneViews, AMoveFromOutsideIsTheUsers) {
     PaneView(1)->setCurrentIndex(IndexIn(1, 2, 2));
 
     EXPECT_EQ(TakeNotices(), (Notices{"change 2,3"}));
     EXPECT_EQ(Current(), (GridCell{1, 2, 3}));
 }
 
-TEST_F(GridPanes, AMoveFromOutsideCannotReachAColumnWithoutFocus) {
+TEST_F(GridPaneViews, AMoveFromOutsideCannotReachAColumnWithoutFocus) {
     PaneView(1)->setCurrentIndex(IndexIn(1, 2, 9));
 
     EXPECT_EQ(TakeNotices(), Notices{});
     EXPECT_FALSE(PaneView(1)->currentIndex().isValid());
 }
 
-TEST_F(GridPanes, ARefusedValueStopsAMoveFromOutside) {
+TEST_F(GridPaneViews, ARefusedValueStopsAMoveFromOutside) {
     grid.TakeFocus();
     grid.GoTo(2, 3);
     Type("99");
@@ -100,7 +100,7 @@ TEST_F(GridPanes, ARefusedValueStopsAMoveFromOutside) {
     EXPECT_EQ(PaneView(1)->currentIndex(), IndexIn(1, 2, 2));
 }
 
-TEST_F(GridPanes, ReadingAgainKeepsTheTablesCurrentCell) {
+TEST_F(GridPaneViews, ReadingAgainKeepsTheTablesCurrentCell) {
     grid.GoTo(2, 3);
 
     grid.ReadAgain();

@@ -158,6 +158,34 @@ TEST_F(GridShown, OnlyTheVisibleRowsAreDrawn) {
     EXPECT_LE(cellsRead, 20 * 7);
 }
 
+TEST_F(GridShown, AMoveOfTheCurrentCellDrawsTwoRows) {
+    grid.GoTo(4, 3);
+    LetItPaint();
+    cellsRead = 0;
+
+    grid.GoTo(9, 3);
+    LetItPaint();
+
+    // A date and six picks in each of the two.
+    EXPECT_EQ(cellsRead, 2 * 7);
+}
+
+TEST_F(GridShown, StylingAColumnPlacesNoPartAnew) {
+    int placings = 0;
+    QHeaderView* headings = PaneView(1)->horizontalHeader();
+    QObject::connect(headings, &QHeaderView::sectionResized, widget, [&] { ++placings; });
+    const int width = headings->sectionSize(9);
+    headings->resizeSection(9, width + 5);
+    placings = 0;
+
+    grid.Column(10).background = platform::windowColor;
+    grid.Column(10).heading = "+";
+    EXPECT_EQ(placings, 0);
+
+    grid.Column(10).width = 750;
+    EXPECT_EQ(headings->sectionSize(9), 50);
+}
+
 TEST_F(GridShown, ARepaintIsToldOnceForAllPanes) {
     paintings = 0;
 

@@ -1,22 +1,47 @@
+#include "platform/qt/grid/GridInput.h"
+
 #include "platform/Guard.h"
-#include "platform/qt/grid/GridWidget.h"
+#include "platform/qt/grid/GridNavigation.h"
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QApplication>
 #include <QPointer>
-#include <QWheelEvent>
 
 namespace ballhaven::platform {
 
-bool GridWidget::Report(const std::function<void()>& act) {
-    const QPointer<GridWidget> self(this);
-    if (grid.view == this && act) {
-        RunGuarded(act);
-    }
-    return !self.isNull() && grid.view == this;
+GridInput::GridInput(Grid& servedGrid, GridPanes& servedPanes, QWidget& gridWidget, const View& gridView)
+    : grid(servedGrid), panes(servedPanes), widget(gridWidget), view(gridView), editor(new GridCellEditor(servedGrid)) {
+    editor->setParent(&widget);
+    editor->keyPressed = [this](QKeyEvent& key) { return ServeKey(key); };
+    editor->focusLost = [this](Qt::FocusReason reason) { EditorLostFocus(reason); };
+    editor->refused = [this] { ShowEditedCell(); };
+    editor->handFocusBack = [this] { panes.TakeFocus(); };
+    editor->installEventFilter(this);
+    widget.installEventFilter(this);
 }
 
-bool GridWidget::eventFilter(QObject* watched, QEvent* event) {
+GridInput::~GridInput() {
+    editor->Cancel();
+    delete editor;
+}
+
+void GridInput::ListenTo(GridPaneView& pane) {
+    pane.keyPressed = [this](QKeyEvent& key) { return ServeKey(key); };
+    pane.movedFromOutside = [this](const GridCell& cell) { MoveFromOutside(cell); };
+    pane.editAsked = [this] { OpenEditor(GridCellEditor::Start::Behind); };
+    pane.viewport()->installEventFilter(this);
+    pane.horizontalHeader()->viewport()->installEventFilter(this);
+}
+
+bool GridInput::Report(const std::function<void()>& act) {
+    const QPointer<GridInput> self(this);
+    if (grid.view == &view && act) {
+        RunGuarded(act);
+    }
+    return !self.isNull() && grid.view == &view;
+}
+
+bool GridInput::eventFilter(QObject* watched, QEvent* event) {
     const bool presses = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
     auto* part = qobject_cast<QWidget*>(watched);
     if (part == nullptr || (!presses && event->type() != QEvent::MouseButtonRelease)) {
@@ -25,11 +50,11 @@ bool GridWidget::eventFilter(QObject* watched, QEvent* event) {
     if (dropsPress) {
         return presses;
     }
-    if (!isAncestorOf(part)) {
+    if (part != &widget && !widget.isAncestorOf(part)) {
         return false;
     }
     const auto& mouse = *static_cast<QMouseEvent*>(event);
-    const QPoint position = part->mapTo(this, mouse.position().toPoint());
+    const QPoint position = part->mapTo(&widget, mouse.position().toPoint());
     const bool inEditor = part == editor;  // asked now: the grid may be gone when its handlers have run
     if (presses) {
         Press(position, mouse);
@@ -40,41 +65,37 @@ bool GridWidget::eventFilter(QObject* watched, QEvent* event) {
     return !inEditor;
 }
 
-void GridWidget::wheelEvent(QWheelEvent* event) {
-    QApplication::sendEvent(rowBar, event);
-}
-
-void GridWidget::Press(QPoint position, const QMouseEvent& event) {
+void GridInput::Press(QPoint position, const QMouseEvent& event) {
     pressed = grid.IsOn() && event.button() == Qt::LeftButton;
     pressedTwice = event.type() == QEvent::MouseButtonDblClick;
     if (!grid.IsOn()) {
         return;
     }
     if (!editor->IsOpen()) {
-        TakeFocus();
+        panes.TakeFocus();
     }
     if (grid.mousePress) {
         Report([&] { grid.mousePress(ToTwips(position.x()), ToTwips(position.y())); });
     }
 }
 
-void GridWidget::Release(QPoint position, const QMouseEvent& event) {
+void GridInput::Release(QPoint position, const QMouseEvent& event) {
     if (pressed && event.button() == Qt::LeftButton) {
         pressed = false;
-        if (grid.IsOn() && rect().contains(position)) {
+        if (grid.IsOn() && widget.rect().contains(position)) {
             FinishClick(position);
         }
     }
 }
 
-void GridWidget::FinishClick(QPoint position) {
-    const bool inEditor = editor->IsOpen() && editor == childAt(position);
-    const QPointer<GridWidget> self(this);
+void GridInput::FinishClick(QPoint position) {
+    const bool inEditor = editor->IsOpen() && editor == widget.childAt(position);
+    const QPointer<GridInput> self(this);
     // A refused value keeps the cursor: the click does nothing more.
     if (!inEditor && !editor->Leave()) {
         return;
     }
-    const std::optional<GridCell> target = inEditor ? std::nullopt : CellAt(position);
+    const std::optional<GridCell> target = inEditor ? std::nullopt : panes.CellAt(position);
     const bool onButton = target && IsOnDropDownButton(*target, position);
     if (!Report(grid.click)) {
         return;
@@ -92,23 +113,13 @@ void GridWidget::FinishClick(QPoint position) {
     }
 }
 
-std::optional<GridCell> GridWidget::CellAt(QPoint position) const {
-    for (const GridPaneView* pane : panes) {
-        const QPoint inside = pane->viewport()->mapFrom(this, position);
-        if (pane->viewport()->rect().contains(inside)) {
-            return pane->CellAt(inside);
-        }
-    }
-    return std::nullopt;
-}
-
-bool GridWidget::IsOnDropDownButton(const GridCell& cell, QPoint position) const {
-    const GridPaneView* pane = panes[static_cast<std::size_t>(cell.pane)];
+bool GridInput::IsOnDropDownButton(const GridCell& cell, QPoint position) const {
+    const GridPaneView& pane = panes.Pane(cell.pane);
     return cell.row == grid.CurrentRow() && grid.Column(cell.column).hasButton &&
-           GridCellPainter::ButtonIn(pane->CellPlace(cell)).contains(pane->viewport()->mapFrom(this, position));
+           GridCellPainter::ButtonIn(pane.CellPlace(cell)).contains(pane.viewport()->mapFrom(&widget, position));
 }
 
-bool GridWidget::ServeKey(QKeyEvent& key) {
+bool GridInput::ServeKey(QKeyEvent& key) {
     const bool modifier = key.key() == Qt::Key_Shift || key.key() == Qt::Key_Control || key.key() == Qt::Key_Alt ||
                           key.key() == Qt::Key_Meta || key.key() == Qt::Key_AltGr;
     if (!grid.IsOn() || modifier) {
@@ -121,7 +132,7 @@ bool GridWidget::ServeKey(QKeyEvent& key) {
     return served || (editor->IsOpen() ? ServeEditorKey(key) : ServeCellKey(key));
 }
 
-bool GridWidget::ServeEditorKey(QKeyEvent& key) {
+bool GridInput::ServeEditorKey(QKeyEvent& key) {
     const bool selected = editor->hasSelectedText() || key.modifiers() & Qt::ShiftModifier;
     switch (key.key()) {
         case Qt::Key_Escape:
@@ -149,7 +160,7 @@ bool GridWidget::ServeEditorKey(QKeyEvent& key) {
     }
 }
 
-bool GridWidget::ServeCellKey(QKeyEvent& key) {
+bool GridInput::ServeCellKey(QKeyEvent& key) {
     const int column = grid.CurrentColumn();
     if (IsDropDownKey(key) && grid.CurrentRow() >= 0 && grid.Column(column).hasButton && grid.dropDown) {
         Report([this, column] { grid.dropDown(column); });
@@ -173,7 +184,7 @@ bool GridWidget::ServeCellKey(QKeyEvent& key) {
     return MoveByKey(key);
 }
 
-bool GridWidget::MoveByKey(QKeyEvent& key) {
+bool GridInput::MoveByKey(QKeyEvent& key) {
     const GridCell before = grid.CurrentCell();
     if (!editor->Leave()) {
         return true;
@@ -184,40 +195,38 @@ bool GridWidget::MoveByKey(QKeyEvent& key) {
     if (sideways && grid.CurrentCell() != before) {
         return true;
     }
-    if (const auto target = CellByKey(grid, key, rowsRead, VisibleRows())) {
+    if (const auto target = CellByKey(grid, key, panes.Rows(), panes.VisibleRows())) {
         MoveTo(*target);
         return true;
     }
-    if ((key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) && CurrentPaneView() != nullptr) {
-        CurrentPaneView()->LeaveByTab(key.key() == Qt::Key_Tab);
+    if ((key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) && panes.Current() != nullptr) {
+        panes.Current()->LeaveByTab(key.key() == Qt::Key_Tab);
         return true;
     }
     return false;
 }
 
-void GridWidget::MoveTo(const GridCell& cell) {
+void GridInput::MoveTo(const GridCell& cell) {
     if (!grid.IsOn() || !editor->Leave()) {
         return;
     }
     Report([&] { grid.MoveByUser(cell); });
 }
 
-void GridWidget::MoveFromOutside(const GridCell& cell) {
-    const QPointer<GridWidget> self(this);
+void GridInput::MoveFromOutside(const GridCell& cell) {
+    const QPointer<GridInput> self(this);
     if (grid.Column(cell.column).focusable) {
         MoveTo(cell);
     }
     // Where the grid did not follow the toolkit's table, the table follows the grid.
     if (!self.isNull()) {
-        for (GridPaneView* pane : panes) {
-            pane->FollowCurrentCell();
-        }
+        panes.FollowCurrentCell();
     }
 }
 
-void GridWidget::OpenEditor(GridCellEditor::Start start, const std::optional<QString>& typed) {
+void GridInput::OpenEditor(GridCellEditor::Start start, const std::optional<QString>& typed) {
     const GridCell cell = grid.CurrentCell();
-    GridPaneView* pane = CurrentPaneView();
+    GridPaneView* pane = panes.Current();
     if (pane == nullptr || !grid.IsOn() || !grid.CanType(cell.column) || !editor->Leave()) {
         return;
     }
@@ -228,21 +237,29 @@ void GridWidget::OpenEditor(GridCellEditor::Start start, const std::optional<QSt
     }
 }
 
-void GridWidget::PutEditorOverCell() {
-    if (editor->IsOpen() && CurrentPaneView() != nullptr) {
-        editor->PutOver(CurrentPaneView()->CellPlace(grid.CurrentCell()));
+void GridInput::SelectCellText() {
+    if (editor->IsOpen()) {
+        editor->selectAll();
+    } else {
+        OpenEditor(GridCellEditor::Start::Selected);
     }
 }
 
-void GridWidget::ShowEditedCell() {
-    if (CurrentPaneView() != nullptr) {
-        CurrentPaneView()->ScrollTo(grid.CurrentCell());
+void GridInput::PutEditorOverCell() {
+    if (editor->IsOpen() && panes.Current() != nullptr) {
+        editor->PutOver(panes.Current()->CellPlace(grid.CurrentCell()));
+    }
+}
+
+void GridInput::ShowEditedCell() {
+    if (panes.Current() != nullptr) {
+        panes.Current()->ScrollTo(grid.CurrentCell());
         PutEditorOverCell();
     }
 }
 
-void GridWidget::EditorLostFocus(Qt::FocusReason reason) {
-    const QPointer<GridWidget> self(this);
+void GridInput::EditorLostFocus(Qt::FocusReason reason) {
+    const QPointer<GridInput> self(this);
     if (!editor->Leave() && !self.isNull() && reason == Qt::MouseFocusReason) {
         DropComingPress();
     }
@@ -250,7 +267,7 @@ void GridWidget::EditorLostFocus(Qt::FocusReason reason) {
 
 /// A click that would have left a refused value must not do its work elsewhere: the press that took the keyboard away
 /// is yet to come, and goes nowhere.
-void GridWidget::DropComingPress() {
+void GridInput::DropComingPress() {
     dropsPress = true;
     qApp->installEventFilter(this);
     QMetaObject::invokeMethod(

@@ -1,3 +1,5 @@
+#include "platform/qt/grid/GridInput.h"
+
 #include "support/qt/GridOnScreen.h"
 
 #include <QApplication>
