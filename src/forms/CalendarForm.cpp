@@ -1,29 +1,31 @@
 #include "forms/CalendarForm.h"
 
+#include "platform/controls/LayoutTable.h"
+
 namespace ballhaven {
 
 CalendarForm ahcCalendar;
 
 namespace {
 
-using platform::Bounds;
-
 constexpr int fontHeight = 13;  // pixels
 constexpr int innerWidth = 2520;
 constexpr int innerHeight = 2760;
 
-void Put(platform::Control& control, const char* name, const Bounds& bounds) {
-    control.name = name;
-    control.bounds = bounds;
-    ahcCalendar.window.controls.push_back(&control);
-}
+const platform::PlacedControl places[] = {
+    // clang-format off
+    {ahcCalendar.surface,   "surface", -1, nullptr, {   0,    0, innerWidth, innerHeight}, "Calendar"},
+    {ahcCalendar.Line1,     "Line1",   -1, nullptr, { 120, 2040, 2280, 0}},
+    {ahcCalendar.cmdCal[1], "cmdCal",   1, nullptr, { 240, 2160, 855, 375}},
+    {ahcCalendar.cmdCal[0], "cmdCal",   0, nullptr, {1440, 2160, 855, 375}},
+    // clang-format on
+};
 
-void PutButton(std::size_t index, const char* name, const char* caption, int left) {
-    platform::Button& button = ahcCalendar.cmdCal[index];
-    Put(button, name, {left, 2160, 855, 375});
-    button.caption = caption;
-    button.answersKeys = false;
-}
+const platform::ControlText texts[] = {
+    {ahcCalendar.window.title, "Calendar"},
+    {ahcCalendar.cmdCal[0].caption, "&Cancel"},
+    {ahcCalendar.cmdCal[1].caption, "&Ok"},
+};
 
 }  // namespace
 
@@ -59,13 +61,13 @@ void CalendarForm::SetBorderTop(std::int16_t top) {
 
 void LayOutCalendar() {
     ahcCalendar.window.name = "ahcCalendar";
-    ahcCalendar.window.title = "Calendar";
-    Put(ahcCalendar.surface, "surface", {0, 0, innerWidth, innerHeight});
+    platform::PlaceControls(ahcCalendar.window, places);
+    platform::SetTexts(texts);
     ahcCalendar.surface.fontHeight = fontHeight;
-    ahcCalendar.surface.accessibleName = "Calendar";
-    Put(ahcCalendar.Line1, "Line1", {120, 2040, 2280, 0});
-    PutButton(1, "cmdCal(1)", "&Ok", 240);
-    PutButton(0, "cmdCal(0)", "&Cancel", 1440);
+    for (platform::Button& button : ahcCalendar.cmdCal) {
+        button.answersKeys = false;
+    }
+    ahcCalendar.window.fixedSize = true;
     ahcCalendar.window.Resize(innerWidth + platform::Window::frameWidth, innerHeight + platform::Window::frameHeight);
 }
 

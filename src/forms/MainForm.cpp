@@ -1,6 +1,8 @@
 #include "forms/MainForm.h"
 
-#include <span>
+#include "platform/controls/LayoutTable.h"
+
+#include <string>
 
 namespace ballhaven {
 
@@ -8,39 +10,20 @@ MainForm frmMainForm;
 
 namespace {
 
-using platform::Bounds;
 using platform::Control;
+using platform::ControlText;
+using platform::PlacedControl;
+using platform::PlacedMenu;
+using platform::PlacedMenuItem;
 
 constexpr int outerWidth = 12135;
 constexpr int outerHeight = 8880;
-
-struct Place {
-    Control& control;
-    const char* name;
-    int index;  ///< in the array of its kind, -1 for a control of its own
-    Control* container;
-    Bounds bounds;
-    const char* accessibleName;
-};
-
-struct LabelText {
-    platform::Label& label;
-    const char* text;
-    bool bold;
-};
-
-struct ToolButton {
-    int index;
-    int left;
-    const char* picture;
-    const char* toolTip;
-};
 
 Control* const toolbar = &frmMainForm.picToolbar[1];
 Control* const leftColumn = &frmMainForm.picToolbar[0];
 
 // Containers come before what stands on them, and what may cover another control comes after it.
-const Place places[] = {
+const PlacedControl places[] = {
     // clang-format off
     {frmMainForm.picToolbar[1],  "picToolbar",   1, nullptr,    {0, 0, 12015, 540},        "Toolbar"},
     {frmMainForm.picToolbar[0],  "picToolbar",   0, nullptr,    {0, 540, 2295, 7530},      "Selectors and play"},
@@ -71,54 +54,115 @@ const Place places[] = {
     {frmMainForm.Label3,         "Label3",      -1, toolbar,    {6120, 240, 495, 15},      ""},
     {frmMainForm.cmdColor[0],    "cmdColor",     0, toolbar,    {7035, 0, 495, 495},       ""},
     {frmMainForm.cmdColor[1],    "cmdColor",     1, toolbar,    {11460, 0, 495, 495},      ""},
+    {frmMainForm.cmdButton[1],   "cmdButton",   1, toolbar,    {0, 0, 495, 495},        ""},
+    {frmMainForm.cmdButton[10],  "cmdButton",  10, toolbar,    {480, 0, 495, 495},      ""},
+    {frmMainForm.cmdButton[11],  "cmdButton",  11, toolbar,    {960, 0, 495, 495},      ""},
+    {frmMainForm.cmdButton[0],   "cmdButton",   0, toolbar,    {1440, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[2],   "cmdButton",   2, toolbar,    {1920, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[3],   "cmdButton",   3, toolbar,    {2400, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[4],   "cmdButton",   4, toolbar,    {2880, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[5],   "cmdButton",   5, toolbar,    {3360, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[14],  "cmdButton",  14, toolbar,    {3840, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[8],   "cmdButton",   8, toolbar,    {4320, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[12],  "cmdButton",  12, toolbar,    {4800, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[13],  "cmdButton",  13, toolbar,    {5280, 0, 495, 495},     ""},
+    {frmMainForm.cmdButton[7],   "cmdButton",   7, toolbar,    {5760, 0, 495, 495},     ""},
     // clang-format on
 };
 
-const LabelText labelTexts[] = {
-    {frmMainForm.lblLabel[0], "Select Game", true},      {frmMainForm.lblLabel[1], "Select History Set", true},
-    {frmMainForm.lblLabel[2], "Select Hot Table", true}, {frmMainForm.lblLabel[3], "Play", false},
-    {frmMainForm.Label1, "Click on/off", false},         {frmMainForm.Label2, "Enter --> Numbers", false},
-};
-
-constexpr ToolButton toolButtons[] = {
+const ControlText texts[] = {
     // clang-format off
-    { 1,    0, "print",                  "Print Data"},
-    {10,  480, "add-game",               "Add New Game"},
-    {11,  960, "delete-game",            "Delete This Game"},
-    { 0, 1440, "alter-game",             "Alter Game Configuration"},
-    { 2, 1920, "add-record",             "Add Record to Historical Log"},
-    { 3, 2400, "delete-record",          "Delete Record from Historical Log"},
-    { 4, 2880, "date-ascending",         "View Date Ascending"},
-    { 5, 3360, "date-descending",        "View Date Descending"},
-    {14, 3840, "play-slips",             "Play Slips"},
-    { 8, 4320, "erase-play-slips",       "Erase all Play Slips for this Game"},
-    {12, 4800, "hilite-winners",         "Hi-Lite Winners on Play Slip(s)"},
-    {13, 5280, "erase-winner-hilites",   "Erase Winner Hi-Lites on Play Slip(s)"},
-    { 7, 5760, "wheel-shuffle",          "Wheel or Shuffle"},
+    {frmMainForm.lblLabel[0].text,       "Select Game"},
+    {frmMainForm.lblLabel[1].text,       "Select History Set"},
+    {frmMainForm.lblLabel[2].text,       "Select Hot Table"},
+    {frmMainForm.lblLabel[3].text,       "Play"},
+    {frmMainForm.Label1.text,            "Click on/off"},
+    {frmMainForm.Label2.text,            "Enter --> Numbers"},
+    {frmMainForm.optHot[0].caption,      "Main"},
+    {frmMainForm.optHot[1].caption,      "Bonus, mega, plus.."},
+    {frmMainForm.optHot[2].caption,      "All"},
+    {frmMainForm.cmdPlayBttn[0].caption, "<"},
+    {frmMainForm.cmdPlayBttn[0].toolTip, "Previous play"},
+    {frmMainForm.cmdPlayBttn[1].caption, ">"},
+    {frmMainForm.cmdPlayBttn[1].toolTip, "Next play"},
+    {frmMainForm.cmdPlayBttn[2].picture, "erase-play"},
+    {frmMainForm.cmdPlayBttn[2].toolTip, "Erase this play"},
+    {frmMainForm.cmdColorHist.picture,   "hilite-drawing"},
+    {frmMainForm.cmdColorHist.toolTip,   "Hi-lite this drawing"},
+    {frmMainForm.Picture1.picture,       "haven-picture"},
+    {frmMainForm.picCards[0].picture,    "cards-log"},
+    {frmMainForm.picCards[1].picture,    "cards-hilite"},
+    {frmMainForm.cmdColor[0].picture,    "hilite-numbers"},
+    {frmMainForm.cmdColor[0].toolTip,    "Hi-Lite Numbers"},
+    {frmMainForm.cmdColor[1].picture,    "clear-hilites"},
+    {frmMainForm.cmdColor[1].toolTip,    "Clear Hi-Lites"},
+    {frmMainForm.cmdButton[1].picture,   "print"},
+    {frmMainForm.cmdButton[1].toolTip,   "Print Data"},
+    {frmMainForm.cmdButton[10].picture,  "add-game"},
+    {frmMainForm.cmdButton[10].toolTip,  "Add New Game"},
+    {frmMainForm.cmdButton[11].picture,  "delete-game"},
+    {frmMainForm.cmdButton[11].toolTip,  "Delete This Game"},
+    {frmMainForm.cmdButton[0].picture,   "alter-game"},
+    {frmMainForm.cmdButton[0].toolTip,   "Alter Game Configuration"},
+    {frmMainForm.cmdButton[2].picture,   "add-record"},
+    {frmMainForm.cmdButton[2].toolTip,   "Add Record to Historical Log"},
+    {frmMainForm.cmdButton[3].picture,   "delete-record"},
+    {frmMainForm.cmdButton[3].toolTip,   "Delete Record from Historical Log"},
+    {frmMainForm.cmdButton[4].picture,   "date-ascending"},
+    {frmMainForm.cmdButton[4].toolTip,   "View Date Ascending"},
+    {frmMainForm.cmdButton[5].picture,   "date-descending"},
+    {frmMainForm.cmdButton[5].toolTip,   "View Date Descending"},
+    {frmMainForm.cmdButton[14].picture,  "play-slips"},
+    {frmMainForm.cmdButton[14].toolTip,  "Play Slips"},
+    {frmMainForm.cmdButton[8].picture,   "erase-play-slips"},
+    {frmMainForm.cmdButton[8].toolTip,   "Erase all Play Slips for this Game"},
+    {frmMainForm.cmdButton[12].picture,  "hilite-winners"},
+    {frmMainForm.cmdButton[12].toolTip,  "Hi-Lite Winners on Play Slip(s)"},
+    {frmMainForm.cmdButton[13].picture,  "erase-winner-hilites"},
+    {frmMainForm.cmdButton[13].toolTip,  "Erase Winner Hi-Lites on Play Slip(s)"},
+    {frmMainForm.cmdButton[7].picture,   "wheel-shuffle"},
+    {frmMainForm.cmdButton[7].toolTip,   "Wheel or Shuffle"},
+    {frmMainForm.grdHot.caption,         "Hot Numbers"},
     // clang-format on
 };
-constexpr int toolButtonSize = 495;
 
-constexpr const char* fileCaptions[] = {"&Print Data", "-", "E&xit"};
-constexpr const char* editCaptions[] = {
-    "Add &New Game",
-    "Delete &This Game",
-    "Alter &Game Configuration",
-    "-",
-    "&Add Record to Historical Log",
-    "&Delete Record from Historical Log",
-    "-",
-    "&Erase all Play Slips for this Game",
+const PlacedMenu menus[] = {
+    // clang-format off
+    {frmMainForm.mnuFile,  "mnuFile",  "&File"},
+    {frmMainForm.mnuEdit,  "mnuEdit",  "&Edit"},
+    {frmMainForm.mnuView,  "mnuView",  "&View"},
+    {frmMainForm.mnuTools, "mnuTools", "&Tools"},
+    {frmMainForm.mnuHelp,  "mnuHelp",  "&Help"},
+    // clang-format on
 };
+
 // QUIRK VIEW-MENU-1: "Decending" is spelled so in the menu, and right on the toolbar beside it. Habits rest on it.
-constexpr const char* viewCaptions[] = {"Date &Ascending", "Date &Decending", "-", "Play &Slips"};
-constexpr const char* toolCaptions[] = {
-    "&Wheel or Shuffle",
-    "-",
-    "&Hi-Lite Winners on Play Slip(s)",
-    "&Erase Winner Hi-Lites on Play Slip(s)",
+const PlacedMenuItem menuItems[] = {
+    // clang-format off
+    {frmMainForm.mnuFile,  frmMainForm.mnuFileArray[0], "mnuFileArray", 0, "&Print Data"},
+    {frmMainForm.mnuFile,  frmMainForm.mnuFileArray[1], "mnuFileArray", 1, "-"},
+    {frmMainForm.mnuFile,  frmMainForm.mnuFileArray[2], "mnuFileArray", 2, "E&xit"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[0], "mnuEditArray", 0, "Add &New Game"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[1], "mnuEditArray", 1, "Delete &This Game"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[2], "mnuEditArray", 2, "Alter &Game Configuration"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[3], "mnuEditArray", 3, "-"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[4], "mnuEditArray", 4, "&Add Record to Historical Log"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[5], "mnuEditArray", 5, "&Delete Record from Historical Log"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[6], "mnuEditArray", 6, "-"},
+    {frmMainForm.mnuEdit,  frmMainForm.mnuEditArray[7], "mnuEditArray", 7, "&Erase all Play Slips for this Game"},
+    {frmMainForm.mnuView,  frmMainForm.mnuViewArray[0], "mnuViewArray", 0, "Date &Ascending"},
+    {frmMainForm.mnuView,  frmMainForm.mnuViewArray[1], "mnuViewArray", 1, "Date &Decending"},
+    {frmMainForm.mnuView,  frmMainForm.mnuViewArray[2], "mnuViewArray", 2, "-"},
+    {frmMainForm.mnuView,  frmMainForm.mnuViewArray[3], "mnuViewArray", 3, "Play &Slips"},
+    {frmMainForm.mnuTools, frmMainForm.mnuToolArray[0], "mnuToolArray", 0, "&Wheel or Shuffle"},
+    {frmMainForm.mnuTools, frmMainForm.mnuToolArray[1], "mnuToolArray", 1, "-"},
+    {frmMainForm.mnuTools, frmMainForm.mnuToolArray[2], "mnuToolArray", 2, "&Hi-Lite Winners on Play Slip(s)"},
+    {frmMainForm.mnuTools, frmMainForm.mnuToolArray[3], "mnuToolArray", 3, "&Erase Winner Hi-Lites on Play Slip(s)"},
+    {frmMainForm.mnuHelp,  frmMainForm.mnuHelpArray[0], "mnuHelpArray", 0, "&Instructions for Ballhaven"},
+    {frmMainForm.mnuHelp,  frmMainForm.mnuHelpArray[1], "mnuHelpArray", 1, "-"},
+    {frmMainForm.mnuHelp,  frmMainForm.mnuHelpArray[2], "mnuHelpArray", 2, "&About Ballhaven"},
+    // clang-format on
 };
-constexpr const char* helpCaptions[] = {"&Instructions for Ballhaven", "-", "&About Ballhaven"};
 
 // The Color by Number boxes: a swatch with a box under it.
 constexpr int hiLiteLeft = 7560;
@@ -135,57 +179,16 @@ constexpr int playRowHeight = 180;
 constexpr int playColumns = 9;
 constexpr int timerInterval = 400;
 
-std::string Indexed(const char* name, int index) {
-    return index < 0 ? std::string(name) : std::string(name) + "(" + std::to_string(index) + ")";
-}
-
-void Put(Control& control, const std::string& name, Control* container, const Bounds& bounds) {
-    control.name = name;
-    control.container = container;
-    control.bounds = bounds;
-    frmMainForm.window.controls.push_back(&control);
-}
-
-void PutPlaces() {
-    for (const Place& place : places) {
-        Put(place.control, Indexed(place.name, place.index), place.container, place.bounds);
-        place.control.accessibleName = place.accessibleName;
-    }
-    frmMainForm.picToolbar[1].alignment = platform::Panel::Alignment::Top;
-    frmMainForm.picToolbar[0].alignment = platform::Panel::Alignment::Left;
-    for (const LabelText& each : labelTexts) {
-        each.label.text = each.text;
-        each.label.bold = each.bold;
-        each.label.centred = each.bold;
-    }
-}
-
-void NameLists() {
-    for (std::size_t i = 0; i < frmMainForm.cboList.size(); ++i) {
-        frmMainForm.cboList[i].label = &frmMainForm.lblLabel[i];
-    }
-}
-
-void PutToolbar() {
-    for (const ToolButton& each : toolButtons) {
-        platform::Button& button = frmMainForm.cmdButton[static_cast<std::size_t>(each.index)];
-        Put(button, Indexed("cmdButton", each.index), toolbar, {each.left, 0, toolButtonSize, toolButtonSize});
-        button.picture = each.picture;
-        button.toolTip = each.toolTip;
-    }
-    frmMainForm.cmdColor[0].picture = "hilite-numbers";
-    frmMainForm.cmdColor[0].toolTip = "Hi-Lite Numbers";
-    frmMainForm.cmdColor[1].picture = "clear-hilites";
-    frmMainForm.cmdColor[1].toolTip = "Clear Hi-Lites";
-}
-
 void PutHiLiteBoxes() {
     for (int i = 0; i < hiLiteBoxes; ++i) {
         const int left = hiLiteLeft + hiLiteStep * i;
         platform::Label& swatch = frmMainForm.lblColor[static_cast<std::size_t>(i)];
         platform::TextBox& box = frmMainForm.txtHiLite[static_cast<std::size_t>(i)];
-        Put(swatch, Indexed("lblColor", i), toolbar, {left, swatchTop, hiLiteWidth, swatchHeight});
-        Put(box, Indexed("txtHiLite", i), toolbar, {left, boxTop, hiLiteWidth, boxHeight});
+        const PlacedControl pair[] = {
+            {swatch, "lblColor", i, toolbar, {left, swatchTop, hiLiteWidth, swatchHeight}},
+            {box, "txtHiLite", i, toolbar, {left, boxTop, hiLiteWidth, boxHeight}},
+        };
+        platform::PlaceControls(frmMainForm.window, pair);
         swatch.bordered = true;
         swatch.background = hiLiteColors[static_cast<std::size_t>(i)].background;
         swatch.accessibleName = hiLiteColors[static_cast<std::size_t>(i)].name;
@@ -194,25 +197,18 @@ void PutHiLiteBoxes() {
     }
 }
 
-void SetUpButtonsAndPictures() {
-    frmMainForm.optHot[0].caption = "Main";
-    frmMainForm.optHot[1].caption = "Bonus, mega, plus..";
-    frmMainForm.optHot[2].caption = "All";
+void SetUpLooks() {
+    frmMainForm.picToolbar[1].alignment = platform::Panel::Alignment::Top;
+    frmMainForm.picToolbar[0].alignment = platform::Panel::Alignment::Left;
+    for (std::size_t list = 0; list < frmMainForm.cboList.size(); ++list) {
+        frmMainForm.lblLabel[list].bold = true;
+        frmMainForm.lblLabel[list].alignment = platform::TextAlignment::Centre;
+        frmMainForm.cboList[list].label = &frmMainForm.lblLabel[list];
+    }
     for (platform::OptionButton& button : frmMainForm.optHot) {
         button.group = frmMainForm.optHot;
     }
-    frmMainForm.cmdPlayBttn[0].caption = "<";
-    frmMainForm.cmdPlayBttn[0].toolTip = "Previous play";
-    frmMainForm.cmdPlayBttn[1].caption = ">";
-    frmMainForm.cmdPlayBttn[1].toolTip = "Next play";
-    frmMainForm.cmdPlayBttn[2].picture = "erase-play";
-    frmMainForm.cmdPlayBttn[2].toolTip = "Erase this play";
-    frmMainForm.cmdColorHist.picture = "hilite-drawing";
-    frmMainForm.cmdColorHist.toolTip = "Hi-lite this drawing";
     frmMainForm.cmdColorHist.visible = false;
-    frmMainForm.Picture1.picture = "haven-picture";
-    frmMainForm.picCards[0].picture = "cards-log";
-    frmMainForm.picCards[1].picture = "cards-hilite";
     for (platform::Picture& cards : frmMainForm.picCards) {
         cards.visible = false;
     }
@@ -228,7 +224,6 @@ void SetUpGrids() {
     frmMainForm.grdHot.SetColumns(frmMainForm.hotColumnCount);
     frmMainForm.grdHot.AddPane(0, frmMainForm.hotColumnCount - 1);
     frmMainForm.grdHot.Pane(0).locked = true;
-    frmMainForm.grdHot.caption = "Hot Numbers";
     for (int column = 0; column < frmMainForm.hotColumnCount; ++column) {
         frmMainForm.grdHot.Column(column).width = hotColumnWidths[column];
     }
@@ -248,38 +243,17 @@ void SetUpGrids() {
     frmMainForm.grdHist.Column(0).hasButton = true;
 }
 
-void SetUpMenu(platform::Menu& menu, const char* name, const char* caption, const char* itemName,
-               std::span<platform::MenuItem> items, std::span<const char* const> captions) {
-    menu.name = name;
-    menu.caption = caption;
-    menu.items = items;
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-        items[i].name = Indexed(itemName, static_cast<int>(i));
-        items[i].caption = captions[i];
-    }
-    frmMainForm.window.menus.push_back(&menu);
-}
-
-void SetUpMenuBar() {
-    SetUpMenu(frmMainForm.mnuFile, "mnuFile", "&File", "mnuFileArray", frmMainForm.mnuFileArray, fileCaptions);
-    SetUpMenu(frmMainForm.mnuEdit, "mnuEdit", "&Edit", "mnuEditArray", frmMainForm.mnuEditArray, editCaptions);
-    SetUpMenu(frmMainForm.mnuView, "mnuView", "&View", "mnuViewArray", frmMainForm.mnuViewArray, viewCaptions);
-    SetUpMenu(frmMainForm.mnuTools, "mnuTools", "&Tools", "mnuToolArray", frmMainForm.mnuToolArray, toolCaptions);
-    SetUpMenu(frmMainForm.mnuHelp, "mnuHelp", "&Help", "mnuHelpArray", frmMainForm.mnuHelpArray, helpCaptions);
-}
-
 }  // namespace
 
 void LayOutMainForm() {
     frmMainForm.window.name = "frmMainForm";
     frmMainForm.window.title = "Ballhaven";
-    PutPlaces();
-    NameLists();
-    PutToolbar();
+    platform::PlaceControls(frmMainForm.window, places);
     PutHiLiteBoxes();
-    SetUpButtonsAndPictures();
+    platform::SetTexts(texts);
+    platform::PlaceMenus(frmMainForm.window, menus, menuItems);
+    SetUpLooks();
     SetUpGrids();
-    SetUpMenuBar();
     frmMainForm.tmrMessage.name = "tmrMessage";
     frmMainForm.tmrMessage.interval = timerInterval;
     frmMainForm.window.timers.push_back(&frmMainForm.tmrMessage);

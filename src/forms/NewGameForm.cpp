@@ -1,6 +1,6 @@
 #include "forms/NewGameForm.h"
 
-#include <string>
+#include "platform/controls/LayoutTable.h"
 
 namespace ballhaven {
 
@@ -8,87 +8,66 @@ NewGameForm frmNewGame;
 
 namespace {
 
-using platform::Bounds;
-
-// A question stands left of its list. The first two rows take the whole width, the others two columns. The labels of
-// column one are so wide that the two long questions break where their blanks stand.
-constexpr int labelHeight = 450;
-constexpr int labelDrop = 75;  // a label's text stands level with the text in its list
-constexpr int controlHeight = 315;
-constexpr int firstTop = 240;
-constexpr int secondTop = 690;
-constexpr int rowTop = 1290;
-constexpr int rowStep = 600;
-constexpr int buttonTop = 4440;
-
-struct Column {
-    int labelLeft;
-    int labelWidth;
-    int listLeft;
-    int listWidth;
+// A question stands left of its list, level with it. The first two rows take the whole width, the others two columns.
+// The labels of column one are so wide that the two long questions break where their blanks stand.
+const platform::PlacedControl places[] = {
+    // clang-format off
+    {frmNewGame.lblNewGame[0],  "lblNewGame",  0, nullptr, { 240,  315, 2400, 450}},
+    {frmNewGame.txtNewGame[0],  "txtNewGame",  0, nullptr, {2760,  240, 7050, 315}},
+    {frmNewGame.lblNewGame[1],  "lblNewGame",  1, nullptr, { 240,  765, 2400, 450}},
+    {frmNewGame.cboCombo[0],    "cboCombo",    0, nullptr, {2760,  690, 7050, 315}},
+    {frmNewGame.lblNewGame[4],  "lblNewGame",  4, nullptr, { 240, 1365, 4650, 450}},
+    {frmNewGame.cboCombo[3],    "cboCombo",    3, nullptr, {5010, 1290,  780, 315}},
+    {frmNewGame.lblNewGame[9],  "lblNewGame",  9, nullptr, { 240, 1965, 4650, 450}},
+    {frmNewGame.cboCombo[4],    "cboCombo",    4, nullptr, {5010, 1890,  780, 315}},
+    {frmNewGame.lblNewGame[2],  "lblNewGame",  2, nullptr, { 240, 2565, 4650, 450}},
+    {frmNewGame.cboCombo[1],    "cboCombo",    1, nullptr, {5010, 2490,  780, 315}},
+    {frmNewGame.lblNewGame[3],  "lblNewGame",  3, nullptr, {6210, 2565, 2700, 450}},
+    {frmNewGame.cboCombo[2],    "cboCombo",    2, nullptr, {9030, 2490,  780, 315}},
+    {frmNewGame.lblNewGame[10], "lblNewGame", 10, nullptr, { 240, 3165, 4650, 450}},
+    {frmNewGame.cboCombo[5],    "cboCombo",    5, nullptr, {5010, 3090,  780, 315}},
+    {frmNewGame.lblNewGame[7],  "lblNewGame",  7, nullptr, {6210, 3165, 2700, 450}},
+    {frmNewGame.cboCombo[9],    "cboCombo",    9, nullptr, {9030, 3090,  780, 315}},
+    {frmNewGame.lblNewGame[11], "lblNewGame", 11, nullptr, { 240, 3765, 4650, 450}},
+    {frmNewGame.cboCombo[6],    "cboCombo",    6, nullptr, {5010, 3690,  780, 315}},
+    {frmNewGame.lblNewGame[8],  "lblNewGame",  8, nullptr, {6210, 3765, 2700, 450}},
+    {frmNewGame.cboCombo[10],   "cboCombo",   10, nullptr, {9030, 3690,  780, 315}},
+    {frmNewGame.cmdNewGame[1],  "cmdNewGame",  1, nullptr, {7230, 4440, 1200, 375}},
+    {frmNewGame.cmdNewGame[0],  "cmdNewGame",  0, nullptr, {8610, 4440, 1200, 375}},
+    // clang-format on
 };
 
-constexpr Column wholeWidth{240, 2400, 2760, 7050};
-constexpr Column columnOne{240, 4650, 5010, 780};
-constexpr Column columnTwo{6210, 2700, 9030, 780};
+const platform::ControlText texts[] = {
+    {frmNewGame.lblNewGame[0].text, "Enter a name for this game:"},
+    {frmNewGame.cmdNewGame[0].caption, "Cancel"},
+    {frmNewGame.cmdNewGame[1].caption, "Save"},
+};
 
+/// What a list asks, which its label says.
 struct Question {
     GameList list;
     int label;
-    const Column& column;
-    int top;
     const char* text;
 };
 
-const Question questions[] = {
-    {gameTypeList, 1, wholeWidth, secondTop, "Select type of game:"},
-    {orderList, 4, columnOne, rowTop,
+constexpr Question questions[] = {
+    {gameTypeList, 1, "Select type of game:"},
+    {orderList, 4,
      "Does it matter which order the numbers or cards are drawn?         "
      "(disregarding bonus...bonus  is always drawn last)"},
-    {duplicatesList, 9, columnOne, rowTop + rowStep,
+    {duplicatesList, 9,
      "Can a number be duplicated in the same drawing?             "
      "Example:  pair of 3's in Main set...or pair of 3's in Bonus set."},
-    {mainCountList, 2, columnOne, rowTop + 2 * rowStep, "How many Main numbers or cards are drawn each game?"},
-    {bonusCountList, 3, columnTwo, rowTop + 2 * rowStep, "How many Bonus numbers or cards are drawn each game?"},
-    {mainLowList, 10, columnOne, rowTop + 3 * rowStep, "What is lowest Main number that can be drawn."},
-    {bonusLowList, 7, columnTwo, rowTop + 3 * rowStep, "What is the lowest Bonus number that can be drawn."},
-    {mainHighList, 11, columnOne, rowTop + 4 * rowStep, "What is the highest Main number that can be drawn."},
-    {bonusHighList, 8, columnTwo, rowTop + 4 * rowStep, "What is the highest Bonus number that can be drawn."},
+    {mainCountList, 2, "How many Main numbers or cards are drawn each game?"},
+    {bonusCountList, 3, "How many Bonus numbers or cards are drawn each game?"},
+    {mainLowList, 10, "What is lowest Main number that can be drawn."},
+    {bonusLowList, 7, "What is the lowest Bonus number that can be drawn."},
+    {mainHighList, 11, "What is the highest Main number that can be drawn."},
+    {bonusHighList, 8, "What is the highest Bonus number that can be drawn."},
 };
 
 constexpr int clientWidth = 10050;
 constexpr int clientHeight = 5040;
-
-std::string Indexed(const char* name, int index) {
-    return std::string(name) + "(" + std::to_string(index) + ")";
-}
-
-void Put(platform::Control& control, const std::string& name, const Bounds& bounds) {
-    control.name = name;
-    control.bounds = bounds;
-    frmNewGame.window.controls.push_back(&control);
-}
-
-void PutLabel(int index, const Column& column, int top, const char* text) {
-    platform::Label& label = frmNewGame.lblNewGame[static_cast<std::size_t>(index)];
-    Put(label, Indexed("lblNewGame", index), {column.labelLeft, top + labelDrop, column.labelWidth, labelHeight});
-    label.text = text;
-}
-
-void PutNameBox() {
-    PutLabel(0, wholeWidth, firstTop, "Enter a name for this game:");
-    platform::TextBox& box = frmNewGame.txtNewGame[0];
-    Put(box, "txtNewGame(0)", {wholeWidth.listLeft, firstTop, wholeWidth.listWidth, controlHeight});
-    box.maxLength = gameNameLength;
-    box.text = "";
-    box.label = &frmNewGame.lblNewGame[0];
-}
-
-void PutButton(int index, int left, const char* caption) {
-    platform::Button& button = frmNewGame.cmdNewGame[static_cast<std::size_t>(index)];
-    Put(button, Indexed("cmdNewGame", index), {left, buttonTop, 1200, 375});
-    button.caption = caption;
-}
 
 }  // namespace
 
@@ -107,17 +86,17 @@ platform::Label& LabelOf(GameList list) {
 
 void LayOutNewGameForm() {
     frmNewGame.window.name = "frmNewGame";
-    PutNameBox();
+    platform::PlaceControls(frmNewGame.window, places);
+    platform::SetTexts(texts);
+    frmNewGame.txtNewGame[0].maxLength = gameNameLength;
+    frmNewGame.txtNewGame[0].text = "";
+    frmNewGame.txtNewGame[0].label = &frmNewGame.lblNewGame[0];
     for (const Question& question : questions) {
-        PutLabel(question.label, question.column, question.top, question.text);
-        platform::DropDownList& list = ListOf(question.list);
-        Put(list, Indexed("cboCombo", question.list),
-            {question.column.listLeft, question.top, question.column.listWidth, controlHeight});
-        list.label = &LabelOf(question.list);
-        list.Fill({});
+        LabelOf(question.list).text = question.text;
+        ListOf(question.list).label = &LabelOf(question.list);
+        ListOf(question.list).Fill({});
     }
-    PutButton(1, 7230, "Save");
-    PutButton(0, 8610, "Cancel");
+    frmNewGame.window.fixedSize = true;
     frmNewGame.window.Resize(clientWidth + platform::Window::frameWidth, clientHeight + platform::Window::frameHeight);
 }
 

@@ -1,5 +1,7 @@
 #include "platform/Services.h"
 
+#include "platform/Chance.h"
+
 #include <array>
 
 namespace ballhaven::platform {
@@ -15,6 +17,12 @@ std::string EnglishMonthName(std::chrono::month month) {
 std::string EnglishShortDayName(std::chrono::weekday day) {
     constexpr std::array names = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
     return names.at(day.c_encoding());
+}
+
+float DrawByChance() {
+    static Chance chance;
+    chance.Reseed(static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()));
+    return chance.Next();
 }
 
 }  // namespace ballhaven::platform

@@ -12,6 +12,7 @@
 #include "platform/files/FileSystem.h"
 #include "platform/files/Paths.h"
 #include "screen/MainWindow.h"
+#include "start/LastWords.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
 
@@ -79,6 +80,7 @@ void StartProgram() {
     appState.shortDateFormat = ProbeShortDate();
     platform::closeDownNotices.save = SaveWhatIsDirty;
     platform::closeDownNotices.close = [] { frmMainForm.window.Unload(); };
+    PrepareForFailures();
     WireMainWindow();
     WireGameDialog();
     WireCalendar();

@@ -1,5 +1,6 @@
 #include "state/RecordFile.h"
 
+#include "platform/Guard.h"
 #include "platform/files/DurableFile.h"
 #include "platform/files/FileSystem.h"
 #include "state/RuntimeFailure.h"
@@ -59,7 +60,8 @@ void RecordFile::Close() {
     if (!changed) {
         return;
     }
-    NamingFailures(path, [this] { platform::ReplaceHead(path, content, FormatLength()); });
+    platform::SaveOrAskAgain(
+        [this] { NamingFailures(path, [this] { platform::ReplaceHead(path, content, FormatLength()); }); });
     changed = false;
 }
 

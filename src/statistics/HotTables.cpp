@@ -1,6 +1,7 @@
 #include "statistics/HotTables.h"
 
 #include "forms/MainForm.h"
+#include "platform/Guard.h"
 #include "state/AppState.h"
 #include "statistics/HotCaptions.h"
 #include "statistics/HotNumbers.h"
@@ -45,6 +46,7 @@ const KeptTable& Kept(HotTable table) {
 }  // namespace
 
 void ComputeHotTable() {
+    const platform::OnlyReads counting;
     CountHotNumbers();
     const bool isChosen = appState.hotTableChoice > 0;
     if (isChosen) {
@@ -62,12 +64,14 @@ void ComputeHotTable() {
 }
 
 void BuildHotTable(HotTable table) {
+    const platform::OnlyReads counting;
     if (const KeptTable& kept = Kept(table); kept.build != nullptr) {
         kept.build();
     }
 }
 
 void RefreshHotTable(HotTable table) {
+    const platform::OnlyReads counting;
     if (const KeptTable& kept = Kept(table); kept.stale != nullptr && appState.*kept.stale) {
         kept.build();
     }

@@ -164,8 +164,8 @@ TEST_F(TheMainForm, HasATimerOf400Milliseconds) {
 
 std::vector<std::string> Captions(const platform::Menu& menu) {
     std::vector<std::string> captions{menu.caption};
-    for (const platform::MenuItem& item : menu.items) {
-        captions.push_back(item.name + " " + item.caption);
+    for (const platform::MenuItem* item : menu.items) {
+        captions.push_back(item->name + " " + item->caption);
     }
     return captions;
 }

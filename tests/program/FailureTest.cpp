@@ -1,29 +1,53 @@
+#include "forms/MainForm.h"
 #include "platform/files/FileSystem.h"
 #include "start/Start.h"
 #include "state/AppState.h"
+#include "state/RuntimeFailure.h"
 #include "support/qt/RunningProgram.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace ballhaven {
 namespace {
 
+using platform::BoxAnswer;
 using platform::BoxButtons;
 using platform::BoxIcon;
 using support::Draw;
 
-/// What ends the program: one box that names the failure, and the files as they were.
+constexpr const char* overflowInDrawing =
+    "Overflow: a number does not fit into 16 bits.\n\nThis came up while draws were counted or shown in the game \"Six "
+    "of "
+    "49\". The program ends; your draws and plays are saved. Choose a smaller history set for this game.";
+
+/// What ends the program: one box that names the failure and the way out, and no file half written.
 class FailuresOfTheProgram : public support::RunningProgram {
   protected:
     void SetUp() override { Store({.low = 0, .draws = {{"01/01/1990", {1, 2, 3, 4, 5, 6}}}}); }
 
-    void ExpectFileError(const std::string& file, const std::string& reason) {
-        boxes.Expect("Ballhaven", "File error: " + (directory / file) + "\n" + reason, BoxButtons::Ok,
-                     BoxIcon::Critical);
+    [[nodiscard]] std::string FileError(const std::string& file, const std::string& reason) const {
+        return "File error: " + (directory / file) + "\n" + reason;
+    }
+
+    void ExpectQuestion(const std::string& file, const std::string& reason, BoxAnswer answer) {
+        boxes.Expect("Ballhaven",
+                     FileError(file, reason) +
+                         "\n\nThe file is as it was when it was last saved. Make it possible to write it, and try "
+                         "again.\nOtherwise the program ends, and what has been changed since is lost.\n\nTry again?",
+                     BoxButtons::YesNo, BoxIcon::Critical, answer);
+    }
+
+    /// Lets a save fail for as long as `room` is false.
+    static void FillDisk(const bool& room) {
+        platform::fileSystem.write = [&room, write = platform::fileSystem.write](int file, const char* bytes,
+                                                                                 std::size_t count) {
+            return room ? write(file, bytes, count) : std::int64_t{-ENOSPC};
+        };
     }
 
     void TypeAPick() {
@@ -39,12 +63,43 @@ TEST_F(FailuresOfTheProgram, AFullDiskAtTheCloseIsNamedOnceAndLeavesTheOldDraws)
     Start();
     const std::string before = directory.Read("GAME01.CDB");
     TypeAPick();
-    platform::fileSystem.write = [](int, const char*, std::size_t) { return std::int64_t{-ENOSPC}; };
-    ExpectFileError("GAME01.CDB", "No space left on device");
+    const bool room = false;
+    FillDisk(room);
+    ExpectQuestion("GAME01.CDB", "No space left on device", BoxAnswer::No);
     Close();
     EXPECT_EQ(exitCodes.front(), 1);
     EXPECT_EQ(directory.Read("GAME01.CDB"), before);
     EXPECT_FALSE(directory.Has("GAME01.CDB.new"));
+}
+
+TEST_F(FailuresOfTheProgram, ADiskThatWasFullIsTriedAgainAndNothingIsLost) {
+    Start();
+    TypeAPick();
+    bool room = false;
+    FillDisk(room);
+    platform::services.showMessageBox = [&room](const platform::MessageBoxRequest&) {
+        room = true;
+        return BoxAnswer::Yes;
+    };
+    Close();
+    EXPECT_EQ(exitCodes.front(), 0);
+    EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf({{"01/01/1990", {7, 2, 3, 4, 5, 6}}}),
+                                                directory.Read("GAME01.CDB")));
+}
+
+TEST_F(FailuresOfTheProgram, WhenTheDrawsAreGivenUpThePlaysAreSaved) {
+    Start();
+    TypeAPick();
+    const std::string before = directory.Read("PLAYS01.CDB");
+    appState.PlayTable(0, 1, 1) = 9;
+    appState.playsDirty = true;
+    platform::fileSystem.rename = [](const std::string& from, const std::string& to) {
+        return to.ends_with("GAME01.CDB") ? -EACCES : platform::SystemFiles().rename(from, to);
+    };
+    ExpectQuestion("GAME01.CDB", "Permission denied", BoxAnswer::No);
+    Close();
+    EXPECT_EQ(exitCodes.front(), 1);
+    EXPECT_NE(directory.Read("PLAYS01.CDB"), before);
 }
 
 TEST_F(FailuresOfTheProgram, ADirectoryThatCannotBeWrittenIsNamedWhenTheGameIsLeft) {
@@ -55,7 +110,7 @@ TEST_F(FailuresOfTheProgram, ADirectoryThatCannotBeWrittenIsNamedWhenTheGameIsLe
                                                                    platform::FileAccess access) {
         return access == platform::FileAccess::CreateNew ? -EACCES : open(path, access);
     };
-    ExpectFileError("GAME01.CDB", "Permission denied");
+    ExpectQuestion("GAME01.CDB", "Permission denied", BoxAnswer::No);
     ChooseEntry("cboList(0)", 1);
     EXPECT_EQ(exitCodes, (std::vector<int>{1}));
     EXPECT_EQ(directory.Read("GAME01.CDB"), before);
@@ -63,7 +118,11 @@ TEST_F(FailuresOfTheProgram, ADirectoryThatCannotBeWrittenIsNamedWhenTheGameIsLe
 
 TEST_F(FailuresOfTheProgram, AFileThatCannotBeReadIsNamedAtTheStart) {
     platform::fileSystem.read = [](int, std::int64_t, char*, std::size_t) { return std::int64_t{-EIO}; };
-    ExpectFileError("LOTTOSYS", "Input/output error");
+    boxes.Expect("Ballhaven",
+                 FileError("LOTTOSYS", "Input/output error") +
+                     "\n\nThe program ends. The files are as they were when they were last saved. Make it possible to "
+                     "read and write this one, and start again.",
+                 BoxButtons::Ok, BoxIcon::Critical);
     support::ResetState();
     StartProgram();
     EXPECT_EQ(exitCodes, (std::vector<int>{1}));
@@ -76,10 +135,32 @@ TEST_F(FailuresOfTheProgram, APercentageBeyond16BitsEndsTheProgramWhileItIsDrawn
             {std::to_string(day / 28 + 1) + "/" + std::to_string(day % 28 + 1) + "/1990", {9, 9, 9, 9, 9, 9}});
     }
     Store({.draws = draws});
-    boxes.Expect("Ballhaven", "Overflow: a number does not fit into 16 bits.", BoxButtons::Ok, BoxIcon::Critical);
+    boxes.Expect("Ballhaven", overflowInDrawing, BoxButtons::Ok, BoxIcon::Critical);
     Start();
     EXPECT_EQ(boxes.Left(), 0U);
     EXPECT_EQ(exitCodes.front(), 1);
+}
+
+TEST_F(FailuresOfTheProgram, AFailureInDrawingSavesTheDrawsAndTheWindowsBehindItsBoxKeepTheirContents) {
+    Start();
+    TypeAPick();
+    std::string told;
+    std::string behind;
+    platform::services.showMessageBox = [&](const platform::MessageBoxRequest& box) {
+        told = box.text;
+        behind = CellText("grdHist", 0, 2);
+        return BoxAnswer::Ok;
+    };
+    frmMainForm.grdHot.cellText = [](const platform::GridCell&) -> std::optional<std::string> {
+        throw RuntimeFailure(RuntimeFailure::Kind::Overflow);
+    };
+    CellText("grdHot", 0, 0);
+    EXPECT_EQ(told, overflowInDrawing);
+    EXPECT_EQ(behind, "2");
+    EXPECT_FALSE(appState.historyDirty);
+    EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf({{"01/01/1990", {7, 2, 3, 4, 5, 6}}}),
+                                                directory.Read("GAME01.CDB")));
+    frmMainForm.grdHot.cellText = nullptr;
 }
 
 }  // namespace

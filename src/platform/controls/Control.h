@@ -10,14 +10,17 @@ namespace ballhaven::platform {
 
 enum class ControlKind {
     Button,
+    CheckBox,
     DrawingSurface,
     DropDownList,
+    Frame,
     Grid,
     Label,
     Line,
     OptionButton,
     Panel,
     Picture,
+    TextArea,
     TextBox
 };
 
@@ -57,7 +60,7 @@ class Control : public Shown {
     /// The control's name with its index, such as "cboList(0)"; its widget bears it too.
     std::string name;
 
-    /// The panel on which the control stands, null for the window itself. Fixed by the layout.
+    /// The panel or frame on which the control stands, null for the window itself. Fixed by the layout.
     Control* container = nullptr;
 
     /// The label that names the control, built before it; null for none. Fixed by the layout.

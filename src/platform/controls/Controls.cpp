@@ -40,6 +40,18 @@ void DropDownList::SelectByUser(int index) {
     Raise(change);
 }
 
+void TextBox::Select(TextSelection part) {
+    selection = part;
+    selection = Selection();
+    ShowChange();
+}
+
+TextSelection TextBox::Selection() const {
+    const int size = static_cast<int>(text->size());
+    const int start = std::clamp(selection.start, 0, size);
+    return {start, std::clamp(selection.length, 0, size - start)};
+}
+
 void OptionButton::Choose() {
     if (!chosen) {
         ChooseByUser();

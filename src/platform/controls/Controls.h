@@ -13,6 +13,9 @@ namespace ballhaven::platform {
 /// A handler of a notice; empty when nobody listens. Set once by the wiring.
 using Handler = std::function<void()>;
 
+/// How a text lies in its place.
+enum class TextAlignment { Left, Centre, Right };
+
 /// A line of text.
 class Label : public Control {
   public:
@@ -20,8 +23,9 @@ class Label : public Control {
 
     Property<std::string> text{*this};
     Property<bool> bold{*this, false};
-    Property<bool> centred{*this, false};
     Property<bool> bordered{*this, false};
+    Property<TextAlignment> alignment{*this, TextAlignment::Left};
+    Property<int> fontHeight{*this, 11};  ///< in pixels
 
     /// A label with the colour of its surroundings has `buttonFaceColor`, which is not painted.
     Property<Color> background{*this, buttonFaceColor};
@@ -86,21 +90,43 @@ enum class MouseButton { Left, Right, Other };
 /// The shape of the mouse pointer over a control.
 enum class PointerShape { Default, IBeam, Cross };
 
+/// The marked part of a text, in characters; with a length of 0 it is where typing goes on.
+struct TextSelection {
+    int start = 0;
+    int length = 0;
+
+    bool operator==(const TextSelection&) const = default;
+};
+
 /// A box in which the user types one line.
 class TextBox : public Control {
   public:
     TextBox() : Control(ControlKind::TextBox) {}
+
+    /// Marks a part of the text; what of it lies beyond the text is left out.
+    void Select(TextSelection part);
+    [[nodiscard]] TextSelection Selection() const;
+
+    /// The user's change of the selection, which the widget shows already.
+    void SelectByUser(TextSelection part) { selection = part; }
 
     Property<std::string> text{*this};
     Property<int> maxLength{*this, 0};  ///< in characters; 0 for no limit
     Property<bool> locked{*this, false};
     Property<PointerShape> pointer{*this, PointerShape::Default};
 
+    /// The ground behind the text, also while the box is switched off; `windowColor` is the toolkit's own, which is
+    /// greyed then.
+    Property<Color> background{*this, windowColor};
+
     /// A character key going down, '\r' for Enter; true when it has been served and the box does nothing with it.
     std::function<bool(char key)> keyPress;
 
     /// A click of the left mouse button, in a locked box too.
     Handler click;
+
+  private:
+    TextSelection selection;
 };
 
 /// A button with a caption, a picture or both.

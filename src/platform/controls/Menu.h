@@ -3,8 +3,8 @@
 #include "platform/controls/Property.h"
 
 #include <functional>
-#include <span>
 #include <string>
+#include <vector>
 
 namespace ballhaven::platform {
 
@@ -13,6 +13,7 @@ class MenuItem : public Shown {
   public:
     std::string name;
     std::string caption;
+    Property<bool> enabled{*this, true};
     Property<bool> checked{*this, false};
     std::function<void()> click;
 };
@@ -22,7 +23,7 @@ class Menu {
   public:
     std::string name;
     std::string caption;
-    std::span<MenuItem> items;
+    std::vector<MenuItem*> items;  ///< from top to bottom. Fixed by the layout
 };
 
 }  // namespace ballhaven::platform

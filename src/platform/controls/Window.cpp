@@ -2,6 +2,8 @@
 
 #include "platform/controls/Toolkit.h"
 
+#include <utility>
+
 namespace ballhaven::platform {
 
 void Window::Load() {
@@ -14,6 +16,9 @@ void Window::Load() {
     }
     if (toolkit != nullptr) {
         toolkit->Build(*this);
+    }
+    if (const auto place = std::exchange(openingPlace, std::nullopt)) {
+        MoveTo(place->left, place->top);
     }
     if (load) {
         load();
@@ -74,15 +79,27 @@ void Window::Resize(int width, int height) {
 void Window::MoveTo(int left, int top) {
     if (view != nullptr) {
         Widgets()->MoveTo(left, top);
+    } else {
+        openingPlace = WindowPlace{left, top};
     }
 }
 
 int Window::Left() const {
-    return view != nullptr ? Widgets()->Left() : 0;
+    return view != nullptr ? Widgets()->Left() : openingPlace.value_or(WindowPlace{}).left;
 }
 
 int Window::Top() const {
-    return view != nullptr ? Widgets()->Top() : 0;
+    return view != nullptr ? Widgets()->Top() : openingPlace.value_or(WindowPlace{}).top;
+}
+
+void Window::SetState(WindowState state) {
+    if (view != nullptr) {
+        Widgets()->SetState(state);
+    }
+}
+
+WindowState Window::State() const {
+    return view != nullptr ? Widgets()->State() : WindowState::Normal;
 }
 
 void Window::ResizeByUser(int width, int height) {

@@ -4,12 +4,28 @@
 #include "platform/controls/Menu.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace ballhaven::platform {
 
 class Window;
+
+/// Whether a window has its own size, an icon's or the whole screen's.
+enum class WindowState { Normal, Minimised, Maximised };
+
+/// An outer size, in twips; a measure of 0 sets no limit.
+struct SizeLimit {
+    int width = 0;
+    int height = 0;
+};
+
+/// The place of a window's left top corner on the screen, in twips.
+struct WindowPlace {
+    int left = 0;
+    int top = 0;
+};
 
 /// The widgets of a loaded window. Destroying it tears them down.
 class WindowView : public View {
@@ -29,6 +45,9 @@ class WindowView : public View {
     virtual void MoveTo(int left, int top) = 0;
     [[nodiscard]] virtual int Left() const = 0;
     [[nodiscard]] virtual int Top() const = 0;
+
+    virtual void SetState(WindowState state) = 0;
+    [[nodiscard]] virtual WindowState State() const = 0;
 };
 
 /// A window: a title, menus, controls and handlers. Loading it runs the layout, builds its widgets if there is a
@@ -50,6 +69,10 @@ class Window : public Shown {
     void ShowInFront();
     void RepaintNow();
 
+    /// Normal until a window is loaded, and again when it is loaded anew.
+    void SetState(WindowState state);
+    [[nodiscard]] WindowState State() const;
+
     /// Runs `unload` and tears the window down; a window that is not loaded stays so. It may be called from inside one
     /// of the window's own handlers.
     void Unload();
@@ -61,8 +84,8 @@ class Window : public Shown {
     [[nodiscard]] int Width() const { return *outerWidth; }
     [[nodiscard]] int Height() const { return *outerHeight; }
 
-    /// Moves the left top corner to a place of the screen, in twips. A window that is not loaded has none: it stays at
-    /// 0, 0.
+    /// Moves the left top corner to a place of the screen, in twips; a window that is not loaded opens there the next
+    /// time. One that is never moved is placed by the desktop, and is at 0, 0 before.
     void MoveTo(int left, int top);
     [[nodiscard]] int Left() const;
     [[nodiscard]] int Top() const;
@@ -72,6 +95,14 @@ class Window : public Shown {
 
     std::string name;
     Property<std::string> title{*this};
+
+    /// A window that is switched off takes neither mouse nor keys, and does not close by its close box.
+    Property<bool> enabled{*this, true};
+
+    /// The user can neither resize nor maximise the window. Fixed by the layout, as the limits are.
+    bool fixedSize = false;
+    SizeLimit smallestSize;
+    SizeLimit largestSize;
 
     /// In the order of the keyboard, and from back to front. Fixed by the layout.
     std::vector<Control*> controls;
@@ -85,6 +116,9 @@ class Window : public Shown {
     /// The window is shown for the first time, or becomes active from another window of the program. Message boxes and
     /// other programs do not count.
     Handler activate;
+
+    /// The window has lost the keyboard, to whatever other window.
+    Handler deactivate;
     Handler resize;
 
     /// The window is about to close, in whatever way.
@@ -95,6 +129,7 @@ class Window : public Shown {
 
     Property<int> outerWidth{*this, 0};
     Property<int> outerHeight{*this, 0};
+    std::optional<WindowPlace> openingPlace;  ///< set while the window is not loaded
     bool loaded = false;
 };
 

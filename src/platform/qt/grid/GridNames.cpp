@@ -13,7 +13,9 @@ QString NameOfColumn(const Grid& grid, int column) {
 QString NameOfRow(const Grid& grid, int row) {
     QString name;
     if (grid.rowNameColumn >= 0 && row >= 0 && grid.IsOn() && grid.cellText) {
-        RunGuarded([&] { name = ToQString(grid.cellText({0, row, grid.rowNameColumn}).value_or(std::string())); });
+        RunGuardedReading([&] {
+            name = ToQString(grid.cellText({0, row, grid.rowNameColumn}).value_or(std::string()));
+        });
     }
     return name;
 }

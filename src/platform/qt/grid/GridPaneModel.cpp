@@ -57,7 +57,7 @@ QModelIndex GridPaneModel::IndexOf(const GridCell& cell) const {
 QString GridPaneModel::CellText(const GridCell& cell) const {
     QString text;
     if (grid.IsOn() && grid.cellText && cell.row < rows) {
-        RunGuarded([&] { text = ToQString(grid.cellText(cell).value_or(std::string())); });
+        RunGuardedReading([&] { text = ToQString(grid.cellText(cell).value_or(std::string())); });
     }
     return text;
 }
@@ -65,7 +65,7 @@ QString GridPaneModel::CellText(const GridCell& cell) const {
 QString GridPaneModel::CellDescription(const GridCell& cell) const {
     QString description;
     if (grid.IsOn() && grid.cellDescription && cell.row < rows) {
-        RunGuarded([&] { description = ToQString(grid.cellDescription(cell)); });
+        RunGuardedReading([&] { description = ToQString(grid.cellDescription(cell)); });
     }
     return description.isEmpty() ? CellText(cell) : description;
 }
@@ -74,7 +74,7 @@ CellStyle GridPaneModel::StyleOf(const GridCell& cell) const {
     const GridColumn& column = grid.Column(cell.column);
     CellStyle style{windowTextColor, column.background};
     if (column.styled && grid.IsOn() && grid.cellStyle && cell.row < rows) {
-        RunGuarded([&] { grid.cellStyle(cell, style); });
+        RunGuardedReading([&] { grid.cellStyle(cell, style); });
     }
     return style;
 }

@@ -52,7 +52,7 @@ void GridWidget::ListenTo(GridPaneView& pane) {
 void GridWidget::ReadRows() {
     const int firstRow = FirstVisibleRow();
     int rows = 0;
-    RunGuarded([&] { rows = grid.RowsRead(); });
+    RunGuardedReading([&] { rows = grid.RowsRead(); });
     rowsTold = grid.RowCount();
     panes.TakeRows(rows);
     measures = {};  // with new rows the toolkit's tables forget the widths of their columns

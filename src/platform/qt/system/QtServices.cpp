@@ -57,6 +57,7 @@ void InstallQtServices(QtToolkit& qtToolkit, ProgramInstance& instance) {
         instance.Leave();
         std::_Exit(exitCode);
     };
+    services.beep = [] { QApplication::beep(); };
     services.executableDirectory = ExecutableDirectory;
     services.systemDirectory = SystemDirectory;
     services.shortDatePattern = ShortDatePattern;

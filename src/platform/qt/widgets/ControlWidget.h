@@ -46,6 +46,13 @@ class ControlWidget : public Widget, public ShownView {
         }
     }
 
+    /// Runs what draws the control and changes nothing.
+    void ReportReading(const std::function<void()>& reading) {
+        if (shown.view == this) {
+            RunGuardedReading(reading);
+        }
+    }
+
   private:
     Control& shown;
 };

@@ -91,7 +91,7 @@ int DrawingSurfaceWidget::TextHeight() const {
 }
 
 void DrawingSurfaceWidget::paintEvent(QPaintEvent*) {
-    Report([this] {
+    ReportReading([this] {
         QPainter painter(this);
         PainterCanvas canvas(painter);
         if (surface.paint) {

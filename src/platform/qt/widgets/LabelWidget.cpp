@@ -6,6 +6,22 @@
 
 namespace ballhaven::platform {
 
+namespace {
+
+Qt::Alignment AlignmentOf(TextAlignment alignment) {
+    switch (alignment) {
+        case TextAlignment::Centre:
+            return Qt::AlignHCenter | Qt::AlignTop;
+        case TextAlignment::Right:
+            return Qt::AlignRight | Qt::AlignTop;
+        case TextAlignment::Left:
+            break;
+    }
+    return Qt::AlignLeft | Qt::AlignTop;
+}
+
+}  // namespace
+
 LabelWidget::LabelWidget(Label& shownLabel, QWidget* parent) : ControlWidget(shownLabel, parent), label(shownLabel) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
@@ -17,9 +33,10 @@ LabelWidget::LabelWidget(Label& shownLabel, QWidget* parent) : ControlWidget(sho
 void LabelWidget::Refresh() {
     ShowCommon(label, *this, *label.text);
     setText(ToQString(*label.text));
-    setAlignment((*label.centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignTop);
+    setAlignment(AlignmentOf(*label.alignment));
     QFont ownFont = font();
     ownFont.setBold(*label.bold);
+    ownFont.setPixelSize(*label.fontHeight);
     setFont(ownFont);
     setFrameStyle(*label.bordered ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
     ShowColors();

@@ -22,23 +22,61 @@ TextBoxWidget::TextBoxWidget(TextBox& shownBox, QWidget* parent) : ControlWidget
     connect(this, &QLineEdit::textEdited, this, [this](const QString& typed) {
         Report([&] {
             box.text.SetQuietly(FromQString(typed));
+            KeepSelection();
             Refresh();  // a character outside the code page shows as what it became
         });
     });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { KeepSelection(); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { KeepSelection(); });
     Refresh();
 }
 
 void TextBoxWidget::Refresh() {
+    TextSelection selection = box.Selection();
     ShowCommon(box, *this);
-    setMaxLength(*box.maxLength > 0 ? *box.maxLength : longestText);
+    const int wantedLength = *box.maxLength > 0 ? *box.maxLength : longestText;
+    if (maxLength() != wantedLength) {
+        setMaxLength(wantedLength);
+    }
     setReadOnly(*box.locked);
     setCursor(CursorOf(*box.pointer));
+    ShowColor();
     const QString wanted = ToQString(*box.text);
     if (text() != wanted) {
-        const int position = cursorPosition();
         setText(wanted);
-        setCursorPosition(position);
+        selection.length = 0;
     }
+    ShowSelection(selection);
+}
+
+void TextBoxWidget::ShowColor() {
+    const bool ownColor = *box.background != windowColor;
+    if (ownColor || testAttribute(Qt::WA_SetPalette)) {
+        QPalette colors;
+        if (ownColor) {
+            colors.setColor(QPalette::Base, ToQColor(*box.background));
+        }
+        setPalette(colors);
+    }
+}
+
+void TextBoxWidget::ShowSelection(TextSelection wanted) {
+    if (ShownSelection() == wanted) {
+        return;
+    }
+    if (wanted.length > 0) {
+        setSelection(wanted.start, wanted.length);
+    } else {
+        setCursorPosition(wanted.start);
+    }
+}
+
+TextSelection TextBoxWidget::ShownSelection() const {
+    return hasSelectedText() ? TextSelection{selectionStart(), selectionLength()} : TextSelection{cursorPosition(), 0};
+}
+
+void TextBoxWidget::KeepSelection() {
+    box.SelectByUser(ShownSelection());
 }
 
 void TextBoxWidget::keyPressEvent(QKeyEvent* event) {

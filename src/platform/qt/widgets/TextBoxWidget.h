@@ -18,6 +18,11 @@ class TextBoxWidget final : public ControlWidget<QLineEdit> {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    void ShowColor();
+    void ShowSelection(TextSelection wanted);
+    void KeepSelection();
+    [[nodiscard]] TextSelection ShownSelection() const;
+
     TextBox& box;
 };
 

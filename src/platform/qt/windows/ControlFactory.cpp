@@ -1,14 +1,20 @@
 #include "platform/qt/windows/ControlFactory.h"
 
+#include "platform/controls/CheckBox.h"
 #include "platform/controls/DrawingSurface.h"
+#include "platform/controls/Frame.h"
 #include "platform/controls/Grid.h"
+#include "platform/controls/TextArea.h"
 #include "platform/qt/grid/GridWidget.h"
 #include "platform/qt/widgets/ButtonWidget.h"
+#include "platform/qt/widgets/CheckBoxWidget.h"
 #include "platform/qt/widgets/DrawingSurfaceWidget.h"
 #include "platform/qt/widgets/DropDownWidget.h"
+#include "platform/qt/widgets/FrameWidget.h"
 #include "platform/qt/widgets/LabelWidget.h"
 #include "platform/qt/widgets/OptionWidget.h"
 #include "platform/qt/widgets/StillWidgets.h"
+#include "platform/qt/widgets/TextAreaWidget.h"
 #include "platform/qt/widgets/TextBoxWidget.h"
 
 namespace ballhaven::platform {
@@ -29,10 +35,14 @@ void BuildControl(Control& control, QWidget& clientArea) {
     switch (control.kind) {
         case ControlKind::Button:
             return Build<ButtonWidget, Button>(control, parent);
+        case ControlKind::CheckBox:
+            return Build<CheckBoxWidget, CheckBox>(control, parent);
         case ControlKind::DrawingSurface:
             return Build<DrawingSurfaceWidget, DrawingSurface>(control, parent);
         case ControlKind::DropDownList:
             return Build<DropDownWidget, DropDownList>(control, parent);
+        case ControlKind::Frame:
+            return Build<FrameWidget, Frame>(control, parent);
         case ControlKind::Grid:
             return Build<GridWidget, Grid>(control, parent);
         case ControlKind::Label:
@@ -45,6 +55,8 @@ void BuildControl(Control& control, QWidget& clientArea) {
             return Build<PanelWidget, Panel>(control, parent);
         case ControlKind::Picture:
             return Build<PictureWidget, Picture>(control, parent);
+        case ControlKind::TextArea:
+            return Build<TextAreaWidget, TextArea>(control, parent);
         case ControlKind::TextBox:
             return Build<TextBoxWidget, TextBox>(control, parent);
     }

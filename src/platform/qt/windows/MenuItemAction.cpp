@@ -32,6 +32,7 @@ MenuItemAction::MenuItemAction(MenuItem& shownItem, QObject* parent) : QAction(p
 
 // An entry that can bear a mark shows an empty box without it, so only a checked one is marked as one that can.
 void MenuItemAction::Refresh() {
+    setEnabled(*item.enabled);
     setCheckable(*item.checked);
     setChecked(*item.checked);
 }
@@ -40,8 +41,8 @@ void FillMenuBar(QMenuBar& bar, std::span<Menu* const> menus) {
     for (const Menu* menu : menus) {
         QMenu* const shown = bar.addMenu(ToQString(menu->caption));
         shown->setObjectName(ToQString(menu->name));
-        for (MenuItem& item : menu->items) {
-            shown->addAction(new MenuItemAction(item, shown));
+        for (MenuItem* item : menu->items) {
+            shown->addAction(new MenuItemAction(*item, shown));
         }
     }
 }

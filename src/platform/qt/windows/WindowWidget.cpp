@@ -35,6 +35,10 @@ WindowWidget::WindowWidget(Window& shownWindow, ActivationOrder& activationOrder
     }
     StartTimers();
     clientArea->installEventFilter(this);
+    if (window.fixedSize) {
+        setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                       Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+    }
     Refresh();
 }
 
@@ -65,10 +69,33 @@ QSize WindowWidget::ClientSize() const {
 
 void WindowWidget::Refresh() {
     setWindowTitle(ToQString(*window.title));
-    const QSize client = ClientSize();
-    const int menuHeight = window.menus.empty() ? 0 : menuBar()->heightForWidth(client.width());
-    resize(client.width(), client.height() + menuHeight);
-    PlaceAlignedPanels(client);
+    setEnabled(*window.enabled);
+    if (shownClient != ClientSize()) {
+        ShowSize();
+    }
+}
+
+void WindowWidget::ShowSize() {
+    shownClient = ClientSize();
+    const int menuHeight = window.menus.empty() ? 0 : menuBar()->heightForWidth(shownClient.width());
+    const QSize wanted(shownClient.width(), shownClient.height() + menuHeight);
+    LimitSize(wanted, menuHeight);
+    resize(wanted);
+    PlaceAlignedPanels(shownClient);
+}
+
+void WindowWidget::LimitSize(const QSize& wanted, int menuHeight) {
+    if (window.fixedSize) {
+        setFixedSize(wanted);
+        return;
+    }
+    const auto pixels = [](int outer, int frame, int unlimited) {
+        return outer > 0 ? std::max(0, ToPixels(outer - frame)) : unlimited;
+    };
+    setMinimumSize(pixels(window.smallestSize.width, Window::frameWidth, 0),
+                   pixels(window.smallestSize.height, Window::frameHeight - ToTwips(menuHeight), 0));
+    setMaximumSize(pixels(window.largestSize.width, Window::frameWidth, QWIDGETSIZE_MAX),
+                   pixels(window.largestSize.height, Window::frameHeight - ToTwips(menuHeight), QWIDGETSIZE_MAX));
 }
 
 void WindowWidget::PlaceAlignedPanels(const QSize& client) {
@@ -102,7 +129,8 @@ void WindowWidget::FollowClientArea() {
     if (window.view != this || clientArea->size() == ClientSize()) {
         return;
     }
-    PlaceAlignedPanels(clientArea->size());
+    shownClient = clientArea->size();
+    PlaceAlignedPanels(shownClient);
     RunGuarded([this] {
         const int width = ToTwips(clientArea->width()) + Window::frameWidth;
         const int height = ToTwips(clientArea->height()) + Window::frameHeight;
@@ -139,6 +167,25 @@ void WindowWidget::ShowInFront() {
     activateWindow();
 }
 
+void WindowWidget::SetState(WindowState state) {
+    const Qt::WindowStates others = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    switch (state) {
+        case WindowState::Normal:
+            return setWindowState(others);
+        case WindowState::Minimised:
+            return setWindowState(others | Qt::WindowMinimized);
+        case WindowState::Maximised:
+            return setWindowState(others | Qt::WindowMaximized);
+    }
+}
+
+WindowState WindowWidget::State() const {
+    if (isMinimized()) {
+        return WindowState::Minimised;
+    }
+    return isMaximized() ? WindowState::Maximised : WindowState::Normal;
+}
+
 void WindowWidget::RepaintNow() {
     repaint();
 }
@@ -161,26 +208,44 @@ void WindowWidget::TearDown() {
         PartControl(*control);
     }
     for (const Menu* menu : window.menus) {
-        for (MenuItem& item : menu->items) {
-            item.view = nullptr;
+        for (MenuItem* item : menu->items) {
+            item->view = nullptr;
         }
     }
-    const bool wasActive = isActiveWindow();
+    const bool hadFocus = !focusLost && (modalLoop != nullptr || activations.Front() == this);
     activations.Remove(*this);
     hide();
     if (modalLoop != nullptr) {
         modalLoop->quit();
         modalLoop = nullptr;
     }
-    if (QWidget* const next = activations.Front(); next != nullptr && wasActive) {
-        next->activateWindow();
+    if (hadFocus) {
+        HandFocusOn();
     }
+}
+
+// A desktop that is behind may not have reported this window as active when it closes, nor then the next one again,
+// which has been active for it all along.
+void WindowWidget::HandFocusOn() {
+    auto* const next = static_cast<WindowWidget*>(activations.Front());
+    if (next == nullptr) {
+        return;
+    }
+    next->activateWindow();
+    QMetaObject::invokeMethod(
+        next,
+        [next] {
+            if (next->isActiveWindow()) {
+                next->BecomeActive();
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 // The window goes when the program has unloaded it, not before.
 void WindowWidget::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (window.view == this) {
+    if (window.view == this && *window.enabled) {
         RunGuarded([this] { window.Unload(); });
     }
 }
@@ -201,7 +266,13 @@ void WindowWidget::showEvent(QShowEvent* event) {
 bool WindowWidget::event(QEvent* event) {
     const bool served = QMainWindow::event(event);
     if (event->type() == QEvent::WindowActivate) {
+        focusLost = false;
         BecomeActive();
+    } else if (event->type() == QEvent::WindowDeactivate) {
+        focusLost = true;
+        if (window.view == this && window.deactivate) {
+            RunGuarded(window.deactivate);
+        }
     }
     return served;
 }

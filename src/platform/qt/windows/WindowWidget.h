@@ -24,9 +24,12 @@ class WindowWidget final : public QMainWindow, public WindowView {
     void MoveTo(int left, int top) override;
     [[nodiscard]] int Left() const override;
     [[nodiscard]] int Top() const override;
+    void SetState(WindowState state) override;
+    [[nodiscard]] WindowState State() const override;
 
     /// Parts the window and its controls from their widgets and hides the widget, whose deletion is the caller's: one
-    /// of its handlers may be running. Ends a modal showing.
+    /// of its handlers may be running. Ends a modal showing. The focus, if this window has it or waits for it, goes to
+    /// the window that was active before.
     void TearDown();
 
   protected:
@@ -37,16 +40,21 @@ class WindowWidget final : public QMainWindow, public WindowView {
 
   private:
     [[nodiscard]] QSize ClientSize() const;
+    void ShowSize();
+    void LimitSize(const QSize& wanted, int menuHeight);
     void StartTimers();
     void PlaceAlignedPanels(const QSize& client);
     void FollowClientArea();
     void BecomeActive();
+    void HandFocusOn();
 
     Window& window;
     ActivationOrder& activations;
     QWidget* clientArea;
+    QSize shownClient;  ///< the size of the client area that the value knows of
     QEventLoop* modalLoop = nullptr;
     bool everActive = false;
+    bool focusLost = false;  ///< to another window since it was last active
 };
 
 }  // namespace ballhaven::platform

@@ -103,7 +103,7 @@ std::pair<int, int> InkOf(const QImage& drawn) {
 TEST_F(LabelWidgetTest, ACentredLabelHasTheSameRoomOnBothSidesOfItsText) {
     EXPECT_LT(InkOf(widget->grab().toImage()).first, 3);
 
-    label.centred = true;
+    label.alignment = TextAlignment::Centre;
     const auto [first, last] = InkOf(widget->grab().toImage());
     EXPECT_GT(first, 10);
     EXPECT_NEAR(first, widget->width() - 1 - last, 2);
@@ -113,6 +113,21 @@ TEST_F(LabelWidgetTest, IsReadAsItsText) {
     const QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(widget);
     EXPECT_EQ(read->role(), QAccessible::StaticText);
     EXPECT_EQ(read->text(QAccessible::Name), QStringLiteral("Select Game"));
+}
+
+TEST_F(LabelWidgetTest, ALabelAlignedToTheRightEndsThere) {
+    label.alignment = TextAlignment::Right;
+    const auto [first, last] = InkOf(widget->grab().toImage());
+    EXPECT_GT(first, 20);
+    EXPECT_GT(last, widget->width() - 4);
+}
+
+TEST_F(LabelWidgetTest, HasALetterHeightOfItsOwn) {
+    label.bold = true;
+    label.fontHeight = 16;
+
+    EXPECT_EQ(widget->font().pixelSize(), 16);
+    EXPECT_TRUE(widget->font().bold());
 }
 
 }  // namespace

@@ -110,5 +110,75 @@ TEST_F(TextBoxWidgetTest, TwoDigitsHaveRoom) {
     EXPECT_LE(edit->fontMetrics().height(), edit->rect().marginsRemoved(frame).height());
 }
 
+TEST_F(TextBoxWidgetTest, TypingGoesOnBehindWhatWasTyped) {
+    box.maxLength = 0;
+    QTest::keyClicks(edit, "abc");
+    QTest::keyClick(edit, Qt::Key_Home);
+    QTest::keyClicks(edit, "xy");
+
+    EXPECT_EQ(*box.text, "xyabc");
+    EXPECT_EQ(box.Selection(), (TextSelection{2, 0}));
+}
+
+TEST_F(TextBoxWidgetTest, WhatTheProgramMarksIsMarkedAndReplacedByTheNextKey) {
+    box.maxLength = 0;
+    box.text = "5001";
+    box.Select({0, 4});
+    EXPECT_EQ(edit->selectedText(), QStringLiteral("5001"));
+    QTest::keyClick(edit, Qt::Key_7);
+
+    EXPECT_EQ(*box.text, "7");
+    EXPECT_EQ(box.Selection(), (TextSelection{1, 0}));
+}
+
+TEST_F(TextBoxWidgetTest, AMarkOfTheProgramStaysWhenTheBoxTakesTheFocus) {
+    box.text = "50";
+    edit->clearFocus();
+    box.Select({0, 2});
+    box.TakeFocus();
+
+    EXPECT_EQ(edit->selectedText(), QStringLiteral("50"));
+}
+
+TEST_F(TextBoxWidgetTest, TheUsersMarkIsInTheValue) {
+    box.text = "50";
+    QTest::keyClick(edit, Qt::Key_Home);
+    QTest::keyClick(edit, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(box.Selection(), (TextSelection{0, 1}));
+
+    box.toolTip = "Total Plays";
+    EXPECT_EQ(edit->selectedText(), QStringLiteral("5")) << "another change leaves it";
+}
+
+TEST_F(TextBoxWidgetTest, ANewTextFromTheProgramIsNotMarked) {
+    box.text = "50";
+    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+    box.text = "Ks";
+
+    EXPECT_FALSE(edit->hasSelectedText());
+}
+
+TEST_F(TextBoxWidgetTest, ItsGroundHasTheColourThatIsAskedForAlsoWhenItIsSwitchedOff) {
+    const auto ground = [this] { return edit->grab().toImage().pixelColor(5, 9); };
+    const QColor plain = ground();
+    box.background = buttonFaceColor;
+    EXPECT_EQ(ground(), QGuiApplication::palette().color(QPalette::Window));
+    box.enabled = false;
+    EXPECT_EQ(ground(), QGuiApplication::palette().color(QPalette::Window));
+
+    box.background = windowColor;
+    EXPECT_EQ(ground(), QGuiApplication::palette().color(QPalette::Disabled, QPalette::Base));
+    box.enabled = true;
+    EXPECT_EQ(ground(), plain);
+}
+
+TEST_F(TextBoxWidgetTest, ABoxThatIsSwitchedOffTakesNoKeys) {
+    box.enabled = false;
+    QTest::keyClick(edit, Qt::Key_7);
+
+    EXPECT_EQ(*box.text, "");
+    EXPECT_FALSE(edit->hasFocus());
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

@@ -26,7 +26,7 @@ class MenuItemActionTest : public testing::Test {
         }
         menu.name = "mnuView";
         menu.caption = "&View";
-        menu.items = items;
+        menu.items = {&items[0], &items[1], &items[2]};
         const Handler layout = form.window.layout;
         form.window.layout = [this, layout] {
             layout();
@@ -107,6 +107,18 @@ TEST_F(MenuItemActionTest, ASeparatorHasNoTextAndSaysNothing) {
     EXPECT_EQ(entries->child(0)->text(QAccessible::Name), QStringLiteral("Date Ascending"));
     EXPECT_EQ(entries->child(1)->role(), QAccessible::Separator);
     EXPECT_EQ(entries->child(1)->text(QAccessible::Name), QString());
+}
+
+TEST_F(MenuItemActionTest, AnEntryThatIsSwitchedOffCannotBeChosen) {
+    EXPECT_TRUE(Action(0)->isEnabled());
+    items[0].enabled = false;
+    EXPECT_FALSE(Action(0)->isEnabled());
+    Action(0)->trigger();
+    EXPECT_TRUE(clicks.empty());
+
+    items[0].enabled = true;
+    Action(0)->trigger();
+    EXPECT_EQ(clicks, std::vector<int>{0});
 }
 
 }  // namespace

@@ -296,6 +296,33 @@ TEST_F(WindowWidgetTest, ALateReportOfTheDesktopDoesNotActivateTheWindowBehindAM
     EXPECT_EQ(activations, 1) << "when the modal window has closed";
 }
 
+TEST_F(WindowWidgetTest, AModalWindowThatClosesBeforeTheDesktopHasMadeItActiveLeavesTheFocusToTheOneBehind) {
+    form.Show();
+    int activations = 0;
+    form.window.activate = [&] { ++activations; };
+    support::TestWindow dialog({});
+    dialog.window.activate = [&] { dialog.window.Unload(); };
+    dialog.window.ShowModal();
+    QTest::qWait(20);  // what the desktop still has to report
+
+    EXPECT_TRUE(form.Widget()->isActiveWindow());
+    EXPECT_EQ(activations, 1);
+}
+
+TEST_F(WindowWidgetTest, AWindowThatClosesAfterLosingTheFocusTakesItFromNobody) {
+    form.Show();
+    QWidget stranger;
+    {
+        TestWindow other{};
+        other.Show();
+        stranger.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&stranger));
+    }
+    QTest::qWait(20);
+
+    EXPECT_TRUE(stranger.isActiveWindow());
+}
+
 TEST_F(WindowWidgetTest, AModalWindowHasItsOwnTitleAndACloseBoxOnly) {
     form.Show();
     support::TestWindow dialog({});
@@ -389,6 +416,133 @@ TEST_F(WindowWidgetTest, AControlBroughtToTheFrontCoversItsSiblings) {
     upper.BringToFront();
 
     EXPECT_EQ(other.Find("clientArea")->childAt(250, 70), other.Find("picUpper"));
+}
+
+TEST_F(WindowWidgetTest, ItsStateIsReadAndSet) {
+    form.Show();
+    EXPECT_EQ(form.window.State(), WindowState::Normal);
+    form.window.SetState(WindowState::Minimised);
+    EXPECT_TRUE(form.Widget()->isMinimized());
+    EXPECT_EQ(form.window.State(), WindowState::Minimised);
+    form.window.SetState(WindowState::Maximised);
+    EXPECT_TRUE(form.Widget()->isMaximized());
+    EXPECT_FALSE(form.Widget()->isMinimized());
+    EXPECT_EQ(form.window.State(), WindowState::Maximised);
+    form.window.SetState(WindowState::Normal);
+    EXPECT_FALSE(form.Widget()->isMaximized());
+}
+
+TEST_F(WindowWidgetTest, AStateThatTheUserChoseIsReadWhenTheResizeIsReported) {
+    form.Show();
+    std::vector<WindowState> states;
+    form.window.resize = [&] { states.push_back(form.window.State()); };
+    form.Widget()->showMaximized();
+    Settle();
+
+    ASSERT_FALSE(states.empty());
+    EXPECT_EQ(states.back(), WindowState::Maximised);
+}
+
+TEST_F(WindowWidgetTest, AMaximisedWindowKeepsItsSizeWhenItsTitleChanges) {
+    form.Show();
+    form.Widget()->showMaximized();
+    Settle();
+    const QSize size = form.Widget()->size();
+    form.window.title = "Other";
+    Settle();
+
+    EXPECT_EQ(form.Widget()->size(), size);
+    EXPECT_TRUE(form.Widget()->isMaximized());
+}
+
+TEST_F(WindowWidgetTest, OpensAtThePlaceThatItWasGivenBeforeItWasLoaded) {
+    form.window.MoveTo(1500, 750);
+    form.Show();
+
+    EXPECT_EQ(form.Widget()->pos(), QPoint(100, 50));
+    EXPECT_EQ(form.window.Left(), 1500);
+    EXPECT_EQ(form.window.Top(), 750);
+}
+
+TEST_F(WindowWidgetTest, AWindowThatIsSwitchedOffTakesNothingAndDoesNotClose) {
+    int clicks = 0;
+    button.click = [&] { ++clicks; };
+    form.Show();
+    form.window.enabled = false;
+    ClickButton();
+    form.Widget()->close();
+    Settle();
+    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(form.window.IsLoaded());
+
+    form.window.enabled = true;
+    ClickButton();
+    EXPECT_EQ(clicks, 1);
+    form.Widget()->close();
+    EXPECT_FALSE(form.window.IsLoaded());
+}
+
+TEST_F(WindowWidgetTest, LosingTheFocusIsReportedToWhateverWindowItGoes) {
+    int losses = 0;
+    form.window.deactivate = [&] { ++losses; };
+    form.Show();
+    EXPECT_EQ(losses, 0);
+    QWidget stranger;
+    stranger.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&stranger));
+
+    EXPECT_EQ(losses, 1);
+}
+
+TEST_F(WindowWidgetTest, AWindowMayCloseAsItLosesTheFocusAndItsClosingIsNoLoss) {
+    TestWindow other{};
+    other.Show();
+    int losses = 0;
+    form.window.deactivate = [&] {
+        ++losses;
+        form.window.Unload();
+    };
+    form.Show();
+    other.Widget()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(other.Widget()));
+    Settle();
+
+    EXPECT_FALSE(form.window.IsLoaded());
+    EXPECT_EQ(losses, 1);
+    EXPECT_TRUE(other.Widget()->isActiveWindow());
+}
+
+TEST_F(WindowWidgetTest, AWindowOfFixedSizeIsResizedByTheProgramAlone) {
+    form.window.fixedSize = true;
+    form.Show();
+    DragTo(500, 400);
+    EXPECT_EQ(form.Find("clientArea")->size(), QSize(400, 300));
+    EXPECT_FALSE(form.Widget()->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(form.Widget()->windowFlags().testFlag(Qt::WindowCloseButtonHint));
+
+    form.window.Resize(7620, 6810);
+    Settle();
+    EXPECT_EQ(form.Find("clientArea")->size(), QSize(500, 400));
+    DragTo(400, 300);
+    EXPECT_EQ(form.Find("clientArea")->size(), QSize(500, 400));
+}
+
+TEST_F(WindowWidgetTest, AWindowIsNotDraggedBeyondItsLimits) {
+    form.window.smallestSize = {4620, 3810};
+    form.window.largestSize = {6120, 5310};
+    form.Show();
+    DragTo(500, 400);
+    EXPECT_EQ(form.Find("clientArea")->size(), QSize(400, 300));
+    DragTo(350, 250);
+    EXPECT_EQ(form.Find("clientArea")->size(), QSize(350, 250));
+    DragTo(100, 100);
+    EXPECT_EQ(form.Find("clientArea")->size(), QSize(300, 200));
+}
+
+TEST_F(WindowWidgetTest, AWindowThatIsNotOfFixedSizeCanBeMaximised) {
+    form.Show();
+
+    EXPECT_TRUE(form.Widget()->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
 }
 
 }  // namespace
