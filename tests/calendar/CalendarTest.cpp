@@ -5,8 +5,7 @@
 #include "platform/Services.h"
 #include "platform/controls/Grid.h"
 #include "state/AppState.h"
-#include "support/CalendarReset.h"
-#include "support/MainFormReset.h"
+#include "support/FreshStart.h"
 #include "support/MessageScript.h"
 #include "support/qt/RunningProgram.h"
 #include "support/qt/TestWindow.h"
@@ -38,9 +37,7 @@ CalendarForm& form = ahcCalendar;
 class Calendar : public testing::Test {
   protected:
     Calendar() {
-        support::ResetMainForm();
-        support::ResetCalendar();
-        form.window.controls.clear();
+        LayOutMainForm();
         WireCalendar();
         platform::services.today = [] { return year{2004} / 2 / 14; };
         platform::services.firstDayOfWeek = [] { return std::chrono::Sunday; };
@@ -54,10 +51,8 @@ class Calendar : public testing::Test {
     }
 
     ~Calendar() override {
-        support::ResetCalendar();
-        form.window.controls.clear();
+        support::CloseForms();
         Settle();
-        platform::services = before;
     }
 
     /// Opens the calendar on a date, acts in it, and closes it if it is still open then.
@@ -118,7 +113,6 @@ class Calendar : public testing::Test {
     bool openAfterwards = false;
 
   private:
-    const platform::Services before = platform::services;
 };
 
 using QuirkCalendarLine1 = Calendar;

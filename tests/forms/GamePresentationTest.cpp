@@ -2,8 +2,8 @@
 
 #include "forms/MainForm.h"
 #include "state/AppState.h"
+#include "support/FreshStart.h"
 #include "support/IdleGridView.h"
-#include "support/MainFormReset.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 class GamePresentation : public testing::Test {
   protected:
-    void SetUp() override { support::ResetMainForm(); }
+    void SetUp() override { LayOutMainForm(); }
 
     static void Play(int gameType, int mainPickCount, int bonusPickCount) {
         appState.gameType = static_cast<std::int16_t>(gameType);
@@ -185,7 +185,7 @@ TEST_F(GamePresentation, ThePicksOfANumberGameAreOpenSixColumnsWideAndMarked) {
 
 TEST_F(GamePresentation, TheOptionsOfTheHotTableShowInAGameWithBonusWithAllChosen) {
     for (const int gameType : {1, 2, 4, 5}) {
-        support::ResetMainForm();
+        support::LayOutAfresh();
         Play(gameType, 5, 1);
         frmMainForm.optHot[0].Choose();
         ArrangeHotOptions();
@@ -197,7 +197,7 @@ TEST_F(GamePresentation, TheOptionsOfTheHotTableShowInAGameWithBonusWithAllChose
 
 TEST_F(GamePresentation, TheOptionsOfTheHotTableAreHiddenInAGameWithoutBonus) {
     for (const int gameType : {0, 3}) {
-        support::ResetMainForm();
+        support::LayOutAfresh();
         Play(gameType, 5, 0);
         ArrangeHotOptions();
         EXPECT_FALSE(frmMainForm.optHot[0].visible || frmMainForm.optHot[1].visible || frmMainForm.optHot[2].visible);

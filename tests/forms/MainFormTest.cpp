@@ -1,7 +1,5 @@
 #include "forms/MainForm.h"
 
-#include "support/MainFormReset.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -24,7 +22,7 @@ using platform::Bounds;
 
 class TheMainForm : public testing::Test {
   protected:
-    void SetUp() override { support::ResetMainForm(); }
+    void SetUp() override { LayOutMainForm(); }
 
     [[nodiscard]] static const platform::Control* Find(const std::string& name) {
         const auto& controls = frmMainForm.window.controls;

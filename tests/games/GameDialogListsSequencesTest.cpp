@@ -1,9 +1,9 @@
+#include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
 #include "forms/SelectorLists.h"
 #include "history/GameSwitch.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
-#include "support/MainFormReset.h"
 #include "support/RulesDialog.h"
 
 #include <gtest/gtest.h>
@@ -40,11 +40,7 @@ std::string Words(const std::vector<Choice>& choices) {
 /// No sequence of choices may end the program, and each leads to a game that can be shown.
 class ChoicesInTheGameDialog : public support::RulesDialog {
   protected:
-    ChoicesInTheGameDialog() {
-        support::ResetMainForm();
-        appState.programDirectory = directory.Path();
-    }
-    ~ChoicesInTheGameDialog() override { support::ResetMainForm(); }
+    ChoicesInTheGameDialog() { LayOutMainForm(); }
 
     /// The dialog on a slot that nothing has been set up in, with a kind of game chosen.
     void OpenWithKind(int kind) {

@@ -4,7 +4,6 @@
 #include "platform/files/FileSystem.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
-#include "support/MainFormReset.h"
 #include "support/PointerKeeper.h"
 #include "support/RecordBytes.h"
 #include "support/RulesDialog.h"

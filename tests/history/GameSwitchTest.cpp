@@ -10,7 +10,6 @@
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "support/Games.h"
-#include "support/MainFormReset.h"
 #include "support/MessageScript.h"
 #include "support/PointerKeeper.h"
 #include "support/TemporaryDirectory.h"
@@ -31,7 +30,7 @@ using platform::BoxIcon;
 class SwitchingGames : public testing::Test {
   protected:
     void SetUp() override {
-        support::ResetMainForm();
+        LayOutMainForm();
         appState.programDirectory = directory.Path();
         frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
         frmMainForm.grdHot.cellText = platform::ByRowAndColumn(HotCellValue);

@@ -3,7 +3,7 @@
 #include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "state/AppState.h"
-#include "support/MainFormReset.h"
+#include "support/FreshStart.h"
 #include "support/MainScreen.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ int DateOfRow(int row) {
 
 /// An empty program with a history of `draws` draws of two picks, whose first pick names their row.
 void SetUpHistory(int draws) {
-    support::ResetMainForm();
+    support::LayOutAfresh();
     appState.totalPicks = 2;
     appState.historySetSize = 10;
     appState.HistoryTable = Table(3, historyRows);

@@ -7,7 +7,7 @@
 #include "platform/files/FileSystem.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
-#include "support/MainFormReset.h"
+#include "support/FreshStart.h"
 #include "support/MessageScript.h"
 #include "support/TemporaryDirectory.h"
 
@@ -28,22 +28,13 @@ using platform::services;
 class MainWindow : public testing::Test {
   protected:
     void SetUp() override {
-        support::ResetMainForm();
-        frmMainForm.window.controls.clear();
-        frmMainForm.window.menus.clear();
-        frmMainForm.window.timers.clear();
-        services = platform::Services{};
         services.executableDirectory = [this] { return directory.Path(); };
         services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
         WireMainWindow();
         frmMainForm.window.Load();
     }
 
-    void TearDown() override {
-        platform::fileSystem = platform::SystemFiles();
-        services = platform::Services{};
-        support::ResetMainForm();
-    }
+    void TearDown() override { support::CloseForms(); }
 
     void Activate(BoxAnswer setUpNow) {
         support::MessageScript boxes;

@@ -8,7 +8,6 @@
 #include "platform/files/FileSystem.h"
 #include "platform/files/Paths.h"
 #include "state/AppState.h"
-#include "support/MainFormReset.h"
 #include "support/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
@@ -28,12 +27,7 @@ using platform::services;
 class Starting : public testing::Test {
   protected:
     void SetUp() override {
-        support::ResetMainForm();
         appState = AppState{};
-        frmMainForm.window.controls.clear();
-        frmMainForm.window.menus.clear();
-        frmMainForm.window.timers.clear();
-        services = platform::Services{};
         services.executableDirectory = [this] { return directory.Path(); };
         services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
         services.showMessageBox = [this](const platform::MessageBoxRequest& request) {
@@ -43,21 +37,9 @@ class Starting : public testing::Test {
         platform::toolkit = nullptr;
     }
 
-    void TearDown() override {
-        platform::toolkit = runningToolkit;
-        services = platform::Services{};
-        platform::closeDownNotices = {};
-        platform::fileSystem = platform::SystemFiles();
-        platform::SetApplicationTitle("Ballhaven");
-        support::ResetMainForm();
-    }
-
     support::TemporaryDirectory directory;
     std::vector<int> exitCodes;
     std::vector<platform::MessageBoxRequest> boxes;
-
-  private:
-    platform::Toolkit* const runningToolkit = platform::toolkit;
 };
 
 TEST_F(Starting, ASecondStartActivatesTheFirstInstanceAndTouchesNoFile) {

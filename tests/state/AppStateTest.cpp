@@ -98,16 +98,12 @@ TEST(KindsOfGame, TheFirstNumberGameAndTheFirstCardGameHaveNoBonus) {
 }
 
 TEST(HotTables, AreMarkedStaleAllButHotNumbers) {
-    const AppState before = appState;
-    appState = AppState{};
-
     MarkHotTablesStale();
 
     EXPECT_TRUE(appState.hotPairStale);
     EXPECT_TRUE(appState.pairedOnceStale);
     EXPECT_TRUE(appState.repeaterStale);
     EXPECT_TRUE(appState.noHitterStale);
-    appState = before;
 }
 
 TEST(ChosenPicks, HaveRoomForAHundredInEachListBehindTheRowOfTheOption) {

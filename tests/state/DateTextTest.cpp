@@ -3,7 +3,6 @@
 #include "platform/Services.h"
 #include "state/AppState.h"
 #include "state/RuntimeFailure.h"
-#include "support/Games.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -22,9 +21,6 @@ using namespace std::chrono;
 constexpr sys_days dayZero{1984y / January / 1};
 
 struct DateText : public ::testing::Test {
-    DateText() { support::ResetState(); }
-    ~DateText() override { support::ResetState(); }
-
     static std::string FileText(const std::string& pattern, std::string text) {
         appState.shortDateFormat = pattern;
         DateToFileText(text);
@@ -246,8 +242,6 @@ TEST(ProbeShortDate, NormalisesWhatTheSystemsFolderHas) {
     EXPECT_EQ(ProbeShortDate(), "y-m-d");
     appState.windowsDirectory = "elsewhere/";
     EXPECT_EQ(ProbeShortDate(), "m/d/y");
-    platform::services = platform::Services();
-    support::ResetState();
 }
 
 }  // namespace

@@ -17,13 +17,7 @@ namespace {
 using support::BonusPool;
 using support::CardGame;
 using support::NumberGame;
-using support::ResetState;
 using support::SetUpGame;
-
-struct PickText : public ::testing::Test {
-    PickText() { ResetState(); }
-    ~PickText() override { ResetState(); }
-};
 
 struct NamedCard {
     int value;
@@ -45,19 +39,19 @@ std::vector<std::string> CellTexts(int first, int last) {
 
 const std::vector<std::string> bonusLetters = {"B", "O", "N", "U", "S"};
 
-TEST_F(PickText, ACardIsItsRankAndTheLetterOfItsSuit) {
+TEST(PickText, ACardIsItsRankAndTheLetterOfItsSuit) {
     for (const NamedCard& card : namedCards) {
         EXPECT_EQ(CardToText(card.value), card.text) << card.value;
     }
 }
 
-TEST_F(PickText, AValueThatIsNoCardHasNoText) {
+TEST(PickText, AValueThatIsNoCardHasNoText) {
     EXPECT_EQ(CardToText(0), "");
     EXPECT_EQ(CardToText(-1), "");
     EXPECT_EQ(CardToText(53), "");
 }
 
-TEST_F(PickText, ACardsTextIsReadAndNormalised) {
+TEST(PickText, ACardsTextIsReadAndNormalised) {
     std::string text = "kd";
     EXPECT_EQ(TextToCard(text), 39);
     EXPECT_EQ(text, "Kd");
@@ -66,7 +60,7 @@ TEST_F(PickText, ACardsTextIsReadAndNormalised) {
     EXPECT_EQ(text, "10s");
 }
 
-TEST_F(PickText, RankLettersAreReadInEitherCase) {
+TEST(PickText, RankLettersAreReadInEitherCase) {
     const std::array<NamedCard, 8> cards = {
         {{1, "ah"}, {1, "AH"}, {11, "jh"}, {11, "JH"}, {12, "qH"}, {12, "Qh"}, {13, "kH"}, {13, "KH"}}};
     for (NamedCard card : cards) {
@@ -75,7 +69,7 @@ TEST_F(PickText, RankLettersAreReadInEitherCase) {
     }
 }
 
-TEST_F(PickText, TheRankOfACardIsNotChecked) {
+TEST(PickText, TheRankOfACardIsNotChecked) {
     std::string text = "14h";
     EXPECT_EQ(TextToCard(text), 14);
     EXPECT_EQ(text, "14h");
@@ -83,7 +77,7 @@ TEST_F(PickText, TheRankOfACardIsNotChecked) {
     EXPECT_EQ(TextToCard(text), 138);
 }
 
-TEST_F(PickText, ATextWithoutASuitIsThirteenBelowItsRank) {
+TEST(PickText, ATextWithoutASuitIsThirteenBelowItsRank) {
     for (const auto& [value, text] : {NamedCard{-3, "10"}, {0, "13"}, {0, "K"}, {2, "15"}, {-13, "x"}, {-12, "A"}}) {
         std::string copy = text;
         EXPECT_EQ(TextToCard(copy), value) << text;
@@ -91,24 +85,24 @@ TEST_F(PickText, ATextWithoutASuitIsThirteenBelowItsRank) {
     }
 }
 
-TEST_F(PickText, ASuitAloneIsTheCardBelowItsAce) {
+TEST(PickText, ASuitAloneIsTheCardBelowItsAce) {
     std::string text = "D";
     EXPECT_EQ(TextToCard(text), 26);
     EXPECT_EQ(text, "d");
 }
 
-TEST_F(PickText, AnEmptyTextIsNeitherRankNorSuit) {
+TEST(PickText, AnEmptyTextIsNeitherRankNorSuit) {
     std::string text;
     EXPECT_EQ(TextToCard(text), -13);
     EXPECT_EQ(text, "");
 }
 
-TEST_F(PickText, ARankBeyond16BitsIsAnOverflow) {
+TEST(PickText, ARankBeyond16BitsIsAnOverflow) {
     std::string text = "32768h";
     EXPECT_THROW((void)TextToCard(text), RuntimeFailure);
 }
 
-TEST_F(PickText, EveryCardSurvivesItsText) {
+TEST(PickText, EveryCardSurvivesItsText) {
     for (int card = 1; card <= 52; ++card) {
         std::string text = CardToText(card);
         const std::string before = text;
@@ -117,7 +111,7 @@ TEST_F(PickText, EveryCardSurvivesItsText) {
     }
 }
 
-RC_GTEST_FIXTURE_PROP(PickText, ANormalisedTextStaysAsItIs, (std::string text)) {
+RC_GTEST_PROP(PickText, ANormalisedTextStaysAsItIs, (std::string text)) {
     RC_PRE(text.find_first_of("0123456789") == std::string::npos || text.size() < 4U);
     const int value = TextToCard(text);
     const std::string normalised = text;
@@ -130,7 +124,7 @@ TEST(PickToText, TellsACardOnlyInAKindOfGameThatIsPlayedWithCards) {
     EXPECT_EQ(PickToText(36, 3), "10d");
 }
 
-TEST_F(PickText, APickIsDigitsInANumberGameAndACardInACardGame) {
+TEST(PickText, APickIsDigitsInANumberGameAndACardInACardGame) {
     SetUpGame(NumberGame());
     EXPECT_EQ(PickToText(0), "0");
     EXPECT_EQ(PickToText(36), "36");
@@ -139,14 +133,14 @@ TEST_F(PickText, APickIsDigitsInANumberGameAndACardInACardGame) {
     EXPECT_EQ(PickToText(0), "");
 }
 
-TEST_F(PickText, ANumberBoardShowsTheRangeOnceWhenNumbersCannotRepeat) {
+TEST(PickText, ANumberBoardShowsTheRangeOnceWhenNumbersCannotRepeat) {
     SetUpGame(NumberGame().Picks(6).From(1).To(49));
     EXPECT_EQ(PickCellText(0), "1");
     EXPECT_EQ(PickCellText(48), "49");
     EXPECT_EQ(PickCellText(49), "");
 }
 
-TEST_F(PickText, ABoardFromZeroRepeatsTheRangeForEachPickWhenNumbersCanRepeat) {
+TEST(PickText, ABoardFromZeroRepeatsTheRangeForEachPickWhenNumbersCanRepeat) {
     SetUpGame(NumberGame().Picks(3).From(0).To(9).WithDuplicates());
     EXPECT_EQ(PickCellText(0), "0");
     EXPECT_EQ(PickCellText(9), "9");
@@ -155,7 +149,7 @@ TEST_F(PickText, ABoardFromZeroRepeatsTheRangeForEachPickWhenNumbersCanRepeat) {
     EXPECT_EQ(PickCellText(30), "");
 }
 
-TEST_F(PickText, ABoardFromOneRepeatsTheRangeForEachPickWhenNumbersCanRepeat) {
+TEST(PickText, ABoardFromOneRepeatsTheRangeForEachPickWhenNumbersCanRepeat) {
     SetUpGame(NumberGame().Picks(4).From(1).To(6).WithDuplicates());
     EXPECT_EQ(PickCellText(5), "6");
     EXPECT_EQ(PickCellText(6), "1");
@@ -163,7 +157,7 @@ TEST_F(PickText, ABoardFromOneRepeatsTheRangeForEachPickWhenNumbersCanRepeat) {
     EXPECT_EQ(PickCellText(24), "");
 }
 
-TEST_F(PickText, ARepeatedBonusBlockHasARunForEachBonusPick) {
+TEST(PickText, ARepeatedBonusBlockHasARunForEachBonusPick) {
     SetUpGame(
         NumberGame().Picks(3).From(1).To(9).WithDuplicates().Bonus(2, BonusPool::Separate).BonusFrom(0).BonusTo(4));
     EXPECT_EQ(PickCellText(108), "0");
@@ -173,44 +167,44 @@ TEST_F(PickText, ARepeatedBonusBlockHasARunForEachBonusPick) {
     EXPECT_EQ(PickCellText(118), "");
 }
 
-TEST_F(PickText, ANumberGameWithoutABonusHasNoWordOnItsBoard) {
+TEST(PickText, ANumberGameWithoutABonusHasNoWordOnItsBoard) {
     SetUpGame(NumberGame().Picks(6).From(1).To(99));
     EXPECT_EQ(CellTexts(101, 105), std::vector<std::string>(5));
 }
 
-TEST_F(PickText, ANumberGameWithABonusSpellsTheWordInFrontOfItsBonusBlock) {
+TEST(PickText, ANumberGameWithABonusSpellsTheWordInFrontOfItsBonusBlock) {
     SetUpGame(NumberGame().Picks(6).Bonus(1, BonusPool::Same));
     EXPECT_EQ(CellTexts(101, 105), bonusLetters);
     EXPECT_EQ(PickCellText(106), "");
     EXPECT_EQ(PickCellText(107), "");
 }
 
-TEST_F(PickText, TheBonusBlockBeginsInCell108WithItsOwnLimits) {
+TEST(PickText, TheBonusBlockBeginsInCell108WithItsOwnLimits) {
     SetUpGame(NumberGame().Picks(5).Bonus(1, BonusPool::Separate).BonusFrom(0).BonusTo(26));
     EXPECT_EQ(PickCellText(108), "0");
     EXPECT_EQ(PickCellText(134), "26");
     EXPECT_EQ(PickCellText(135), "");
 }
 
-TEST_F(PickText, TheMainBlockEndsWithCell100) {
+TEST(PickText, TheMainBlockEndsWithCell100) {
     SetUpGame(NumberGame().Picks(1).From(0).To(105));
     EXPECT_EQ(PickCellText(100), "100");
     EXPECT_EQ(PickCellText(101), "");
 }
 
-TEST_F(PickText, ACellInFrontOfTheBoardIsEmpty) {
+TEST(PickText, ACellInFrontOfTheBoardIsEmpty) {
     SetUpGame(NumberGame().From(1).To(49));
     EXPECT_EQ(PickCellText(-1), "");
     SetUpGame(CardGame());
     EXPECT_EQ(PickCellText(-1), "");
 }
 
-TEST_F(PickText, ARangeOfNothingIsEmptyEvenWhenNumbersCanRepeat) {
+TEST(PickText, ARangeOfNothingIsEmptyEvenWhenNumbersCanRepeat) {
     SetUpGame(NumberGame().Picks(3).From(1).To(0).WithDuplicates());
     EXPECT_EQ(PickCellText(0), "");
 }
 
-TEST_F(PickText, ACardBoardNumbersItsCards) {
+TEST(PickText, ACardBoardNumbersItsCards) {
     SetUpGame(CardGame());
     EXPECT_EQ(PickCellText(0), "1");
     EXPECT_EQ(PickCellText(51), "52");
@@ -218,12 +212,12 @@ TEST_F(PickText, ACardBoardNumbersItsCards) {
     EXPECT_EQ(PickCellText(65), "");
 }
 
-TEST_F(PickText, ACardGameWithoutABonusHasNoWordOnItsBoard) {
+TEST(PickText, ACardGameWithoutABonusHasNoWordOnItsBoard) {
     SetUpGame(CardGame());
     EXPECT_EQ(CellTexts(66, 70), std::vector<std::string>(5));
 }
 
-TEST_F(PickText, ACardGameWithABonusSpellsTheWordInFrontOfItsBonusCards) {
+TEST(PickText, ACardGameWithABonusSpellsTheWordInFrontOfItsBonusCards) {
     for (const BonusPool pool : {BonusPool::Same, BonusPool::Separate}) {
         SetUpGame(CardGame().Bonus(1, pool));
         EXPECT_EQ(CellTexts(66, 70), bonusLetters);
@@ -231,7 +225,7 @@ TEST_F(PickText, ACardGameWithABonusSpellsTheWordInFrontOfItsBonusCards) {
     }
 }
 
-TEST_F(PickText, TheBonusCardsBeginInCell72) {
+TEST(PickText, TheBonusCardsBeginInCell72) {
     SetUpGame(CardGame().Bonus(1, BonusPool::Same));
     EXPECT_EQ(PickCellText(72), "1");
     EXPECT_EQ(PickCellText(123), "52");

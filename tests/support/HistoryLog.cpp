@@ -3,11 +3,12 @@
 #include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
+#include "platform/Services.h"
 #include "platform/files/FileSystem.h"
 #include "screen/LogCells.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
-#include "support/MainFormReset.h"
+#include "support/FreshStart.h"
 
 #include <map>
 
@@ -50,22 +51,16 @@ std::vector<Draw> DailyDraws(int count) {
     return draws;
 }
 
-HistoryLogTest::HistoryLogTest() : servicesBefore(platform::services) {
+HistoryLogTest::HistoryLogTest() {
     platform::services.today = [] { return std::chrono::year{1990} / std::chrono::March / 5; };
     platform::fileSystem.flush = [](int) { return 0; };  // waiting for the disk takes most of the time
     StartAgain();
 }
 
 void HistoryLogTest::StartAgain() const {
-    ResetMainForm();
+    LayOutAfresh();
     appState.programDirectory = directory.Path();
     frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
-}
-
-HistoryLogTest::~HistoryLogTest() {
-    platform::services.today = servicesBefore.today;
-    platform::fileSystem = platform::SystemFiles();
-    ResetMainForm();
 }
 
 void HistoryLogTest::ShowLog(const Game& game, const std::vector<Draw>& draws) const {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Services.h"
 #include "support/Games.h"
 #include "support/MessageScript.h"
 #include "support/RecordBytes.h"
@@ -26,7 +25,6 @@ extern const RecordFormat historyFileFormat;
 class HistoryLogTest : public ::testing::Test {
   protected:
     HistoryLogTest();
-    ~HistoryLogTest() override;
 
     /// Puts the program back to its start, before a game is current; the files stay.
     void StartAgain() const;
@@ -49,9 +47,6 @@ class HistoryLogTest : public ::testing::Test {
 
     TemporaryDirectory directory;
     MessageScript boxes;
-
-  private:
-    const platform::Services servicesBefore;
 };
 
 }  // namespace ballhaven::support

@@ -3,12 +3,12 @@
 #include "forms/MainForm.h"
 #include "history/GameSwitch.h"
 #include "state/AppState.h"
-#include "support/MainFormReset.h"
+#include "support/FreshStart.h"
 
 namespace ballhaven::support {
 
 void StartWith(const Game& game) {
-    ResetMainForm();
+    LayOutAfresh();
     SetUpGame(game);
     frmMainForm.logLastColumn = appState.totalPicks;
 }

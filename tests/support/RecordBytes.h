@@ -43,14 +43,10 @@ struct RecordFormat {
 /// The text with others put over its columns, counted from 1.
 [[nodiscard]] std::string WithColumns(std::string text, const std::map<int, std::string>& columns);
 
-/// Tests in a program directory of their own, with `appState` as it is when the process starts.
+/// Tests in a program directory of their own.
 class DataFileTest : public ::testing::Test {
   protected:
-    DataFileTest() {
-        ResetState();
-        appState.programDirectory = directory.Path();
-    }
-    ~DataFileTest() override { ResetState(); }
+    DataFileTest() { appState.programDirectory = directory.Path(); }
 
     TemporaryDirectory directory;
 };

@@ -5,18 +5,12 @@
 #include "state/GameTable.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace ballhaven::support {
 
 namespace {
 
 constexpr int gameRecordBytes = 64;
-
-void ForgetDialog() {
-    std::destroy_at(&frmNewGame);
-    std::construct_at(&frmNewGame);
-}
 
 void OnChange(GameList list, void (*change)()) {
     ListOf(list).change = [change] {
@@ -51,17 +45,11 @@ std::string SavedRecord() {
 
 RulesDialog::RulesDialog() {
     platform::fileSystem.flush = [](int) { return 0; };  // waiting for the disk takes most of the time
-    ForgetDialog();
     OnChange(gameTypeList, ChangeGameType);
     OnChange(mainCountList, ChangeMainCount);
     OnChange(bonusCountList, ChangeBonusCount);
     OnChange(duplicatesList, RefreshHighestLists);
     OnChange(mainLowList, RefreshHighestLists);
-}
-
-RulesDialog::~RulesDialog() {
-    ForgetDialog();
-    platform::fileSystem = platform::SystemFiles();
 }
 
 void RulesDialog::Open(const std::string& record) {

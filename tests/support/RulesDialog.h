@@ -27,7 +27,6 @@ std::string SavedRecord();
 class RulesDialog : public DataFileTest {
   protected:
     RulesDialog();
-    ~RulesDialog() override;
 
     /// Puts a record into slot 1, makes that slot the current one, and opens the dialog on it.
     void Open(const std::string& record);

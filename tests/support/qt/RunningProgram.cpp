@@ -13,7 +13,7 @@
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
-#include "support/MainFormReset.h"
+#include "support/FreshStart.h"
 #include "support/qt/TestWindow.h"
 
 #include <QAbstractItemView>
@@ -26,7 +26,6 @@
 
 #include <cstdlib>
 #include <exception>
-#include <memory>
 #include <utility>
 
 namespace ballhaven::support {
@@ -37,22 +36,6 @@ constexpr int twipsPerPixel = 15;
 constexpr int gameRecordBytes = 64;
 constexpr int almost = 100;              // of a colour's 255 parts: thin letters are drawn paler
 constexpr int modalWindowInterval = 50;  // milliseconds
-
-/// The main window as it is when the process starts, not laid out.
-void ForgetMainForm() {
-    ResetMainForm();
-    frmMainForm.window.controls.clear();
-    frmMainForm.window.menus.clear();
-    frmMainForm.window.timers.clear();
-}
-
-/// The game dialog as it is when the process starts.
-void ForgetNewGameForm() {
-    frmNewGame.window.unload = nullptr;
-    frmNewGame.window.Unload();
-    std::destroy_at(&frmNewGame);
-    std::construct_at(&frmNewGame);
-}
 
 void PressWindow(const QWidget& widget, QPoint place) {
     QWidget* const window = widget.window();
@@ -76,15 +59,11 @@ std::string GameRecordOf(const StoredGame& game) {
 
 }  // namespace
 
-RunningProgram::RunningProgram() : servicesBefore(platform::services) {
-    ForgetMainForm();
-    ForgetNewGameForm();
+RunningProgram::RunningProgram() {
     appState.programDirectory = directory.Path();
     platform::services.endProcess = [this](int exitCode) { exitCodes.push_back(exitCode); };
     platform::services.executableDirectory = [this] { return directory.Path(); };
-    platform::services.systemDirectory = [] { return std::string(); };
     platform::services.shortDatePattern = [](const std::string&) { return std::string("M/d/yyyy"); };
-    platform::services.earlierInstanceRuns = [] { return false; };
     platform::fileSystem.flush = [](int) { return 0; };  // waiting for the disk takes most of the time
     QObject::connect(&modalWindows, &QTimer::timeout, [this] { ServeModalWindow(); });
     modalWindows.start(modalWindowInterval);
@@ -93,15 +72,8 @@ RunningProgram::RunningProgram() : servicesBefore(platform::services) {
 RunningProgram::~RunningProgram() {
     EXPECT_TRUE(dialogActs.empty()) << "The game dialog did not open.";
     EXPECT_TRUE(calendarActs.empty()) << "The calendar did not open.";
-    ahcCalendar.Terminate();
-    ForgetNewGameForm();
-    frmMainForm.window.unload = nullptr;
-    frmMainForm.window.Unload();
+    CloseForms();
     Settle();
-    ForgetMainForm();
-    ResetState();
-    platform::services = servicesBefore;
-    platform::fileSystem = platform::SystemFiles();
 }
 
 void RunningProgram::Store(const StoredGame& game) const {

@@ -152,7 +152,6 @@ class RunningProgram : public ::testing::Test {
     [[nodiscard]] QTableView& PaneOf(const char* grid, int column, int& columnInPane) const;
     [[nodiscard]] QImage CellImage(const char* grid, int row, int column) const;
 
-    const platform::Services servicesBefore;
     QTimer modalWindows;
     std::deque<std::function<void()>> dialogActs;
     std::deque<std::function<void()>> calendarActs;
