@@ -103,7 +103,7 @@ class Calendar : public testing::Test {
     }
     static QPoint MiddleOf(int cell) { return Middle((cell - 1) / 7, (cell - 1) % 7); }
 
-    static void ExpectFocusRects(std::vector<platform::PixelRect> expected) {
+    static void ExpectFocusRects(const std::vector<platform::PixelRect>& expected) {
         EXPECT_EQ(form.surface.FocusRects(), expected);
     }
 
