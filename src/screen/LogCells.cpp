@@ -76,8 +76,7 @@ std::optional<std::string> LogCellValue(int row, int column) {
     if (*cell == blankPick) {
         return std::string();
     }
-    return column == dateColumn ? TextOfSerial(*cell, appState.shortDateFormat)
-                                : PickToText(*cell, appState.gameType);
+    return column == dateColumn ? TextOfSerial(*cell, appState.shortDateFormat) : PickToText(*cell, appState.gameType);
 }
 
 void LogCellStyle(int row, int column, platform::CellStyle& style) {

@@ -1,7 +1,5 @@
 #include "forms/CalendarForm.h"
 
-#include "support/CalendarReset.h"
-
 #include <gtest/gtest.h>
 
 namespace ballhaven {
@@ -12,8 +10,7 @@ using std::chrono::year;
 
 class TheCalendarForm : public testing::Test {
   protected:
-    void SetUp() override { support::ResetCalendar(); }
-    void TearDown() override { support::ResetCalendar(); }
+    void SetUp() override { LayOutCalendar(); }
 };
 
 TEST_F(TheCalendarForm, HasItsTwoButtonsUnderTheRuleBelowTheDays) {

@@ -5,6 +5,7 @@
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
 #include "platform/MessageBox.h"
+#include "platform/Services.h"
 #include "state/AppState.h"
 #include "state/RuntimeFailure.h"
 #include "support/qt/TypedLog.h"

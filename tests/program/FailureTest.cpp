@@ -154,7 +154,7 @@ TEST_F(FailuresOfTheProgram, AFailureInDrawingSavesTheDrawsAndTheWindowsBehindIt
     frmMainForm.grdHot.cellText = [](const platform::GridCell&) -> std::optional<std::string> {
         throw RuntimeFailure(RuntimeFailure::Kind::Overflow);
     };
-    CellText("grdHot", 0, 0);
+    static_cast<void>(CellText("grdHot", 0, 0));
     EXPECT_EQ(told, overflowInDrawing);
     EXPECT_EQ(behind, "2");
     EXPECT_FALSE(appState.historyDirty);

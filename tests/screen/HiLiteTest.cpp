@@ -1,7 +1,7 @@
 #include "screen/HiLite.h"
 
 #include "forms/MainForm.h"
-#include "support/MainFormReset.h"
+#include "support/FreshStart.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +39,7 @@ TEST(HiLiteBackground, TheTenBoxesHaveTheirColoursFromLeftToRight) {
 }
 
 TEST(HiLiteBackground, IsTheColourOfTheSwatchAboveTheBox) {
-    support::ResetMainForm();
+    support::LayOutAfresh();
     for (int box = 0; box < hiLiteBoxes; ++box) {
         EXPECT_EQ(HiLiteBackground(box), *frmMainForm.lblColor[static_cast<std::size_t>(box)].background) << box;
     }

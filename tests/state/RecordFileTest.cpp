@@ -1,5 +1,6 @@
 #include "state/RecordFile.h"
 
+#include "platform/Services.h"
 #include "platform/process/Signals.h"
 #include "state/RuntimeFailure.h"
 #include "support/ChildProcess.h"
@@ -50,8 +51,15 @@ std::string WithBlanks(const std::string& bytes, std::size_t begin, std::size_t 
     return cut + std::string(length - cut.size(), ' ');
 }
 
+/// A user who gives a save up when it has failed.
+void GiveFailedSavesUp() {
+    platform::services.showMessageBox = [](const platform::MessageBoxRequest&) { return platform::BoxAnswer::No; };
+}
+
 class RecordFileTest : public ::testing::Test {
   protected:
+    void SetUp() override { GiveFailedSavesUp(); }
+
     support::TemporaryDirectory directory;
     std::string path = directory / "DATA";
 };
@@ -250,6 +258,23 @@ TEST_F(RecordFileTest, AFailedCloseCanBeTakenAgain) {
     EXPECT_EQ(directory.Files(), (Files{{"DATA", "efgh"}}));
 }
 
+TEST_F(RecordFileTest, AFailedSaveIsTriedAgainForAsLongAsTheUserSaysSo) {
+    directory.Write("DATA", "abcd");
+    support::WatchedFiles watched;
+    watched.room = 2;
+    int asked = 0;
+    platform::services.showMessageBox = [&](const platform::MessageBoxRequest& request) {
+        EXPECT_TRUE(request.text.starts_with(FileError(path, "No space left on device"))) << request.text;
+        watched.room = ++asked == 3 ? 100 : 2;
+        return platform::BoxAnswer::Yes;
+    };
+    RecordFile file(path, 4, 3);
+    file.Write(1, "efgh");
+    file.Close();
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(directory.Files(), (Files{{"DATA", "efgh"}}));
+}
+
 // ---- The words of failures ----
 
 TEST_F(RecordFileTest, ADirectoryInTheFilesPlaceIsNamedWithTheReason) {
@@ -325,6 +350,8 @@ struct Format {
 /// A change of every record of a file, from one letter to another.
 class WholeSave : public ::testing::TestWithParam<Format> {
   protected:
+    void SetUp() override { GiveFailedSavesUp(); }
+
     /// Puts the old file into the directory, alone.
     void Restore() const {
         std::filesystem::remove(path + ".new");

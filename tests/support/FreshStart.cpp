@@ -4,6 +4,7 @@
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
 #include "platform/Application.h"
+#include "platform/CloseDown.h"
 #include "platform/Services.h"
 #include "platform/controls/Toolkit.h"
 #include "platform/files/FileSystem.h"
@@ -83,6 +84,7 @@ void StartAfresh() {
     ResetForms();
     ResetState();
     platform::services = ServicesOfATest();
+    platform::closeDownNotices = {};
     platform::fileSystem = platform::SystemFiles();
     platform::SetApplicationTitle("Ballhaven");
 }

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QIcon>
 #include <gtest/gtest.h>
 
 namespace ballhaven::platform {
@@ -15,7 +16,7 @@ TEST(QtApplication, SetsTheToolkitUpWithTheProgramsNameAndPictures) {
     EXPECT_NE(toolkit, nullptr);
     EXPECT_EQ(QApplication::applicationName(), QStringLiteral("Ballhaven"));
     EXPECT_EQ(QApplication::desktopFileName(), QStringLiteral("ballhaven"));
-    EXPECT_TRUE(QFile::exists(QStringLiteral(":/pictures/print.svg")));
+    EXPECT_TRUE(QFile::exists(QStringLiteral(":/pictures/1/print.png")));
     EXPECT_FALSE(QApplication::windowIcon().isNull());
 }
 
