@@ -1,4 +1,5 @@
-// ballhaven_floors DIR: prints the faults that the floors of the source tree in DIR have; 1 if there is one.
+// ballhaven_floors DIR: prints the faults that the floors of the source tree in DIR have, and the rooms without a file
+// of tests; 1 if there is one.
 
 #include "tools/FloorCheck.h"
 
@@ -9,7 +10,9 @@ int main(int argumentCount, char** arguments) {
         std::cerr << "usage: ballhaven_floors DIR\n";
         return 2;
     }
-    const auto faults = ballhaven::tools::FloorFaults(arguments[1]);
+    auto faults = ballhaven::tools::FloorFaults(arguments[1]);
+    const auto untested = ballhaven::tools::UntestedRooms(arguments[1]);
+    faults.insert(faults.end(), untested.begin(), untested.end());
     for (const std::string& fault : faults) {
         std::cout << fault << '\n';
     }

@@ -1,6 +1,7 @@
 #include "support/qt/GridOnScreen.h"
 
 #include "platform/Boxes.h"
+#include "platform/Services.h"
 
 #include <QApplication>
 #include <QTest>
@@ -67,7 +68,6 @@ GridOnScreen::GridOnScreen() : before(new QLineEdit(&window)), after(nullptr) {
 
 GridOnScreen::~GridOnScreen() {
     grid.view = nullptr;
-    platform::services = servicesBefore;
 }
 
 void GridOnScreen::ListenToMouse() {

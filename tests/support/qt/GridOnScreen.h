@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Services.h"
 #include "platform/controls/Grid.h"
 #include "platform/qt/grid/GridWidget.h"
 
@@ -67,8 +66,6 @@ class GridOnScreen {
     int highest = 49;
 
   private:
-    platform::Services servicesBefore = platform::services;
-
     void ListenToMouse();
     void ListenToEdits();
 };
