@@ -43,7 +43,7 @@ struct SelectedDay {
 
 /// The day of a cell. A day of the months beside brings its month on show, as it is on the day `today`; any other stays
 /// in the shown one. Raises the subscript failure for a cell before cell 0.
-[[nodiscard]] SelectedDay DayOfCell(const CalendarMonth& month, const AimedCell& cell,
+[[nodiscard]] SelectedDay DayOfCell(const CalendarMonth& month, const AimedCell& aimed,
                                     std::chrono::year_month_day today);
 
 }  // namespace ballhaven

@@ -116,7 +116,7 @@ GameQuestion AskBonusHigh(std::string& record, int type, const GameQuestion& mai
     const int limit = HighestNumberLimit(AllowsDuplicates(record), FieldValue(record, gameField::bonusPickCount),
                                          FieldValue(record, gameField::bonusLow));
     const int high = std::min<int>(FieldValue(record, gameField::bonusHigh), limit);
-    const GameQuestion question =
+    GameQuestion question =
         type == sameBonusPool ? Unasked(NumbersTo(limit), mainHigh.selected) : Question(NumbersTo(limit), high - 1);
     SetFieldValue(record, gameField::bonusHigh, question.selected + 1);
     return question;
