@@ -21,7 +21,6 @@ namespace {
 
 using support::Choose;
 using support::ChooseText;
-using support::Padded;
 using support::SavedRecord;
 using support::TypeName;
 using support::WithColumns;

@@ -22,7 +22,6 @@ namespace {
 using platform::BoxAnswer;
 using platform::BoxButtons;
 using platform::BoxIcon;
-using std::chrono::January;
 using std::chrono::March;
 using std::chrono::year;
 using support::DailyDraws;

@@ -25,7 +25,6 @@ using std::chrono::March;
 using std::chrono::year;
 using std::chrono::year_month_day;
 using support::DailyDraws;
-using support::Draw;
 using support::Game;
 using support::SerialOf;
 using Texts = std::vector<std::string>;

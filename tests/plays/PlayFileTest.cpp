@@ -15,7 +15,6 @@
 namespace ballhaven {
 namespace {
 
-using support::BonusPool;
 using support::DataFileTest;
 using support::NumberGame;
 using support::Padded;
