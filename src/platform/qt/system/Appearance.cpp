@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace ballhaven::platform {
 
@@ -61,6 +62,18 @@ QFont ProgramFont() {
     return font;
 }
 
+/// The program's own palette where a widget shows the same colours. The toolkit keeps the pictures that it draws of
+/// buttons and lists under the number of their palette, and each widget has one with a number of its own: without this
+/// every window that opens would leave its pictures behind.
+QPalette SharedPalette(const QPalette& ofWidget) {
+    QPalette shared = QGuiApplication::palette();
+    if (shared != ofWidget) {
+        return ofWidget;
+    }
+    shared.setCurrentColorGroup(ofWidget.currentColorGroup());
+    return shared;
+}
+
 constexpr int optionMark = 12;  // pixels: options stand 13 high
 
 /// Fusion with the habits and measures of classic windows.
@@ -80,6 +93,30 @@ class ClassicStyle : public PlainScrollBarStyle {
             default:
                 return PlainScrollBarStyle::styleHint(hint, option, widget, returned);
         }
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if (element == CE_PushButtonBevel && button != nullptr) {
+            QStyleOptionButton shared = *button;
+            shared.palette = SharedPalette(button->palette);
+            QProxyStyle::drawControl(element, &shared, painter, widget);
+            return;
+        }
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        const auto* const list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (control == CC_ComboBox && list != nullptr) {
+            QStyleOptionComboBox shared = *list;
+            shared.palette = SharedPalette(list->palette);
+            QProxyStyle::drawComplexControl(control, &shared, painter, widget);
+            return;
+        }
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {

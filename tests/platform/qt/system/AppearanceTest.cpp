@@ -1,9 +1,11 @@
 #include "platform/qt/system/Appearance.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFontInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPixmapCache>
 #include <QPushButton>
 #include <QStyle>
 #include <gtest/gtest.h>
@@ -40,6 +42,41 @@ TEST(Appearance, ThereIsOneBlack) {
          {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::ToolTipText}) {
         EXPECT_EQ(palette.color(QPalette::Active, role), QColor(0, 0, 0)) << role;
     }
+}
+
+/// Draws the widget in many windows, one after the other, and says whether a picture that was drawn before them is
+/// still kept: the toolkit keeps 64 KiB of them here.
+template <typename Widget>
+bool LeavesRoomForOtherPictures() {
+    const int limitBefore = QPixmapCache::cacheLimit();
+    QPixmapCache::clear();
+    QPixmapCache::setCacheLimit(64);
+    QPixmapCache::insert(QStringLiteral("drawn before"), QPixmap(8, 8));
+    for (int i = 0; i < 50; ++i) {
+        QWidget window;
+        Widget widget(&window);
+        widget.resize(60, 25);
+        widget.grab();
+    }
+    QPixmap found;
+    const bool isKept = QPixmapCache::find(QStringLiteral("drawn before"), &found);
+    QPixmapCache::setCacheLimit(limitBefore);
+    return isKept;
+}
+
+TEST(Appearance, WindowsThatOpenAndCloseLeaveNoPicturesOfTheirButtonsAndListsBehind) {
+    EXPECT_TRUE(LeavesRoomForOtherPictures<QPushButton>());
+    EXPECT_TRUE(LeavesRoomForOtherPictures<QComboBox>());
+}
+
+TEST(Appearance, AButtonWithColoursOfItsOwnKeepsThem) {
+    QPushButton button;
+    button.resize(60, 25);
+    const QImage plain = button.grab().toImage();
+    QPalette colours = button.palette();
+    colours.setColor(QPalette::Button, Qt::red);
+    button.setPalette(colours);
+    EXPECT_NE(button.grab().toImage(), plain);
 }
 
 TEST(Appearance, ListsDropDownBelowTheirBox) {
