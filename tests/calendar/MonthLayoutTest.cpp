@@ -259,6 +259,12 @@ TEST_F(MonthLayout, TheLettersOverAMonthThatBeginsOnAMondayAreThoseOfItsOwnDays)
     EXPECT_EQ(Letters(std::chrono::Wednesday), "MTWTFSS");
 }
 
+TEST_F(MonthLayout, TheLettersOverAMonthThatBeginsOnATuesdayBeginWithTheMondayBefore) {
+    Select(year{2004} / 6 / 1);
+    EXPECT_EQ(Row(1), "(31) 1 2 3 4 5 6");
+    EXPECT_EQ(Letters(std::chrono::Sunday), "MTWTFSS");
+}
+
 TEST_F(MonthLayout, TheLettersRunTwiceThroughTheSystemsWeek) {
     std::string letters;
     for (const std::string& letter : LettersOfWeek(std::chrono::Saturday, platform::EnglishShortDayName)) {

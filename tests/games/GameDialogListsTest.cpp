@@ -238,6 +238,26 @@ TEST_F(GameDialogLists, EachCountsListOffersOnlyWhatTheOtherLeaves) {
     EXPECT_FALSE(frmNewGame.filling);
 }
 
+TEST_F(GameDialogLists, AListsOwnEntriesStayWhenOneOfThemIsChosen) {
+    Open(WithColumns(fiveAndOne, {{49, "5"}}));
+    ChooseText(mainCountList, "8");
+    EXPECT_EQ(ListOf(mainCountList).Entries(), NumbersTo(10));
+    EXPECT_EQ(ListOf(bonusCountList).Text(), "2") << "cut to what is left";
+    Open(WithColumns(fiveAndOne, {{49, "5"}}));
+    ChooseText(bonusCountList, "4");
+    EXPECT_EQ(ListOf(bonusCountList).Entries(), NumbersTo(5));
+    EXPECT_EQ(ListOf(mainCountList).Entries(), NumbersTo(6));
+}
+
+TEST_F(GameDialogLists, ListsThatTheKindOfGameDoesNotAskForStayEmpty) {
+    Open(defaultRecords[3]);
+    ChooseText(mainCountList, "4");
+    EXPECT_TRUE(ListOf(mainHighList).Entries().empty()) << "of a card game";
+    Open(sixOf49);
+    ChooseText(duplicatesList, "Yes");
+    EXPECT_TRUE(ListOf(bonusHighList).Entries().empty()) << "of a game without bonus";
+}
+
 TEST_F(GameDialogLists, ABonusCountAboveWhatALargerMainCountLeavesIsCutToThat) {
     Open(fiveAndOne);
     ChooseText(bonusCountList, "5");

@@ -120,6 +120,17 @@ TEST(GameQuestions, AnswersBeyondTheListsAreHeldAtTheirEnds) {
     EXPECT_EQ(lows.record.substr(56, 1), "1") << "the bonus one as it is selected";
 }
 
+TEST(GameQuestions, ALowestNumberThatIsNoDigitIsWrittenBackAsItsValue) {
+    const AskedGame game = AskAbout(WithColumns(fiveAndOne, {{33, "-"}}), true);
+    EXPECT_EQ(game.questions.mainLow, Asked(zeroOne, 0));
+    EXPECT_EQ(game.record.substr(32, 1), "0");
+}
+
+TEST(GameQuestions, TenPicksFrom0WithDuplicatesLeaveNoHighestNumber) {
+    const AskedGame game = AskAbout(WithColumns(sixOf49, {{33, "0"}, {42, "Y"}, {46, "10"}}), true);
+    EXPECT_EQ(game.questions.mainHigh, Asked({}, -1));
+}
+
 TEST(CountBeside, OffersWhatTheChangedCountLeavesOfTenPicks) {
     EXPECT_EQ(CountBeside(7, 0, 1), Asked(NumbersTo(3), 0));
     EXPECT_EQ(CountBeside(7, 2, 1), Asked(NumbersTo(3), 2));
