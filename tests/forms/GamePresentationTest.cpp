@@ -165,6 +165,17 @@ TEST_F(GamePresentation, AGameOfTenPicksFitsTheLogAndColumnsBehindThePicksAreGre
     }
 }
 
+TEST_F(GamePresentation, PickColumnsHaveRoomForANumberOrACardAndAreAllShown) {
+    frmMainForm.grdHist.Column(7).visible = false;
+    Play(0, 6, 0);
+    ArrangeLogColumns();
+    EXPECT_TRUE(frmMainForm.grdHist.Column(7).visible);
+    EXPECT_EQ(frmMainForm.grdHist.Column(1).width, 600);
+    Play(3, 5, 0);
+    ArrangeLogColumns();
+    EXPECT_EQ(frmMainForm.grdHist.Column(1).width, 720);
+}
+
 TEST_F(GamePresentation, ThePicksOfACardGameAreLockedFiveColumnsWideAndUnmarked) {
     Play(4, 5, 1);
     ArrangeLogColumns();
