@@ -49,6 +49,7 @@ class GridPane {
           columnsWide(grid, 0),
           locked(grid, false),
           marksCurrentCell(grid, true),
+          caption(grid),
           accessibleName(grid) {}
 
     [[nodiscard]] bool Has(int column) const { return firstColumn <= column && column <= lastColumn; }
@@ -61,6 +62,9 @@ class GridPane {
     Property<int> columnsWide;
     Property<bool> locked;            ///< nothing can be typed in it
     Property<bool> marksCurrentCell;  ///< its current cell is marked; else only the row is
+
+    /// A board's own heading, which stands over all of its columns instead of theirs.
+    Property<std::string> caption;
 
     /// What a person would call a board; other panes need no name of their own.
     Property<std::string> accessibleName;

@@ -76,7 +76,8 @@ QRect GridCellPainter::ButtonIn(const QRect& cell) {
     return {QPoint(cell.right() - buttonWidth, cell.top()), QPoint(cell.right() - 1, cell.bottom() - 1)};
 }
 
-GridHeadings::GridHeadings(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+GridHeadings::GridHeadings(const GridPane& shownPane, QWidget* parent)
+    : QHeaderView(Qt::Horizontal, parent), pane(shownPane) {
     setSectionsClickable(false);
     setHighlightSections(false);
     setSectionResizeMode(QHeaderView::Fixed);
@@ -92,8 +93,15 @@ void GridHeadings::paintSection(QPainter* painter, const QRect& section, int log
 }
 
 void GridHeadings::paintEvent(QPaintEvent* event) {
-    QHeaderView::paintEvent(event);
+    if (pane.caption->empty()) {
+        QHeaderView::paintEvent(event);
+    }
     QPainter painter(viewport());
+    if (!pane.caption->empty()) {
+        DrawGridFace(painter, viewport()->rect());
+        painter.setPen(palette().color(QPalette::ButtonText));
+        painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextSingleLine, ToQString(*pane.caption));
+    }
     FillLine(painter, {0, 0, viewport()->width(), 1}, GridFrameColor());
 }
 

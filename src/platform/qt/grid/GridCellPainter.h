@@ -23,14 +23,17 @@ class GridCellPainter : public QStyledItemDelegate {
     const GridPaneModel& cells;
 };
 
-/// The headings of one pane.
+/// The headings of one pane: its columns', or its caption over all of them.
 class GridHeadings : public QHeaderView {
   public:
-    explicit GridHeadings(QWidget* parent);
+    GridHeadings(const GridPane& shownPane, QWidget* parent);
 
   protected:
     void paintSection(QPainter* painter, const QRect& section, int logicalIndex) const override;
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    const GridPane& pane;
 };
 
 /// Draws a flat raised face, as headings, the caption and the row margin have it, with lines at its right and lower

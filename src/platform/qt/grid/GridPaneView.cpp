@@ -11,7 +11,7 @@ namespace ballhaven::platform {
 GridPaneView::GridPaneView(Grid& shownGrid, int shownPane, QWidget* parent)
     : QTableView(parent), grid(shownGrid), pane(shownPane), cells(shownGrid, shownPane), painter(shownGrid, cells) {
     setObjectName(QStringLiteral("%1.pane(%2)").arg(ToQString(grid.name)).arg(pane));
-    setHorizontalHeader(new GridHeadings(this));
+    setHorizontalHeader(new GridHeadings(grid.Pane(pane), this));
     setModel(&cells);
     setItemDelegate(&painter);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
