@@ -31,6 +31,7 @@ struct MainForm {
     std::int16_t hotRowCount = 0;
     std::int16_t hotColumnCount = 4;
     bool cardClicked = false;
+    bool playClicked = false;  ///< a click on the board waits for the current cell to settle
     std::int16_t hiLiteTarget = 0;
     std::string newestDrawText;  ///< date text of the newest draw of the view
 

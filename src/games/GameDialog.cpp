@@ -1,6 +1,7 @@
 #include "games/GameDialog.h"
 
 #include "forms/NewGameForm.h"
+#include "forms/PlaysForm.h"
 #include "forms/SelectorLists.h"
 #include "games/GameDialogLists.h"
 #include "platform/Boxes.h"
@@ -47,6 +48,7 @@ void Save() {
         platform::Tell("You must enter a name for this game");
         return;
     }
+    frmPlays.window.Unload();
     TakeGameRules();
     SaveGameRecord(appState.gameDialogSlot);
     appState.currentGame = appState.gameDialogSlot;

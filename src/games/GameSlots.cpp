@@ -2,6 +2,7 @@
 
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
+#include "forms/PlaysForm.h"
 #include "forms/SelectorLists.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
@@ -108,6 +109,7 @@ void DeleteGame() {
         return;
     }
     const platform::WaitPointer waiting;
+    frmPlays.window.Unload();
     {
         // A pick that is still being typed must not reach the emptied game.
         const platform::GridPause pause(frmMainForm.grdHist);

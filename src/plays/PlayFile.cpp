@@ -1,7 +1,7 @@
 #include "plays/PlayFile.h"
 
-#include "plays/BoardRedraw.h"
 #include "plays/PlayMethodCode.h"
+#include "plays/PlayScreen.h"
 #include "state/AppState.h"
 #include "state/FullSizeFile.h"
 #include "state/modUTILS.h"

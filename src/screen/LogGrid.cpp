@@ -5,7 +5,7 @@
 #include "history/LogEntry.h"
 #include "history/PickEntry.h"
 #include "platform/Boxes.h"
-#include "plays/BoardRedraw.h"
+#include "plays/PlayScreen.h"
 #include "screen/CardPicker.h"
 #include "screen/LogCells.h"
 #include "state/AppState.h"

@@ -2,6 +2,7 @@
 
 #include "forms/CalendarForm.h"
 #include "forms/MainForm.h"
+#include "forms/PlaysForm.h"
 #include "games/GameSlots.h"
 #include "history/DrawCommands.h"
 #include "history/GameSwitch.h"
@@ -95,6 +96,7 @@ void FollowHeight() {
 void CloseDown() {
     SaveWhatIsDirty();
     ahcCalendar.Terminate();
+    frmPlays.window.Unload();
     platform::EndProcess();
 }
 

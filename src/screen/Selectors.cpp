@@ -2,6 +2,7 @@
 
 #include "forms/GamePresentation.h"
 #include "forms/MainForm.h"
+#include "forms/PlaysForm.h"
 #include "forms/SelectorLists.h"
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
@@ -37,6 +38,7 @@ void SelectGame() {
     if (frmMainForm.cboList[0].Selected() + 1 == appState.currentGame) {
         return;
     }
+    frmPlays.window.Unload();
     platform::ProcessPendingEvents();
     SaveWhatIsDirty();
     SwitchGame();

@@ -11,6 +11,7 @@
 #include "platform/Services.h"
 #include "platform/files/FileSystem.h"
 #include "platform/files/Paths.h"
+#include "plays/PlaySlipsWindow.h"
 #include "screen/MainWindow.h"
 #include "start/LastWords.h"
 #include "state/AppState.h"
@@ -84,6 +85,7 @@ void StartProgram() {
     WireMainWindow();
     WireGameDialog();
     WireCalendar();
+    WirePlaySlipsWindow();
     frmMainForm.window.Show();
     frmMainForm.window.RepaintNow();
 }

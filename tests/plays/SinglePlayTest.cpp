@@ -1,7 +1,9 @@
 #include "plays/SinglePlay.h"
 
 #include "forms/MainForm.h"
+#include "platform/Services.h"
 #include "state/AppState.h"
+#include "support/Plays.h"
 #include "support/qt/RunningProgram.h"
 
 #include <QLabel>
@@ -68,6 +70,63 @@ TEST_F(SinglePlay, AnotherGameHasItsOwnBoard) {
     EXPECT_EQ(Row(0), "Ah 2h 3h 4h 5h 6h");
     ChooseEntry("cboList(0)", 0);
     EXPECT_EQ(Row(0), "1 2 3 4 5 6 7 8 9");
+}
+
+TEST_F(SinglePlay, ClicksTurnPicksOnAndOff) {
+    StartWith({.mainPicks = 3, .high = 49});
+    ClickCell("grdPlay", 0, 6);
+    ClickCell("grdPlay", 5, 3);
+    EXPECT_EQ(support::PicksText(appState.PlayTable, mainPicks, 1, 1), "6 48");
+    EXPECT_EQ(CellColor("grdPlay", 0, 6), QColor(Qt::black));
+    ClickCell("grdPlay", 0, 6);
+    EXPECT_EQ(support::PicksText(appState.PlayTable, mainPicks, 1, 1), "- 48");
+    EXPECT_EQ(CellColor("grdPlay", 0, 6), QColor(Qt::white));
+}
+
+TEST_F(SinglePlay, AMoveByTheKeyboardTurnsNothingOn) {
+    StartWith({.mainPicks = 3, .high = 49});
+    ClickCell("grdPlay", 0, 6);
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(support::PicksText(appState.PlayTable, mainPicks, 1, 1), "6");
+}
+
+TEST_F(SinglePlay, TheButtonsStepThroughThePlays) {
+    StartWith({.mainPicks = 3, .high = 49});
+    ClickCell("grdPlay", 0, 6);
+    Click("cmdPlayBttn(1)");
+    EXPECT_EQ(*frmMainForm.lblPlay.text, "1.B");
+    EXPECT_EQ(CellColor("grdPlay", 0, 6), QColor(Qt::white));
+    Click("cmdPlayBttn(0)");
+    EXPECT_EQ(*frmMainForm.lblPlay.text, "1.A");
+    EXPECT_EQ(CellColor("grdPlay", 0, 6), QColor(Qt::black));
+}
+
+// Not a bug: MAIN-PLAYS-1 in docs/not-bugs.md.
+TEST_F(SinglePlay, QuirkMainPlays1TheFirstAndTheThousandthPlayOnlyBeep) {
+    StartWith({.high = 49});
+    int beeps = 0;
+    platform::services.beep = [&beeps] { ++beeps; };
+    Click("cmdPlayBttn(0)");
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(appState.currentPlay, 1);
+    appState.currentPlay = 999;
+    Click("cmdPlayBttn(1)");
+    EXPECT_EQ(*frmMainForm.lblPlay.text, "200.E");
+    EXPECT_EQ(beeps, 1);
+    Click("cmdPlayBttn(1)");
+    EXPECT_EQ(beeps, 2);
+    EXPECT_EQ(appState.currentPlay, 1000);
+}
+
+TEST_F(SinglePlay, TheEraseButtonEmptiesThePlayWithoutAQuestion) {
+    StartWith({.mainPicks = 3, .high = 49});
+    ClickCell("grdPlay", 0, 6);
+    appState.playsDirty = false;
+    Click("cmdPlayBttn(2)");
+    EXPECT_EQ(support::PicksText(appState.PlayTable, mainPicks, 1, 1), "");
+    EXPECT_EQ(CellColor("grdPlay", 0, 6), QColor(Qt::white));
+    EXPECT_TRUE(appState.playsDirty);
 }
 
 }  // namespace

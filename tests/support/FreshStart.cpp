@@ -3,6 +3,7 @@
 #include "forms/CalendarForm.h"
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
+#include "forms/PlaysForm.h"
 #include "platform/Application.h"
 #include "platform/CloseDown.h"
 #include "platform/Services.h"
@@ -33,7 +34,8 @@ template <auto& form>
 constexpr Form registered = {&form.window, Renew<form>};
 
 /// Every form of the program.
-constexpr Form forms[] = {registered<frmMainForm>, registered<frmNewGame>, registered<ahcCalendar>};
+constexpr Form forms[] = {registered<frmMainForm>, registered<frmNewGame>, registered<ahcCalendar>,
+                          registered<frmPlays>};
 
 void ResetForms() {
     CloseForms();

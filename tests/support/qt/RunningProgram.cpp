@@ -3,6 +3,7 @@
 #include "forms/CalendarForm.h"
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
+#include "forms/PlaysForm.h"
 #include "history/HistoryFile.h"
 #include "platform/Application.h"
 #include "platform/controls/Window.h"
@@ -194,6 +195,9 @@ std::vector<QWidget*> RunningProgram::OpenWindows() const {
     }
     if (auto* const calendar = dynamic_cast<QWidget*>(ahcCalendar.window.view)) {
         windows.push_back(calendar);
+    }
+    if (auto* const slips = dynamic_cast<QWidget*>(frmPlays.window.view)) {
+        windows.push_back(slips);
     }
     return windows;
 }

@@ -1,4 +1,4 @@
-#include "plays/BoardRedraw.h"
+#include "plays/PlayScreen.h"
 
 #include "forms/MainForm.h"
 #include "plays/PlayFile.h"
