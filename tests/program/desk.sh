@@ -101,11 +101,17 @@ record() { # slot, name, kind, low, high, main picks, bonus picks, bonus low, bo
     printf '%-2s/%-20s  /010/%s/%s/%s/ / /N/N/%-2s/%s/N /  /%s/%s/   ' "$@"
 }
 
-# Answers the box in front with its first button.
+# Answers the box in front with the button on which it stands.
 answer() {
     until_true "a box asks" has_other
     picture "$1" "$(others | tail -n 1)"
     keys Return
+}
+# Says Yes to a question about a loss, which stands on No.
+agree() {
+    until_true "a box asks" has_other
+    picture "$1" "$(others | tail -n 1)"
+    keys alt+y
 }
 
 # Opens a display of its own, with a window manager.

@@ -102,7 +102,7 @@ keys Return
 until_brought_in
 log_pick 3 1 600
 click_at $((2400 + 240)) 240
-answer delete-draw
+agree delete-draw
 until_brought_in
 log_pick 4 2 600
 click_at 6200 $((720 + 225 * 4 + 110))

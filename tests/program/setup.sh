@@ -56,7 +56,7 @@ picture second-game
 
 echo "== a game deleted"
 click_at $((960 + 240)) 240
-answer delete
+agree delete
 until_true "the slot is free again" record_is 2 "$(free_record 2)"
 [[ $(wc -c <"$folder/GAME02.CDB") == 64064 ]] || fail "the file of draws has not kept its size"
 close_it
