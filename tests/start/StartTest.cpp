@@ -148,7 +148,7 @@ TEST_F(Starting, ASystemFolderGetsASeparatorUnlessItEndsInOne) {
 
 TEST_F(Starting, AProgramInARootFolderKeepsItsSingleSeparator) {
     const std::string separator(1, platform::directorySeparator);
-    services.executableDirectory = [separator] { return separator; };
+    services.executableDirectory = [] { return std::string(1, platform::directorySeparator); };
     StartProgram();
     EXPECT_EQ(appState.programDirectory, separator);
 }

@@ -128,10 +128,10 @@ TEST_F(RecordFileTest, WhatStandsBehindTheLastRecordStays) {
 }
 
 TEST_F(RecordFileTest, OnlyTheRecordsOfTheFormatAreReadFromAFarLargerFile) {
-    directory.Write("DATA", std::string(10'000'000, 'x'));
+    directory.Write("DATA", std::string(8'000'000, 'x'));
     support::WatchedFiles watched;
     const RecordFile file(path, 64, 21);
-    EXPECT_EQ(file.Length(), 10'000'000);
+    EXPECT_EQ(file.Length(), 8'000'000);
     ASSERT_EQ(watched.Count("read"), 1U);
     EXPECT_EQ(watched.calls[4].bytes, 1344U);
 }
