@@ -179,11 +179,11 @@ std::int16_t SerialOf(const std::string& date) {
     if (std::sscanf(date.c_str(), "%u/%u/%d", &monthNumber, &dayNumber, &yearNumber) != 3) {
         throw std::invalid_argument("No date of month/day/year: " + date);
     }
-    const year_month_day day = year{yearNumber} / month{monthNumber} / dayNumber;
-    if (!day.ok()) {
+    const year_month_day read = year{yearNumber} / month{monthNumber} / day{dayNumber};
+    if (!read.ok()) {
         throw std::invalid_argument("No date of the calendar: " + date);
     }
-    return Short(static_cast<int>((sys_days{day} - sys_days{year{1984} / January / 1}).count()));
+    return Short(static_cast<int>((sys_days{read} - sys_days{year{1984} / January / 1}).count()));
 }
 
 }  // namespace ballhaven::support

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <cmath>
 #include <numeric>
 #include <string>
 
@@ -159,7 +160,7 @@ TEST(FillWheelRows, AFullWheelHoldsEveryCombinationOnceForAllPicksThatFit) {
             for (int i = 1; i <= k; ++i) {
                 combinations = combinations * (n - k + i) / i;
             }
-            EXPECT_EQ(rows.endRow, static_cast<int>(combinations + 0.5)) << k << " of " << n;
+            EXPECT_EQ(rows.endRow, std::lround(combinations)) << k << " of " << n;
             ++wheels;
         }
     }
