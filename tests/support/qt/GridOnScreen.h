@@ -50,12 +50,6 @@ class GridOnScreen {
     [[nodiscard]] std::vector<std::string> TakeNotices();
     [[nodiscard]] platform::GridCell Current() const { return grid.CurrentCell(); }
 
-    QWidget window;
-    QLineEdit* before;
-    QLineEdit* after;
-    platform::Grid grid;
-    platform::GridWidget* widget = nullptr;
-
     /// What the owner knows: rows of texts.
     std::vector<std::vector<std::string>> cells;
     std::vector<std::string> notices;
@@ -64,6 +58,13 @@ class GridOnScreen {
 
     /// Values above this are refused with a box.
     int highest = 49;
+
+    /// Outlives the window, which asks it for its headings until it is closed.
+    platform::Grid grid;
+    QWidget window;
+    QLineEdit* before;
+    QLineEdit* after;
+    platform::GridWidget* widget = nullptr;
 
   private:
     void ListenToMouse();
