@@ -129,6 +129,10 @@ void GridOnScreen::PressOnly(QPoint position) {
     QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&window, position));
 }
 
+void GridOnScreen::MoveTo(QPoint position) {
+    QTest::mouseMove(window.windowHandle(), widget->mapTo(&window, position));
+}
+
 void GridOnScreen::ReleaseOnly(QPoint position) {
     QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&window, position));
 }

@@ -30,6 +30,7 @@ class GridOnScreen {
     void Click(QPoint position);
     void ClickCell(int row, int column) { Click(MiddleOf(row, column)); }
     void PressOnly(QPoint position);
+    void MoveTo(QPoint position);
     void ReleaseOnly(QPoint position);
 
     /// Clicks on another widget of the window.

@@ -44,6 +44,10 @@ bool GridInput::Report(const std::function<void()>& act) {
 bool GridInput::eventFilter(QObject* watched, QEvent* event) {
     const bool presses = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
     auto* part = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::MouseMove && part != editor) {
+        // The toolkit's table would drag its current cell along.
+        return true;
+    }
     if (part == nullptr || (!presses && event->type() != QEvent::MouseButtonRelease)) {
         return false;
     }
@@ -67,6 +71,7 @@ bool GridInput::eventFilter(QObject* watched, QEvent* event) {
 
 void GridInput::Press(QPoint position, const QMouseEvent& event) {
     pressed = grid.IsOn() && event.button() == Qt::LeftButton;
+    pressedCell = panes.PlaceOfCellAt(position);
     pressedTwice = event.type() == QEvent::MouseButtonDblClick;
     if (!grid.IsOn()) {
         return;
@@ -82,10 +87,18 @@ void GridInput::Press(QPoint position, const QMouseEvent& event) {
 void GridInput::Release(QPoint position, const QMouseEvent& event) {
     if (pressed && event.button() == Qt::LeftButton) {
         pressed = false;
-        if (grid.IsOn() && widget.rect().contains(position)) {
+        if (grid.IsOn() && IsWherePressed(position)) {
             FinishClick(position);
         }
     }
+}
+
+/// A drag from one cell to another is a click on neither.
+bool GridInput::IsWherePressed(QPoint position) const {
+    if (pressedCell) {
+        return pressedCell->contains(position);
+    }
+    return widget.rect().contains(position) && !panes.CellAt(position);
 }
 
 void GridInput::FinishClick(QPoint position) {

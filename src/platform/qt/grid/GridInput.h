@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QObject>
+#include <QRect>
 
 #include <functional>
 #include <optional>
@@ -40,6 +41,7 @@ class GridInput : public QObject {
   private:
     void Press(QPoint position, const QMouseEvent& event);
     void Release(QPoint position, const QMouseEvent& event);
+    [[nodiscard]] bool IsWherePressed(QPoint position) const;
     void FinishClick(QPoint position);
     [[nodiscard]] bool IsOnDropDownButton(const GridCell& cell, QPoint position) const;
 
@@ -61,6 +63,7 @@ class GridInput : public QObject {
     const View& view;
     GridCellEditor* editor;
     bool pressed = false;
+    std::optional<QRect> pressedCell;  ///< the place of the cell of the last press; none beside the cells
     bool pressedTwice = false;
     bool dropsPress = false;
 };

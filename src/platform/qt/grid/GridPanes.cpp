@@ -162,4 +162,14 @@ std::optional<GridCell> GridPanes::CellAt(QPoint position) const {
     return std::nullopt;
 }
 
+std::optional<QRect> GridPanes::PlaceOfCellAt(QPoint position) const {
+    const std::optional<GridCell> cell = CellAt(position);
+    if (!cell) {
+        return std::nullopt;
+    }
+    const GridPaneView& pane = Pane(cell->pane);
+    const QRect place = pane.CellPlace(*cell);
+    return QRect(pane.viewport()->mapTo(&parent, place.topLeft()), place.size());
+}
+
 }  // namespace ballhaven::platform

@@ -63,6 +63,9 @@ class GridPanes {
     /// The cell at a position in the grid's widget.
     [[nodiscard]] std::optional<GridCell> CellAt(QPoint position) const;
 
+    /// The place of that cell in the grid's widget.
+    [[nodiscard]] std::optional<QRect> PlaceOfCellAt(QPoint position) const;
+
   private:
     void Add(int number);
 

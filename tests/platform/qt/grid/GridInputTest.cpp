@@ -123,6 +123,30 @@ TEST_F(GridMouse, AReleaseOutsideTheGridIsNoClick) {
     EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
 }
 
+TEST_F(GridMouse, ADragToAnotherCellIsNoClick) {
+    PressOnly(MiddleOf(2, 3));
+    MoveTo(MiddleOf(3, 3));
+    ReleaseOnly(MiddleOf(3, 3));
+
+    EXPECT_EQ(TakeNotices().size(), 1U);
+    EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
+}
+
+TEST_F(GridMouse, ADragFromTheHeadingsToACellIsNoClick) {
+    PressOnly({100, 5});
+    ReleaseOnly(MiddleOf(2, 3));
+
+    EXPECT_EQ(TakeNotices().size(), 1U);
+    EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
+}
+
+TEST_F(GridMouse, AMoveWithinTheCellIsStillAClick) {
+    PressOnly(MiddleOf(2, 3) - QPoint(5, 3));
+    ReleaseOnly(MiddleOf(2, 3) + QPoint(5, 3));
+
+    EXPECT_EQ(Current(), (GridCell{1, 2, 3}));
+}
+
 TEST_F(GridMouse, AnotherButtonOnlyTellsItsPress) {
     QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, widget->mapTo(&window, MiddleOf(2, 3)));
 
@@ -378,13 +402,15 @@ TEST_F(BoardInput, AClickOnTheSameCellOfAnotherBoardIsAMove) {
     EXPECT_EQ(Notices(told.begin() + 1, told.end()), (Notices{"click", "change 1,0,0", "settled"}));
 }
 
-TEST_F(BoardInput, ADragFromBoardToBoardIsAClickWhereItEnds) {
+TEST_F(BoardInput, ADragFromBoardToBoardIsNoClick) {
     PressOnly(MiddleOf({0, 3, 3}));
-    EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
+    (void)TakeNotices();
 
+    MoveTo(MiddleOf({4, 3, 3}));
     ReleaseOnly(MiddleOf({4, 3, 3}));
 
-    EXPECT_EQ(Current(), (GridCell{4, 3, 3}));
+    EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
+    EXPECT_EQ(TakeNotices(), Notices{});
 }
 
 TEST_F(BoardInput, ArrowsCrossToTheNextBoardWithTheKeyboard) {
