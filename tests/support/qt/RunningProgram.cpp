@@ -25,8 +25,9 @@
 #include <QTest>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdlib>
-#include <exception>
+#include <map>
 #include <utility>
 
 namespace ballhaven::support {
@@ -35,6 +36,7 @@ namespace {
 
 constexpr int twipsPerPixel = 15;
 constexpr int gameRecordBytes = 64;
+constexpr int frameOfMark = 2;
 constexpr int almost = 100;              // of a colour's 255 parts: thin letters are drawn paler
 constexpr int modalWindowInterval = 50;  // milliseconds
 
@@ -315,7 +317,15 @@ QImage RunningProgram::CellImage(const char* grid, int row, int column) const {
 }
 
 QColor RunningProgram::CellColor(const char* grid, int row, int column) const {
-    return CellImage(grid, row, column).pixelColor(3, 3);
+    const QImage image = CellImage(grid, row, column);
+    std::map<QRgb, int> pixels;
+    // Within the frame that marks the current cell.
+    for (int y = frameOfMark; y < image.height() - frameOfMark; ++y) {
+        for (int x = frameOfMark; x < image.width() - frameOfMark; ++x) {
+            ++pixels[image.pixel(x, y)];
+        }
+    }
+    return std::ranges::max_element(pixels, {}, &std::pair<const QRgb, int>::second)->first;
 }
 
 bool RunningProgram::CellHasColor(const char* grid, int row, int column, const QColor& color) const {

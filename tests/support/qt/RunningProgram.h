@@ -113,7 +113,7 @@ class RunningProgram : public ::testing::Test {
     static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     static void Type(const char* text);
 
-    /// A cell of a grid: its text on screen, a click on it, and the colour at its upper left corner inside the lines.
+    /// A cell of a grid: its text on screen, a click on it, and the colour that most of it has.
     [[nodiscard]] std::string CellText(const char* grid, int row, int column) const;
     void ClickCell(const char* grid, int row, int column) const;
     [[nodiscard]] QColor CellColor(const char* grid, int row, int column) const;
