@@ -2,7 +2,11 @@
 
 #include "platform/Services.h"
 #include "state/AppState.h"
+#include "state/DateMask.h"
 #include "state/DateSerial.h"
+#include "state/modUTILS.h"
+
+#include <algorithm>
 
 namespace ballhaven {
 
@@ -34,6 +38,15 @@ std::int16_t ReadSerial(std::string text) {
 std::string SerialToDate(std::int16_t serial) {
     appState.monthDays = daysOfMonths;
     return TextOfSerial(serial, appState.shortDateFormat);
+}
+
+std::string ShortDate(std::chrono::year_month_day date) {
+    std::string mask = platform::services.shortDatePattern(appState.windowsDirectory);
+    if (mask.empty()) {
+        mask = DateMaskOf(appState.shortDateFormat);
+    }
+    std::ranges::transform(mask, mask.begin(), modUTILS::LowerCase);
+    return FormatDate(date, mask);
 }
 
 }  // namespace ballhaven

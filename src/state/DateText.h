@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 
@@ -23,5 +24,8 @@ std::int16_t ReadSerial(std::string text);
 
 /// The screen text of a serial. Fills `monthDays`.
 [[nodiscard]] std::string SerialToDate(std::int16_t serial);
+
+/// A date as the system writes it in short, such as "2/14/2004"; where it has no pattern for that, the screen text.
+[[nodiscard]] std::string ShortDate(std::chrono::year_month_day date);
 
 }  // namespace ballhaven

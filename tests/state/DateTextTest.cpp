@@ -244,5 +244,18 @@ TEST(ProbeShortDate, NormalisesWhatTheSystemsFolderHas) {
     EXPECT_EQ(ProbeShortDate(), "m/d/y");
 }
 
+TEST(ShortDate, IsWrittenByTheSystemsOwnPattern) {
+    std::string pattern = "M/d/yyyy";
+    platform::services.shortDatePattern = [&pattern](const std::string&) { return pattern; };
+    EXPECT_EQ(ShortDate(2004y / 2 / 4), "2/4/2004");
+    pattern = "dd.MM.yy";
+    EXPECT_EQ(ShortDate(2004y / 2 / 4), "04.02.04");
+}
+
+TEST(ShortDate, IsWrittenAsOnTheScreenWhereTheSystemHasNoPattern) {
+    appState.shortDateFormat = "y-m-d";
+    EXPECT_EQ(ShortDate(2004y / 2 / 4), "2004-02-04");
+}
+
 }  // namespace
 }  // namespace ballhaven

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace ballhaven::support {
@@ -63,7 +64,8 @@ class PrinterRecord::Device final : public platform::PrinterDevice {
     [[nodiscard]] double PageWidth() const override { return record.pageWidth; }
     [[nodiscard]] double PageHeight() const override { return record.pageHeight; }
     [[nodiscard]] double TextWidth(const std::string& text) const override {
-        return characterWidth * static_cast<double>(text.size());
+        const auto own = record.ownWidths.find(text);
+        return own != record.ownWidths.end() ? own->second : characterWidth * static_cast<double>(text.size());
     }
     [[nodiscard]] double LineHeight() const override { return lineHeight; }
     [[nodiscard]] double CharacterWidth() const override { return characterWidth; }
@@ -92,12 +94,18 @@ std::string PrinterRecord::AsText() const {
 void PrinterRecord::FailFrom(int operation, int number) {
     operations = 0;
     failing = operation;
+    lastFailing = std::numeric_limits<int>::max();
     errorNumber = number;
+}
+
+void PrinterRecord::FailOnceAt(int operation, int number) {
+    FailFrom(operation, number);
+    lastFailing = operation;
 }
 
 void PrinterRecord::Count() {
     ++operations;
-    if (failing > 0 && operations >= failing) {
+    if (failing > 0 && operations >= failing && operations <= lastFailing) {
         throw platform::PrinterFailure(errorNumber);
     }
 }

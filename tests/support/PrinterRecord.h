@@ -2,6 +2,7 @@
 
 #include "platform/printing/PrinterDevice.h"
 
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -32,13 +33,17 @@ class PrinterRecord {
     /// and endings, and in all that follow, with a number of error.
     void FailFrom(int operation, int number = platform::deviceNotReady);
 
+    /// The same in that one operation only.
+    void FailOnceAt(int operation, int number = platform::deviceNotReady);
+
     using Page = std::vector<PrintedText>;
     using Job = std::vector<Page>;
 
     std::vector<Job> jobs;
     std::set<std::string> missingFonts;
-    double pageWidth = 11520;   ///< 8 inches
-    double pageHeight = 15120;  ///< 10.5 inches
+    std::map<std::string, double> ownWidths;  ///< of texts whose characters are not 120 twips wide
+    double pageWidth = 11520;                 ///< 8 inches
+    double pageHeight = 15120;                ///< 10.5 inches
 
   private:
     class Device;
@@ -47,7 +52,8 @@ class PrinterRecord {
     void Count();
 
     int operations = 0;
-    int failing = 0;  ///< the first operation that fails, 0 for none
+    int failing = 0;      ///< the first operation that fails, 0 for none
+    int lastFailing = 0;  ///< the last one
     int errorNumber = 0;
 };
 
