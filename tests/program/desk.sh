@@ -55,6 +55,16 @@ settle() {
     done
 }
 
+# The colour of a pixel of a window, as rrggbb. A dump of the screen has a head of words with the highest byte first: its
+# size, and where the lines and the colours are; then the colours' table, then the pixels with blue first.
+color_in() { # window, x, y
+    local dump=$work/dump head
+    xwd -silent -id "$1" >"$dump" || return 1
+    # shellcheck disable=SC2207
+    head=($(od -An -v -N 100 -t u4 --endian=big "$dump"))
+    od -An -v -j $((head[0] + head[19] * 12 + $3 * head[12] + $2 * 4)) -N 3 -t x1 "$dump" | awk '{ print $3 $2 $1 }'
+}
+
 # A click in a window: twips from the top left corner of its client area, as the layout has them, and the pixels that a
 # menu bar takes above it.
 scale=${QT_SCALE_FACTOR:-1}
