@@ -42,7 +42,7 @@ hilite_winners() { press_on_slip 1680 240; }
 
 # The ground of a cell, below its digits: red, black or white.
 ground_is() { # colour, window, x, y
-    local at_x=$(($3 / 15)) at_y=$((18 + $4 / 15 + 4))
+    local at_x=$(($3 * scale / 15)) at_y=$((18 * scale + ($4 + 60) * scale / 15))
     [[ $(color_in "$2" "$at_x" "$at_y") == "$1" ]]
 }
 main_is() { # colour, cell
