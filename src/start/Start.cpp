@@ -3,6 +3,7 @@
 #include "calendar/Calendar.h"
 #include "forms/MainForm.h"
 #include "games/GameDialog.h"
+#include "help/HelpBox.h"
 #include "history/GameSwitch.h"
 #include "platform/Application.h"
 #include "platform/Boxes.h"
@@ -86,6 +87,7 @@ void StartProgram() {
     WireGameDialog();
     WireCalendar();
     WirePlaySlipsWindow();
+    WireHelpBox();
     frmMainForm.window.Show();
     frmMainForm.window.RepaintNow();
 }

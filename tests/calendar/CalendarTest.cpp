@@ -543,7 +543,7 @@ class CalendarOfTheProgram : public support::RunningProgram {
 TEST_F(CalendarOfTheProgram, OpensOverTheMainWindowsPicture) {
     QPoint main;
     QPoint calendar;
-    InCalendar([&] {
+    InModal(ahcCalendar.window, [&] {
         main = {frmMainForm.window.Left(), frmMainForm.window.Top()};
         calendar = {form.window.Left(), form.window.Top()};
         QTest::keyClick(dynamic_cast<QWidget*>(form.surface.view), Qt::Key_Escape);
@@ -558,7 +558,7 @@ TEST_F(CalendarOfTheProgram, OpensOverTheMainWindowsPicture) {
 
 TEST_F(CalendarOfTheProgram, HasTheOrdinaryPointerWhenTheToolbarOpensItUnderTheHourglass) {
     bool opened = false;
-    InCalendar([&opened] {
+    InModal(ahcCalendar.window, [&opened] {
         opened = true;
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
         QTest::keyClick(dynamic_cast<QWidget*>(form.surface.view), Qt::Key_Escape);

@@ -142,7 +142,7 @@ TEST_F(DrawCommands, TheTimerSortsTheDrawsAndGoesToTheOneWhoseDateWasTaken) {
 
 TEST_F(DrawCommands, ADrawIsAddedThroughTheCalendarAndItsPicksAreTyped) {
     platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 20; };
-    InCalendar([this] {
+    InModal(ahcCalendar.window, [this] {
         EXPECT_EQ(ahcCalendar.Today, std::chrono::year{1990} / std::chrono::January / 20);
         EXPECT_EQ(appState.pendingLogDate, -1);
         ClickDay(9);
@@ -164,7 +164,7 @@ TEST_F(DrawCommands, ADrawIsAddedThroughTheCalendarAndItsPicksAreTyped) {
 TEST_F(DrawCommands, ADateThatExistsKeepsTheCalendarOpenForAnother) {
     platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 2; };
     ExpectDateExists();
-    InCalendar([this] {
+    InModal(ahcCalendar.window, [this] {
         Click("cmdCal(1)");
         EXPECT_EQ(boxes.Answered(), 1U);
         EXPECT_TRUE(ahcCalendar.Loaded());
@@ -179,13 +179,13 @@ TEST_F(DrawCommands, ADateThatExistsKeepsTheCalendarOpenForAnother) {
 
 TEST_F(DrawCommands, ADrawThatWaitsIsBroughtInByTheNextAdd) {
     platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 20; };
-    InCalendar([this] {
+    InModal(ahcCalendar.window, [this] {
         ClickDay(9);
         ClickToClose("cmdCal(1)");
     });
     Click("cmdButton(2)");
     appState.pendingLogDate = support::SerialOf("01/09/1990");
-    InCalendar([this] {
+    InModal(ahcCalendar.window, [this] {
         EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/09/1990");
         EXPECT_EQ(appState.pendingLogDate, -1);
         ClickToClose("cmdCal(0)");
@@ -197,7 +197,7 @@ TEST_F(DrawCommands, ADrawThatWaitsIsBroughtInByTheNextAdd) {
 TEST_F(DrawCommands, AChangeOfADateBringsInTheDrawThatWaitsAndStaysWithItsRow) {
     appState.HistoryTable(0, 2) = support::SerialOf("12/31/1989");
     appState.pendingLogDate = support::SerialOf("12/31/1989");
-    InCalendar([this] {
+    InModal(ahcCalendar.window, [this] {
         EXPECT_EQ(Dates(), (Texts{"12/31/1989", "01/01/1990", "01/02/1990"}));
         EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/02/1990");
         EXPECT_EQ(ahcCalendar.Today, std::chrono::year{1990} / std::chrono::January / 2);
@@ -209,7 +209,7 @@ TEST_F(DrawCommands, AChangeOfADateBringsInTheDrawThatWaitsAndStaysWithItsRow) {
 }
 
 TEST_F(DrawCommands, ACancelledCalendarAddsNothingAndLeavesNothingPending) {
-    InCalendar([this] { ClickToClose("cmdCal(0)"); });
+    InModal(ahcCalendar.window, [this] { ClickToClose("cmdCal(0)"); });
     Click("cmdButton(2)");
     EXPECT_EQ(appState.pendingLogDate, 0);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -219,7 +219,7 @@ TEST_F(DrawCommands, ACancelledCalendarAddsNothingAndLeavesNothingPending) {
 TEST_F(DrawCommands, TheDateButtonChangesTheDateOfItsRow) {
     boxes.Expect("Ballhaven", "Are you sure you want to change this date?", BoxButtons::YesNo, BoxIcon::None,
                  BoxAnswer::Yes);
-    InCalendar([this] {
+    InModal(ahcCalendar.window, [this] {
         EXPECT_EQ(ahcCalendar.Today, std::chrono::year{1990} / std::chrono::January / 2);
         ClickDay(31);
         ClickToClose("cmdCal(1)");

@@ -1,5 +1,6 @@
 #include "screen/LogGrid.h"
 
+#include "forms/CalendarForm.h"
 #include "forms/MainForm.h"
 #include "platform/Application.h"
 #include "state/AppState.h"
@@ -420,7 +421,7 @@ TEST_F(LogGrid, MovingTheCurrentCellEndsTheWinnersDisplay) {
 
 TEST_F(LogGrid, AClickOnTheDatesButtonMakesTheDatePaneCurrent) {
     const QRect cell = CellPlace("grdHist", 4, 0);
-    InCalendar([this] { ClickToClose("cmdCal(0)"); });
+    InModal(ahcCalendar.window, [this] { ClickToClose("cmdCal(0)"); });
     ClickLog(cell.right() - 8, cell.center().y());
     ExpectCursor(datePane, 4, 0);
 }

@@ -1,6 +1,7 @@
 #include "support/qt/RunningProgram.h"
 
 #include "forms/CalendarForm.h"
+#include "forms/HelpBoxForm.h"
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
@@ -74,7 +75,9 @@ RunningProgram::RunningProgram() {
 
 RunningProgram::~RunningProgram() {
     EXPECT_TRUE(dialogActs.empty()) << "The game dialog did not open.";
-    EXPECT_TRUE(calendarActs.empty()) << "The calendar did not open.";
+    for (const ModalActs& expected : modalActs) {
+        ADD_FAILURE() << expected.window->name << " did not open.";
+    }
     CloseForms();
     Settle();
 }
@@ -137,9 +140,13 @@ void RunningProgram::ServeModalWindow() {
             return;
         }
     }
-    if (window == dynamic_cast<QWidget*>(ahcCalendar.window.view) && !calendarActs.empty()) {
-        ActInCalendar(*window);
-        return;
+    for (auto expected = modalActs.begin(); expected != modalActs.end(); ++expected) {
+        if (window == dynamic_cast<QWidget*>(expected->window->view)) {
+            const std::function<void()> acts = std::move(expected->acts);
+            modalActs.erase(expected);
+            ActInModal(*window, acts);
+            return;
+        }
     }
     ADD_FAILURE() << "A modal window: " << window->objectName().toStdString();
     window->close();
@@ -161,11 +168,9 @@ void RunningProgram::ActInGameDialog(QWidget& dialog) {
     acting = false;
 }
 
-void RunningProgram::ActInCalendar(QWidget& calendar) {
-    const std::function<void()> acts = std::move(calendarActs.front());
-    calendarActs.pop_front();
+void RunningProgram::ActInModal(QWidget& window, const std::function<void()>& acts) {
     acting = true;
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&calendar));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     try {
         acts();
     } catch (const std::exception& missing) {
@@ -174,8 +179,8 @@ void RunningProgram::ActInCalendar(QWidget& calendar) {
     acting = false;
 }
 
-void RunningProgram::InCalendar(std::function<void()> acts) {
-    calendarActs.push_back(std::move(acts));
+void RunningProgram::InModal(const platform::Window& window, std::function<void()> acts) {
+    modalActs.push_back({&window, std::move(acts)});
 }
 
 void RunningProgram::InGameDialog(std::function<void()> acts) {
@@ -192,14 +197,11 @@ QWidget& RunningProgram::GameDialog() const {
 
 std::vector<QWidget*> RunningProgram::OpenWindows() const {
     std::vector<QWidget*> windows = {&MainWindow()};
-    if (frmNewGame.window.view != nullptr) {
-        windows.push_back(&GameDialog());
-    }
-    if (auto* const calendar = dynamic_cast<QWidget*>(ahcCalendar.window.view)) {
-        windows.push_back(calendar);
-    }
-    if (auto* const slips = dynamic_cast<QWidget*>(frmPlays.window.view)) {
-        windows.push_back(slips);
+    for (const platform::Window* window :
+         {&frmNewGame.window, &ahcCalendar.window, &frmPlays.window, &frmHelpBox.window}) {
+        if (auto* const widget = dynamic_cast<QWidget*>(window->view)) {
+            windows.push_back(widget);
+        }
     }
     return windows;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Services.h"
+#include "platform/controls/Window.h"
 #include "support/Games.h"
 #include "support/HistoryLog.h"
 #include "support/MessageScript.h"
@@ -69,8 +70,9 @@ class RunningProgram : public ::testing::Test {
     /// The game dialog, which must be open.
     [[nodiscard]] QWidget& GameDialog() const;
 
-    /// What the user does in the calendar when it opens next, up to its closing; as for the game dialog.
-    void InCalendar(std::function<void()> acts);
+    /// What the user does in another modal window, such as the calendar, when it opens next, up to its closing; as for
+    /// the game dialog.
+    void InModal(const platform::Window& window, std::function<void()> acts);
 
     /// The widget of a name in an open window, which must be there; a hidden one too.
     template <typename Widget = QWidget>
@@ -145,16 +147,21 @@ class RunningProgram : public ::testing::Test {
     std::vector<std::string> saved;
 
   private:
+    struct ModalActs {
+        const platform::Window* window;
+        std::function<void()> acts;
+    };
+
     [[nodiscard]] std::vector<QWidget*> OpenWindows() const;
     void ServeModalWindow();
     void ActInGameDialog(QWidget& dialog);
-    void ActInCalendar(QWidget& calendar);
+    void ActInModal(QWidget& window, const std::function<void()>& acts);
     [[nodiscard]] QTableView& PaneOf(const char* grid, int column, int& columnInPane) const;
     [[nodiscard]] QImage CellImage(const char* grid, int row, int column) const;
 
     QTimer modalWindows;
     std::deque<std::function<void()>> dialogActs;
-    std::deque<std::function<void()>> calendarActs;
+    std::deque<ModalActs> modalActs;
     bool acting = false;
 
   protected:

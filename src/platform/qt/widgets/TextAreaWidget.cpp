@@ -2,7 +2,15 @@
 
 #include "platform/qt/widgets/Conversions.h"
 
+#include <QTextDocument>
+
 namespace ballhaven::platform {
+
+namespace {
+
+constexpr int margin = 2;  // pixels, around the text
+
+}  // namespace
 
 TextAreaWidget::TextAreaWidget(TextArea& shownArea, QWidget* parent)
     : ControlWidget(shownArea, parent), area(shownArea) {
@@ -10,7 +18,9 @@ TextAreaWidget::TextAreaWidget(TextArea& shownArea, QWidget* parent)
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse);  // a caret comes with the keyboard's selection alone
     setTabChangesFocus(true);
+    document()->setDocumentMargin(margin);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Refresh();
 }
 

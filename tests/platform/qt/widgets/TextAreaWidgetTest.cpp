@@ -95,6 +95,13 @@ TEST_F(TextAreaWidgetTest, HasALetterHeightOfItsOwn) {
     EXPECT_EQ(widget->font().pixelSize(), 9);
 }
 
+TEST_F(TextAreaWidgetTest, AWordThatIsWiderThanTheBoxGoesOnBelowAndIsNotScrolledTo) {
+    area.text = std::string(400, '-') + "\r\n";
+
+    EXPECT_GT(widget->document()->firstBlock().layout()->lineCount(), 1);
+    EXPECT_FALSE(widget->horizontalScrollBar()->isVisible());
+}
+
 TEST_F(TextAreaWidgetTest, AnotherChangeKeepsThePlaceInTheText) {
     QTest::keyClick(widget, Qt::Key_PageDown);
     const int scrolled = Scrolled();

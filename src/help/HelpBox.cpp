@@ -1,0 +1,65 @@
+#include "help/HelpBox.h"
+
+#include "forms/HelpBoxForm.h"
+#include "forms/MainForm.h"
+#include "forms/PlaysForm.h"
+#include "help/HelpPrinting.h"
+#include "help/HelpText.h"
+#include "platform/Application.h"
+#include "platform/Pointer.h"
+#include "state/AppState.h"
+
+#include <string>
+#include <utility>
+
+namespace ballhaven {
+
+namespace {
+
+// The entries of both windows, by their index, which is the topic; between them is a separator.
+constexpr std::int16_t helpEntries[] = {0, 2};
+
+void Load() {
+    HelpText help = HelpOf(appState.helpTopic);
+    frmHelpBox.lblLabel.text = std::move(help.heading);
+    frmHelpBox.txtText.text = std::move(help.text);
+}
+
+/// The text box has no caret that would have to be hidden.
+void TakeFocus() {
+    if (frmHelpBox.window.State() == platform::WindowState::Maximised) {
+        frmHelpBox.window.SetState(platform::WindowState::Normal);
+    }
+    frmHelpBox.txtText.TakeFocus();
+    platform::ProcessPendingEvents();
+}
+
+void PrintText() {
+    const std::string heading = frmHelpBox.lblLabel.text;
+    const std::string text = frmHelpBox.txtText.text;
+    const platform::WaitPointer waiting;
+    printHelpText(heading, text);
+}
+
+}  // namespace
+
+void WireHelpBox() {
+    frmHelpBox.window.layout = LayOutHelpBoxForm;
+    frmHelpBox.window.load = Load;
+    frmHelpBox.window.activate = TakeFocus;
+    frmHelpBox.window.deactivate = [] { frmHelpBox.window.Unload(); };
+    frmHelpBox.cmdHelp.click = PrintText;
+    for (const std::int16_t topic : helpEntries) {
+        const auto entry = static_cast<std::size_t>(topic);
+        frmMainForm.mnuHelpArray[entry].click = [topic] {
+            appState.helpTopic = topic;
+            frmHelpBox.window.ShowModal();
+        };
+        frmPlays.mnuHelpArray[entry].click = [topic] {
+            appState.helpTopic = topic;
+            frmHelpBox.window.ShowInFront();
+        };
+    }
+}
+
+}  // namespace ballhaven
