@@ -21,13 +21,17 @@ cmake --preset bench >/dev/null
 cmake --build --preset bench >&2
 
 # The data files lie on the disk of the project: a temporary folder in memory would make flushes cost nothing.
-results=build/bench/results.json
+results=build/bench/results
 export TMPDIR=$PWD/build/bench/data
+mkdir -p "$results"
 mkdir -p -m 700 "$TMPDIR"
 export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$TMPDIR}
 
 echo "Ballhaven: load of the machine before the runs:$(uptime | sed 's/.*average://')" >&2
-build/bench/ballhaven_bench --benchmark_repetitions="$runs" --benchmark_min_time=0.05 \
-    --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true \
-    --benchmark_out="$results" --benchmark_out_format=json >&2
-jq --raw-output --arg runs "$runs" --from-file bench/table.jq "$results"
+for program in ballhaven_bench ballhaven_screen_bench; do
+    "build/bench/$program" --benchmark_repetitions="$runs" --benchmark_min_time=0.05 \
+        --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true \
+        --benchmark_out="$results/$program.json" --benchmark_out_format=json >&2
+done
+jq --slurp '{context: .[0].context, benchmarks: map(.benchmarks) | add}' "$results"/*.json |
+    jq --raw-output --arg runs "$runs" --from-file bench/table.jq
