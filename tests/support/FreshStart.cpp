@@ -1,10 +1,10 @@
 #include "support/FreshStart.h"
 
 #include "forms/CalendarForm.h"
-#include "forms/HelpBoxForm.h"
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
+#include "forms/PrintForm.h"
 #include "platform/Application.h"
 #include "platform/CloseDown.h"
 #include "platform/Services.h"
@@ -36,7 +36,7 @@ constexpr Form registered = {&form.window, Renew<form>};
 
 /// Every form of the program.
 constexpr Form forms[] = {registered<frmMainForm>, registered<frmNewGame>, registered<ahcCalendar>,
-                          registered<frmPlays>, registered<frmHelpBox>};
+                          registered<frmPlays>, registered<frmPrint>};
 
 void ResetForms() {
     CloseForms();

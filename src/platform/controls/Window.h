@@ -58,6 +58,7 @@ class Window : public Shown {
     /// desktop at hand may be of another size; the program reckons with this one everywhere.
     static constexpr int frameWidth = 120;
     static constexpr int frameHeight = 810;
+    static constexpr int frameHeightWithoutMenu = 405;
 
     /// Loads the window if it is not loaded. Runs `layout`, then `load`.
     void Load();
@@ -99,7 +100,10 @@ class Window : public Shown {
     /// A window that is switched off takes neither mouse nor keys, and does not close by its close box.
     Property<bool> enabled{*this, true};
 
-    /// The user can neither resize nor maximise the window. Fixed by the layout, as the limits are.
+    /// What the frame takes of the outer height, in twips. Fixed by the layout, as what follows is.
+    int frame = frameHeight;
+
+    /// The user can neither resize nor maximise the window.
     bool fixedSize = false;
     SizeLimit smallestSize;
     SizeLimit largestSize;

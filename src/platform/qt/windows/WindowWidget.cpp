@@ -64,7 +64,7 @@ void WindowWidget::StartTimers() {
 
 QSize WindowWidget::ClientSize() const {
     return {std::max(0, ToPixels(window.Width() - Window::frameWidth)),
-            std::max(0, ToPixels(window.Height() - Window::frameHeight))};
+            std::max(0, ToPixels(window.Height() - window.frame))};
 }
 
 void WindowWidget::Refresh() {
@@ -93,9 +93,9 @@ void WindowWidget::LimitSize(const QSize& wanted, int menuHeight) {
         return outer > 0 ? std::max(0, ToPixels(outer - frame)) : unlimited;
     };
     setMinimumSize(pixels(window.smallestSize.width, Window::frameWidth, 0),
-                   pixels(window.smallestSize.height, Window::frameHeight - ToTwips(menuHeight), 0));
+                   pixels(window.smallestSize.height, window.frame - ToTwips(menuHeight), 0));
     setMaximumSize(pixels(window.largestSize.width, Window::frameWidth, QWIDGETSIZE_MAX),
-                   pixels(window.largestSize.height, Window::frameHeight - ToTwips(menuHeight), QWIDGETSIZE_MAX));
+                   pixels(window.largestSize.height, window.frame - ToTwips(menuHeight), QWIDGETSIZE_MAX));
 }
 
 void WindowWidget::PlaceAlignedPanels(const QSize& client) {
@@ -133,7 +133,7 @@ void WindowWidget::FollowClientArea() {
     PlaceAlignedPanels(shownClient);
     RunGuarded([this] {
         const int width = ToTwips(clientArea->width()) + Window::frameWidth;
-        const int height = ToTwips(clientArea->height()) + Window::frameHeight;
+        const int height = ToTwips(clientArea->height()) + window.frame;
         window.ResizeByUser(width, height);
     });
 }

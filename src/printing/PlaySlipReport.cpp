@@ -1,0 +1,115 @@
+#include "printing/PlaySlipReport.h"
+
+#include "platform/Services.h"
+#include "platform/printing/Printer.h"
+#include "plays/PlaySlips.h"
+#include "printing/PageHead.h"
+#include "printing/PickLabel.h"
+#include "printing/PlaySort.h"
+#include "printing/ReportPage.h"
+#include "state/AppState.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string>
+#include <utility>
+
+namespace ballhaven {
+
+namespace {
+
+constexpr int labelColumn = 5;
+constexpr std::array<int, picksPerPlay> pickColumns = {15, 20, 25, 30, 35, 40, 45, 50, 55, 60};
+constexpr std::size_t seventh = 6;
+
+bool IsBlank(std::int16_t cell) {
+    return cell < 0;
+}
+
+// QUIRK PLAY-REPORT-LAST-1: only the first cell of either list tells whether a play is in use. A play behind the last
+// one with a pick there is not printed, whatever stands in its other cells. Habits rest on it.
+std::int16_t LastUsedPlay() {
+    for (std::int16_t play = playCount; play >= 1; --play) {
+        if (!IsBlank(appState.PlayTable(mainPicks, play, 1)) ||
+            (HasBonus(appState.gameType) && !IsBlank(appState.PlayTable(bonusPicks, play, 1)))) {
+            return play;
+        }
+    }
+    return 0;
+}
+
+/// The cells of a list of a play in which the game has picks.
+std::span<const std::int16_t> CellsOf(PickColumn list, int play, int count) {
+    return std::as_const(appState.PlayTable)
+        .Slots(list, play)
+        .first(static_cast<std::size_t>(std::clamp(count, 0, picksPerPlay)));
+}
+
+using PickTexts = std::array<std::string, picksPerPlay>;
+
+// QUIRK PLAY-REPORT-SEVENTH-1: no bonus pick is ever printed in the seventh column, so a game of six main picks and one
+// bonus pick prints no bonus. Readers of these pages know them so.
+void AddBonusPicks(int play, PickTexts& texts) {
+    std::size_t position = CellsOf(mainPicks, play, appState.mainPickCount).size();
+    for (const std::int16_t cell : CellsOf(bonusPicks, play, appState.bonusPickCount)) {
+        if (!IsBlank(cell) && position < texts.size() && position != seventh) {
+            texts[position] = pickLabel(cell);
+        }
+        ++position;
+    }
+}
+
+ReportLine RowOf(int play) {
+    PickTexts texts;
+    for (std::size_t position = 0; const std::int16_t cell : CellsOf(mainPicks, play, appState.mainPickCount)) {
+        texts[position++] = IsBlank(cell) ? std::string() : pickLabel(cell);
+    }
+    if (HasBonus(appState.gameType)) {
+        AddBonusPicks(play, texts);
+    }
+    std::string slip;
+    std::string line;
+    PlaySlipLabel(play, slip, line);
+    ReportLine row = {{labelColumn, slip + line}};
+    for (std::size_t position = 0; position < texts.size(); ++position) {
+        row.push_back({pickColumns[position], texts[position]});
+    }
+    return row;
+}
+
+bool PrintPlays(ReportPage& page, const SectionHead& head, int last) {
+    for (int play = 1; play <= last; ++play) {
+        if (std::ranges::all_of(CellsOf(mainPicks, play, appState.mainPickCount), IsBlank)) {
+            continue;
+        }
+        page.PrintRow(RowOf(play));
+        if (!page.GoOn(head, play == last)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+void playSlipReport() {
+    const std::int16_t last = LastUsedPlay();
+    sortPlaysForReport(last);
+    platform::Printer printer(platform::services.openPrinter(ReportTitle("Play Slips")));
+    ReportPage page(printer);
+    if (!page.Begin()) {
+        return;
+    }
+    const SectionHead head{'_', "Play Slips", {{labelColumn, "Play"}, {pickColumns[0], "Picks"}}};
+    page.PrintHead(head);
+    if (last == 0) {
+        page.PrintRemark("No Plays Found");
+    }
+    if (PrintPlays(page, head, last)) {
+        printer.EndDoc();
+    }
+}
+
+}  // namespace ballhaven
