@@ -13,6 +13,7 @@
 #include "platform/files/FileSystem.h"
 #include "platform/files/Paths.h"
 #include "plays/PlaySlipsWindow.h"
+#include "printing/PrintDialog.h"
 #include "screen/MainWindow.h"
 #include "start/LastWords.h"
 #include "state/AppState.h"
@@ -87,6 +88,7 @@ void StartProgram() {
     WireGameDialog();
     WireCalendar();
     WirePlaySlipsWindow();
+    WirePrintDialog();
     WireHelpBox();
     frmMainForm.window.Show();
     frmMainForm.window.RepaintNow();

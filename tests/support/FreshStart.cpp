@@ -1,6 +1,7 @@
 #include "support/FreshStart.h"
 
 #include "forms/CalendarForm.h"
+#include "forms/HelpBoxForm.h"
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
@@ -36,7 +37,7 @@ constexpr Form registered = {&form.window, Renew<form>};
 
 /// Every form of the program.
 constexpr Form forms[] = {registered<frmMainForm>, registered<frmNewGame>, registered<ahcCalendar>,
-                          registered<frmPlays>, registered<frmPrint>};
+                          registered<frmPlays>,    registered<frmPrint>,   registered<frmHelpBox>};
 
 void ResetForms() {
     CloseForms();

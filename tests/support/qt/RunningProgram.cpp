@@ -5,6 +5,7 @@
 #include "forms/MainForm.h"
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
+#include "forms/PrintForm.h"
 #include "history/HistoryFile.h"
 #include "platform/Application.h"
 #include "platform/controls/Window.h"
@@ -198,7 +199,7 @@ QWidget& RunningProgram::GameDialog() const {
 std::vector<QWidget*> RunningProgram::OpenWindows() const {
     std::vector<QWidget*> windows = {&MainWindow()};
     for (const platform::Window* window :
-         {&frmNewGame.window, &ahcCalendar.window, &frmPlays.window, &frmHelpBox.window}) {
+         {&frmNewGame.window, &ahcCalendar.window, &frmPlays.window, &frmPrint.window, &frmHelpBox.window}) {
         if (auto* const widget = dynamic_cast<QWidget*>(window->view)) {
             windows.push_back(widget);
         }
