@@ -93,6 +93,7 @@ void WireGameDialog() {
     OnChange(mainLowList, RefreshHighestLists);
     frmNewGame.cmdNewGame[1].click = Save;
     frmNewGame.cmdNewGame[0].click = [] { frmNewGame.window.Unload(); };
+    frmNewGame.window.escape = frmNewGame.cmdNewGame[0].click;
 }
 
 }  // namespace ballhaven

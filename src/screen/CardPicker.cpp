@@ -27,12 +27,16 @@ void TakeLogCard(std::string card) {
     frmMainForm.picCards[0].visible = false;
 }
 
+void CloseLogCards() {
+    frmMainForm.picCards[0].visible = false;
+    GoToDate();
+}
+
 void ClickLogCards(double x, double y) {
     const CardHit hit = LogCardAt(x, y);
     switch (hit.area) {
         case CardArea::CloseBox:
-            frmMainForm.picCards[0].visible = false;
-            GoToDate();
+            CloseLogCards();
             break;
         case CardArea::Cards:
             TakeLogCard(hit.card);
@@ -50,12 +54,16 @@ void TakeHiLiteCard(std::string card) {
     frmMainForm.picCards[1].visible = false;
 }
 
+void CloseHiLiteCards() {
+    frmMainForm.txtHiLite.at(static_cast<std::size_t>(frmMainForm.hiLiteTarget)).TakeFocus();
+    frmMainForm.picCards[1].visible = false;
+}
+
 void ClickHiLiteCards(double x, double y) {
     const CardHit hit = HiLiteCardAt(x, y);
     switch (hit.area) {
         case CardArea::CloseBox:
-            frmMainForm.txtHiLite.at(static_cast<std::size_t>(frmMainForm.hiLiteTarget)).TakeFocus();
-            frmMainForm.picCards[1].visible = false;
+            CloseHiLiteCards();
             break;
         case CardArea::Cards:
             TakeHiLiteCard(hit.card);
@@ -65,9 +73,19 @@ void ClickHiLiteCards(double x, double y) {
     }
 }
 
+/// Escape closes the cards that are open, as their close box does.
+void CloseCards() {
+    if (frmMainForm.picCards[0].visible) {
+        CloseLogCards();
+    } else if (frmMainForm.picCards[1].visible) {
+        CloseHiLiteCards();
+    }
+}
+
 }  // namespace
 
 void WireCardPicker() {
+    frmMainForm.window.escape = CloseCards;
     frmMainForm.picCards[0].click = ClickLogCards;
     frmMainForm.picCards[1].click = ClickHiLiteCards;
 }

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QTest>
 
 #include <functional>
 #include <utility>
@@ -110,6 +111,17 @@ TEST_F(TheGameDialog, BearsTheTitleOfWhatItDoes) {
         ClickToClose("cmdNewGame(0)");
     });
     ChooseFromMenu("mnuEdit", "mnuEditArray(0)");
+}
+
+TEST_F(TheGameDialog, EscapeCancelsIt) {
+    const std::string before = RecordColumns(1, 1, 64);
+    InGameDialog([this] {
+        Type("Another name");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    });
+    ChooseFromMenu("mnuEdit", "mnuEditArray(2)");
+    EXPECT_FALSE(frmNewGame.window.IsLoaded());
+    EXPECT_EQ(RecordColumns(1, 1, 64), before);
 }
 
 TEST_F(TheGameDialog, AsksEachQuestionBesideItsList) {

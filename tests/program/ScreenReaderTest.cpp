@@ -60,6 +60,32 @@ TEST_F(ScreenReader, ASwatchIsNamedByItsColour) {
     }
 }
 
+TEST_F(ScreenReader, TheKeyboardGoesAsTheEyeDoes) {
+    const char* const stops[] = {"cboList(0)",     "cboList(1)",      "cboList(2)",     "optHot(2)",
+                                 "cmdPlayBttn(2)", "cmdPlayBttn(0)",  "cmdPlayBttn(1)", "grdPlay.pane(0)",
+                                 "grdHot.pane(0)", "grdHist.pane(1)", "cmdColorHist",   "cmdColor(0)",
+                                 "cmdColor(1)",    "cmdButton(1)",    "cmdButton(10)"};
+    Find("cboList(0)").setFocus();
+    for (const char* stop : stops) {
+        ASSERT_EQ(QApplication::focusWidget()->objectName().toStdString(), stop);
+        // Within a table the key goes on through its columns.
+        for (int columns = 0; columns < 12 && QApplication::focusWidget() == &Find(stop); ++columns) {
+            Press(Qt::Key_Tab);
+        }
+    }
+}
+
+TEST_F(ScreenReader, ABoardsCellTellsItsLineItsPickAndWhetherItIsChosen) {
+    ChooseFromMenu("mnuView", "mnuViewArray(3)");
+    ClickCell("grdPlays(0)", 1, 9 + 7);
+    const auto* const board = Told("grdPlays(0).pane(1)").tableInterface();
+    ASSERT_NE(board, nullptr);
+    EXPECT_EQ(board->cellAt(1, 7)->text(QAccessible::Name), "Line B, 17, chosen");
+    EXPECT_EQ(board->cellAt(1, 6)->text(QAccessible::Name), "Line B, 16");
+    EXPECT_EQ(Name("grdPlays(0).pane(1)"), "Line B");
+    EXPECT_EQ(Name("cmdErasePlay(2)"), "Erase line B");
+}
+
 TEST_F(ScreenReader, MenuSeparatorsSayNothing) {
     int separators = 0;
     for (const char* menu : {"mnuFile", "mnuEdit", "mnuView", "mnuTools", "mnuHelp"}) {

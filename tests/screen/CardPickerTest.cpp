@@ -93,6 +93,24 @@ TEST_F(CardPicker, TheKeysMoveWithoutOpeningOrClosingTheCards) {
     ExpectCursor(pickPane, 1, 2);
 }
 
+TEST_F(CardPicker, EscapeClosesTheCardsOfTheLog) {
+    ClickCell("grdHist", 0, 2);
+    ASSERT_TRUE(LogCardsShown());
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(LogCardsShown());
+    ExpectCursor(datePane, 0, 0);
+    Press(Qt::Key_Escape);
+    ExpectCursor(datePane, 0, 0);
+}
+
+TEST_F(CardPicker, EscapeClosesTheCardsOfTheHiLites) {
+    Click("txtHiLite(1)");
+    ASSERT_TRUE(HiLiteCardsShown());
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(HiLiteCardsShown());
+    EXPECT_EQ(QApplication::focusWidget(), &Find("txtHiLite(1)"));
+}
+
 TEST_F(CardPicker, APickedCardIsStoredCountedAndSaved) {
     PickAt(0, 2, {65, 191});
     EXPECT_FALSE(LogCardsShown());

@@ -59,14 +59,13 @@ void OptionButton::Choose() {
 }
 
 void OptionButton::ChooseByUser() {
-    for (OptionButton& other : group) {
-        if (&other != this && other.chosen) {
-            other.chosen = false;
-            other.ShowChange();
-        }
+    for (OptionButton& button : group) {
+        button.chosen = false;
     }
     chosen = true;
-    ShowChange();
+    for (OptionButton& button : group) {
+        button.ShowChange();
+    }
     Raise(click);
 }
 

@@ -125,6 +125,9 @@ class Window : public Shown {
     Handler deactivate;
     Handler resize;
 
+    /// The Escape key where the control that has the keyboard has no use for it.
+    Handler escape;
+
     /// The window is about to close, in whatever way.
     Handler unload;
 

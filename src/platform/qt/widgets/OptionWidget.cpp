@@ -4,6 +4,8 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace ballhaven::platform {
 
 OptionWidget::OptionWidget(OptionButton& shownOption, QWidget* parent)
@@ -17,6 +19,9 @@ void OptionWidget::Refresh() {
     ShowCommon(option, *this, *option.caption);
     setText(ToQString(*option.caption));
     setChecked(option.IsChosen());
+    // The keyboard stops at a group once: at its chosen button, at any where none is.
+    const bool isStop = option.IsChosen() || std::ranges::none_of(option.group, &OptionButton::IsChosen);
+    setFocusPolicy(isStop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 // The value decides which button of the group is chosen, and the widget follows it.

@@ -250,6 +250,14 @@ void WindowWidget::closeEvent(QCloseEvent* event) {
     }
 }
 
+void WindowWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && window.view == this && window.escape) {
+        RunGuarded(window.escape);
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
 void WindowWidget::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     // Its first activation does not wait for the desktop, which may never report one.

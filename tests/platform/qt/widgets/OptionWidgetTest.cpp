@@ -98,6 +98,17 @@ TEST_F(OptionWidgetTest, TheArrowKeysPassAHiddenButtonOver) {
     EXPECT_TRUE(options[1].IsChosen());
 }
 
+TEST_F(OptionWidgetTest, TheTabKeyStopsAtTheChosenButtonAlone) {
+    EXPECT_EQ(Button(2)->focusPolicy(), Qt::StrongFocus);
+    EXPECT_EQ(Button(0)->focusPolicy(), Qt::ClickFocus);
+
+    Click(0);
+
+    EXPECT_EQ(Button(0)->focusPolicy(), Qt::StrongFocus);
+    EXPECT_EQ(Button(1)->focusPolicy(), Qt::ClickFocus);
+    EXPECT_EQ(Button(2)->focusPolicy(), Qt::ClickFocus);
+}
+
 TEST_F(OptionWidgetTest, TheSpaceBarChooses) {
     Button(1)->setFocus();
     QTest::keyClick(Button(1), Qt::Key_Space);

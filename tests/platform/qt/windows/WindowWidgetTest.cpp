@@ -406,6 +406,15 @@ TEST_F(WindowWidgetTest, TheTabKeyFollowsTheOrderOfTheControls) {
     EXPECT_TRUE(other.Find("cmdSecond")->hasFocus());
 }
 
+TEST_F(WindowWidgetTest, EscapeThatNoControlUsesGoesToTheWindow) {
+    int escapes = 0;
+    form.window.escape = [&escapes] { ++escapes; };
+    form.Show();
+    QTest::keyClick(form.Find<QWidget>("cmdButton(0)"), Qt::Key_Escape);
+    QTest::keyClick(form.Find<QWidget>("cmdButton(0)"), Qt::Key_F5);
+    EXPECT_EQ(escapes, 1);
+}
+
 TEST_F(WindowWidgetTest, AControlBroughtToTheFrontCoversItsSiblings) {
     Picture upper;
     upper.name = "picUpper";
