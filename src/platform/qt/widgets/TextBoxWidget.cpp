@@ -82,7 +82,8 @@ void TextBoxWidget::KeepSelection() {
 void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
     const std::string key = FromQString(event->text());
     bool served = false;
-    if (box.keyPress && key.size() == 1) {
+    // Escape is the window's.
+    if (box.keyPress && key.size() == 1 && event->key() != Qt::Key_Escape) {
         Report([&] { served = box.keyPress(key.front()); });
     }
     if (!served) {
