@@ -8,11 +8,12 @@ HelpBoxForm frmHelpBox;
 
 namespace {
 
+// The text box lies over the lower edge of the button, so that its frame is whole.
 const platform::PlacedControl places[] = {
     // clang-format off
     {frmHelpBox.lblLabel, "lblLabel", -1, nullptr, {840, 120, 4095,  375}},
-    {frmHelpBox.txtText,  "txtText",  -1, nullptr, {150, 480, 5415, 5295}, "Help"},
     {frmHelpBox.cmdHelp,  "cmdHelp",  -1, nullptr, {120,   0,  615,  495}, "Print"},
+    {frmHelpBox.txtText,  "txtText",  -1, nullptr, {150, 480, 5415, 5295}, "Help"},
     // clang-format on
 };
 
@@ -35,6 +36,7 @@ constexpr int windowHeight = 6800;
 
 void LayOutHelpBoxForm() {
     frmHelpBox.window.name = "frmHelpBox";
+    frmHelpBox.window.frame = platform::Window::frameHeightWithoutMenu;
     platform::PlaceControls(frmHelpBox.window, places);
     platform::SetTexts(texts);
     frmHelpBox.lblLabel.bold = true;

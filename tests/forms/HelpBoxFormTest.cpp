@@ -14,7 +14,7 @@ class TheHelpBoxForm : public testing::Test {
 
 TEST_F(TheHelpBoxForm, HasItsHeadingItsTextAndItsButton) {
     EXPECT_EQ(frmHelpBox.window.controls,
-              (std::vector<platform::Control*>{&frmHelpBox.lblLabel, &frmHelpBox.txtText, &frmHelpBox.cmdHelp}));
+              (std::vector<platform::Control*>{&frmHelpBox.lblLabel, &frmHelpBox.cmdHelp, &frmHelpBox.txtText}));
     EXPECT_EQ(*frmHelpBox.lblLabel.bounds, (Bounds{840, 120, 4095, 375}));
     EXPECT_EQ(*frmHelpBox.txtText.bounds, (Bounds{150, 480, 5415, 5295}));
     EXPECT_EQ(*frmHelpBox.cmdHelp.bounds, (Bounds{120, 0, 615, 495}));
