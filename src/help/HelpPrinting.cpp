@@ -19,6 +19,8 @@ constexpr double inch = 1440;
 constexpr int tabWidth = 10;  // digits
 
 /// Runs one statement of the print; its failure is passed over.
+// QUIRK HELP-PRINT-SILENT-1: a printer that is not ready yields nothing here and says nothing, unlike in the reports.
+// Habits rest on it.
 template <typename Statement>
 void PassOver(const Statement& statement) {
     try {
@@ -56,6 +58,8 @@ void Print(Printer& printer, const std::string& text) {
 }
 
 /// Ends the line, and begins the next one on this page or, below the last line, on another.
+// QUIRK HELP-LAST-PAGE-1: the page is tested when a line has ended, whether anything follows or not, so a text that
+// ends with the last line of a page gets one more, with its heading and footer alone. Habits rest on it.
 void BreakLine(Printer& printer, const std::string& title) {
     PassOver([&] { printer.PrintLine(); });
     if (Holds([&] { return printer.CurrentY() > printer.ScaleHeight() - inch; })) {

@@ -8,6 +8,8 @@ constexpr std::string_view topicRule =
     "------------------------------------------------------------------------------------------------------";
 static_assert(topicRule.size() == 102);
 
+// QUIRK HELP-WORDS-1: "it's start position", "etc..", and "or cards in red" twice among the winners read so. Readers
+// know these sentences; what they promise is what the program does.
 constexpr std::string_view lines[] = {
     " Main Screen: (Select Game, History Set, Hot Table)",
     "",
@@ -175,6 +177,9 @@ constexpr std::string_view lines[] = {
     " and the highest number is left blank. Cards are printed as the next",
     " card, such as 2h for Ah, and Ks is left blank. If the lowest number",
     " is 0, and in the printed plays, main numbers are as you see them.",
+    "",
+    " If a number has 328 hits or more, or there are too many pairs, the",
+    " printing of data ends without a word. Select a smaller History Set.",
     "",
     " The 7th number of a printed play is never a bonus. With 6 main",
     " numbers and 1 bonus, the bonus is not printed.",

@@ -269,7 +269,7 @@ TEST_F(HelpBox, AWindowThatComesUpWhileItPrintsClosesItAndThePagesComeOut) {
             GiveFocusTo(stranger);
             EXPECT_FALSE(frmHelpBox.window.IsLoaded());
         };
-        ClickToClose("cmdHelp");
+        Click("cmdHelp");
     });
     EXPECT_FALSE(frmHelpBox.window.IsLoaded());
     ASSERT_EQ(printer.jobs.size(), 1U);

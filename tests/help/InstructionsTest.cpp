@@ -165,7 +165,8 @@ TEST(Instructions, ShufflePromisesItsPlays) {
                    });
 }
 
-TEST(Instructions, WinnersAreHiLitedInRed) {
+// Not a bug: HELP-WORDS-1 in docs/not-bugs.md.
+TEST(QuirkHelpWords1, WinnersAreInRedOrCardsInRed) {
     ExpectTogether(Topic(12), {
                                   " Scans Play Slips and checks for winners matching the historical",
                                   " record currently selected.  Hi-Lites play numbers or cards in red",

@@ -3,6 +3,7 @@
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QMouseEvent>
+#include <QPointer>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -68,9 +69,10 @@ void ButtonWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
-    QPushButton::mouseReleaseEvent(event);
+    const QPointer<ButtonWidget> self(this);
+    QPushButton::mouseReleaseEvent(event);  // whose click may let its window go
     event->accept();
-    if (rect().contains(event->position().toPoint())) {
+    if (!self.isNull() && rect().contains(event->position().toPoint())) {
         Report([this, event] {
             if (button.mouseUp) {
                 button.mouseUp(ToMouseButton(event->button()));

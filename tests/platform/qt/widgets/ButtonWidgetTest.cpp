@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 namespace ballhaven::platform {
@@ -59,6 +60,20 @@ TEST_F(ButtonWidgetTest, TheReleaseOfEachMouseButtonOverItIsReported) {
     QTest::mousePress(widget, Qt::LeftButton);
     QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(-1, 3));
     EXPECT_EQ(released, (std::vector{MouseButton::Left, MouseButton::Right, MouseButton::Other}));
+}
+
+TEST_F(ButtonWidgetTest, AClickMayLetTheWindowGoAndTheEventsThatFollow) {
+    int releases = 0;
+    button.mouseUp = [&releases](MouseButton) { ++releases; };
+    button.click = [this] {
+        form.window.Unload();
+        support::Settle();
+    };
+    QTest::mouseClick(form.Widget()->windowHandle(), Qt::LeftButton, {},
+                      widget->mapTo(form.Widget(), widget->rect().center()));
+
+    EXPECT_FALSE(form.window.IsLoaded());
+    EXPECT_EQ(releases, 0);
 }
 
 TEST_F(ButtonWidgetTest, AButtonThatIsOffReportsNothing) {
