@@ -34,6 +34,10 @@ void TakeFocus() {
     platform::ProcessPendingEvents();
 }
 
+void Close() {
+    frmHelpBox.window.Unload();
+}
+
 void PrintText() {
     const std::string heading = frmHelpBox.lblLabel.text;
     const std::string text = frmHelpBox.txtText.text;
@@ -47,7 +51,8 @@ void WireHelpBox() {
     frmHelpBox.window.layout = LayOutHelpBoxForm;
     frmHelpBox.window.load = Load;
     frmHelpBox.window.activate = TakeFocus;
-    frmHelpBox.window.deactivate = [] { frmHelpBox.window.Unload(); };
+    frmHelpBox.window.deactivate = Close;
+    frmHelpBox.window.escape = Close;
     frmHelpBox.cmdHelp.click = PrintText;
     for (const std::int16_t topic : helpEntries) {
         const auto entry = static_cast<std::size_t>(topic);

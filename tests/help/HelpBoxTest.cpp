@@ -201,6 +201,13 @@ TEST_F(HelpBox, AModalOneClosesAsWellAndTheProgramGoesOn) {
     });
 }
 
+TEST_F(HelpBox, ClosesByEscape) {
+    OpenFromPlays(0);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(frmHelpBox.window.IsLoaded());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dynamic_cast<QWidget*>(frmPlays.window.view)));
+}
+
 TEST_F(HelpBox, TheTextIsBuiltAnewEachTime) {
     OpenFromPlays(0);
     Press(Qt::Key_End);

@@ -1,6 +1,7 @@
 #include "help/HelpPrinting.h"
 
 #include "platform/Services.h"
+#include "support/PrintedReport.h"
 #include "support/PrinterRecord.h"
 
 #include <gtest/gtest.h>
@@ -215,6 +216,23 @@ TEST_F(HelpPrinting, ATabReckonsWithTheRoundedPlaceAndTiesGoToTheEvenNumber) {
     EXPECT_DOUBLE_EQ(Drawn("b").x, 720 + 20 * 120) << "9.51 is 10, which moves on";
     EXPECT_DOUBLE_EQ(Drawn("c").x, 720 + 20 * 120) << "9.5 is 10";
     EXPECT_DOUBLE_EQ(Drawn("d").x, 720 + 10 * 120) << "8.5 is 8";
+}
+
+TEST_F(HelpPrinting, ItsPagesReadAsTheText) {
+    std::string text =
+        " The harbour\r\n\r\n"
+        "A harbour of numbers: the boats of the last hundred drawings lie at their moorings, each with "
+        "its hits on the bow, and whoever walks along the quay sees which of them has been out most "
+        "often.\r\n\r\n"
+        "\tNumber\tHits\r\n\t7\t19\r\n\t1234567890\t18\r\n\r\n"
+        " before the row\r\n" +
+        std::string(102, '-') + "\r\n after the row\r\n\r\n";
+    for (int pier = 1; pier <= 45; ++pier) {
+        text += " Pier " + std::to_string(pier) + (pier < 45 ? "\r\n" : "");
+    }
+    printHelpText("Harbours", text);
+
+    EXPECT_EQ(support::WithoutBlanksAtLineEnds(record.AsText()), support::GoldenText("help.txt"));
 }
 
 TEST_F(HelpPrinting, TheLineBelowTheLastOneGoesToAPageOfItsOwn) {

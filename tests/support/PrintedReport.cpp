@@ -12,14 +12,15 @@
 
 namespace ballhaven::support {
 
-namespace {
-
-std::string WithoutBlanksAtTheEnd(std::string line) {
-    line.erase(line.find_last_not_of(' ') + 1);
-    return line;
+std::string WithoutBlanksAtLineEnds(const std::string& text) {
+    std::istringstream lines(text);
+    std::string all;
+    for (std::string line; std::getline(lines, line);) {
+        line.erase(line.find_last_not_of(' ') + 1);
+        all += line + "\n";
+    }
+    return all;
 }
-
-}  // namespace
 
 std::string GoldenText(const std::string& name) {
     std::ifstream file(std::string(GOLDEN_FOLDER) + "/" + name);
@@ -43,12 +44,7 @@ void PrintedReport::NameGame(const std::string& name, bool inOrder) {
 }
 
 std::string PrintedReport::Paper() const {
-    std::istringstream text(printer.AsText());
-    std::string paper;
-    for (std::string line; std::getline(text, line);) {
-        paper += WithoutBlanksAtTheEnd(line) + "\n";
-    }
-    return paper;
+    return WithoutBlanksAtLineEnds(printer.AsText());
 }
 
 std::vector<std::vector<std::string>> PrintedReport::PageLines() const {

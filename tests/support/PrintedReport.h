@@ -14,6 +14,9 @@ namespace ballhaven::support {
 /// The text of a page file in tests/printing/golden: pages as a reader sees them, parted by lines of "-----".
 [[nodiscard]] std::string GoldenText(const std::string& name);
 
+/// A text in the form of `GoldenText`.
+[[nodiscard]] std::string WithoutBlanksAtLineEnds(const std::string& text);
+
 /// A printer that takes down what the reports print.
 class PrintedReport : public ::testing::Test {
   protected:
