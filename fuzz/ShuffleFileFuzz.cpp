@@ -34,7 +34,7 @@ void CheckLoadSaveLoad(const std::string& file) {
     const auto& directory = ProgramDirectory();
     directory.Write(fileName, file);
     LoadShuffleFile();
-    const Table lists = appState.ShuffleTable;
+    const ChosenPicks lists = appState.ShuffleTable;
     SaveShuffleFile();
     const std::string stored = directory.Read(fileName);
     ExpectTheRestUntouched(file, stored);
@@ -42,13 +42,13 @@ void CheckLoadSaveLoad(const std::string& file) {
     LoadShuffleFile();
     if (HasBonus(appState.gameType)) {
         // The option is stored with the main list and looked for behind the bonus list, which the save has cleared.
-        Table expected = lists;
+        ChosenPicks expected = lists;
         expected(mainPicks, 0) = 0;
         Expect(appState.ShuffleTable == expected, "the second load gives the same lists without an option");
     } else {
         Expect(appState.ShuffleTable == lists, "the second load gives the same lists and option");
     }
-    const Table second = appState.ShuffleTable;
+    const ChosenPicks second = appState.ShuffleTable;
     SaveShuffleFile();
     const std::string storedAgain = directory.Read(fileName);
     LoadShuffleFile();
@@ -60,11 +60,10 @@ void CheckLoadSaveLoad(const std::string& file) {
 /// Any lists that memory can hold come back closed up, with the digits that their fields have room for.
 void CheckSaveLoad(const FuzzInput& input) {
     ProgramDirectory().Write(fileName, "");
-    Table expected(2, chosenPicks + 1, -1);
+    ChosenPicks expected;
     const std::int16_t option = input.Value(0);
     const bool remembersOption = !HasBonus(appState.gameType) && option >= 1 && option <= 3;
     expected(mainPicks, 0) = remembersOption ? option : std::int16_t{0};
-    expected(bonusPicks, 0) = 0;
     appState.ShuffleTable(mainPicks, 0) = option;
 
     int place = 1;

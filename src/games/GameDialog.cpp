@@ -3,6 +3,7 @@
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
 #include "forms/SelectorLists.h"
+#include "forms/ShuffleForm.h"
 #include "games/GameDialogLists.h"
 #include "platform/Boxes.h"
 #include "state/AppState.h"
@@ -49,6 +50,7 @@ void Save() {
         return;
     }
     frmPlays.window.Unload();
+    frmShuffle.window.Unload();
     TakeGameRules();
     SaveGameRecord(appState.gameDialogSlot);
     appState.currentGame = appState.gameDialogSlot;

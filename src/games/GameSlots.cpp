@@ -4,6 +4,7 @@
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
 #include "forms/SelectorLists.h"
+#include "forms/ShuffleForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
 #include "platform/Boxes.h"
@@ -44,7 +45,7 @@ int FirstFreeSlot() {
 
 /// Opens the dialog on a slot; the dialog's load goes over the game variables, so what is dirty is saved before it.
 void OpenGameDialog(int slot, int mode) {
-    SaveWhatIsDirty();
+    SaveBeforeReload();
     appState.gameDialogSlot = modUTILS::ToInt16(slot);
     appState.gameDialogMode = modUTILS::ToInt16(mode);
     frmNewGame.window.ShowModal();
@@ -64,19 +65,13 @@ void WipePlays() {
     }
 }
 
-void WipeChosenPicks() {
-    for (int slot = 1; slot <= chosenPicks; ++slot) {
-        appState.ShuffleTable(mainPicks, slot) = -1;
-    }
-}
-
 void WipeGame() {
     appState.HistoryTable = Table(appState.totalPicks + 1, historyRows, -1);
     SaveHistory(1);
     WipePlays();
     appState.playsDirty = false;
     SavePlayFile();
-    WipeChosenPicks();
+    std::ranges::fill(appState.ShuffleTable.Slots(mainPicks), std::int16_t{-1});
     SaveShuffleFile();
     appState.gameRecord = BuildDefaultGameRecord(appState.currentGame, 0);
     SaveGameRecord(appState.currentGame);
@@ -110,6 +105,7 @@ void DeleteGame() {
     }
     const platform::WaitPointer waiting;
     frmPlays.window.Unload();
+    frmShuffle.window.Unload();
     {
         // A pick that is still being typed must not reach the emptied game.
         const platform::GridPause pause(frmMainForm.grdHist);

@@ -185,4 +185,11 @@ void SaveWhatIsDirty() {
     }
 }
 
+void SaveBeforeReload() {
+    SaveWhatIsDirty();
+    if (appState.shuffleWindowOpen) {
+        SaveShuffleFile();
+    }
+}
+
 }  // namespace ballhaven

@@ -22,6 +22,13 @@ bool IsPickText(std::string_view cellText) {
     return !cellText.empty() && !(cellText.size() == 1 && bonusWord.find(cellText) != std::string_view::npos);
 }
 
+std::string PickDescription(const std::string& cellText, bool isChosen) {
+    if (!IsPickText(cellText)) {
+        return {};
+    }
+    return isChosen ? cellText + ", chosen" : cellText;
+}
+
 bool KeepsListsApart(int gameType) {
     return gameType == 1 || gameType == 3;
 }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace ballhaven {
@@ -20,6 +21,9 @@ struct BoardPick {
 
 /// Whether a cell with this text is a pick: not an empty one, and not a letter of the word between the picks.
 [[nodiscard]] bool IsPickText(std::string_view cellText);
+
+/// What a cell with this text is called to somebody who does not see it, as "17, chosen"; empty where it is no pick.
+[[nodiscard]] std::string PickDescription(const std::string& cellText, bool isChosen);
 
 /// What became of a click on a pick.
 enum class Toggled { TakenOff, PutOn, HeldByOther, ListIsFull };

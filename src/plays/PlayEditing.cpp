@@ -87,10 +87,7 @@ bool IsChosen(int play, int cell) {
 }
 
 std::string CellDescription(int play, int cell, const std::string& text) {
-    if (!IsPickText(text)) {
-        return {};
-    }
-    return IsChosen(play, cell) ? text + ", chosen" : text;
+    return PickDescription(text, IsChosen(play, cell));
 }
 
 void ErasePlay(int play) {

@@ -58,7 +58,7 @@ void Load() {
 void ReloadGame() {
     // A pick that is still being typed must not reach the other game.
     const platform::GridPause pause(frmMainForm.grdHist);
-    SaveWhatIsDirty();
+    SaveBeforeReload();
     SwitchGame();
 }
 

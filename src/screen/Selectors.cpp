@@ -4,6 +4,7 @@
 #include "forms/MainForm.h"
 #include "forms/PlaysForm.h"
 #include "forms/SelectorLists.h"
+#include "forms/ShuffleForm.h"
 #include "games/GameSlots.h"
 #include "history/GameSwitch.h"
 #include "history/LogEntry.h"
@@ -39,6 +40,7 @@ void SelectGame() {
         return;
     }
     frmPlays.window.Unload();
+    frmShuffle.window.Unload();
     platform::ProcessPendingEvents();
     SaveWhatIsDirty();
     SwitchGame();

@@ -18,6 +18,7 @@
 #include "start/LastWords.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
+#include "wheels/ShuffleWindow.h"
 
 #include <string>
 #include <system_error>
@@ -88,6 +89,7 @@ void StartProgram() {
     WireGameDialog();
     WireCalendar();
     WirePlaySlipsWindow();
+    WireShuffleWindow();
     WirePrintDialog();
     WireHelpBox();
     frmMainForm.window.Show();

@@ -1,5 +1,7 @@
 #include "state/AppState.h"
 
+#include <algorithm>
+
 namespace ballhaven {
 
 AppState appState;
@@ -9,6 +11,19 @@ std::size_t PlayPicks::Index(int pickColumn, int play, int slot) {
         throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
     }
     return static_cast<std::size_t>((pickColumn * (playCount + 1) + play) * (picksPerPlay + 1) + slot);
+}
+
+ChosenPicks::ChosenPicks() {
+    for (const PickColumn list : {mainPicks, bonusPicks}) {
+        std::ranges::fill(Slots(list), std::int16_t{-1});
+    }
+}
+
+std::size_t ChosenPicks::Index(int pickColumn, int slot) {
+    if (pickColumn < 0 || pickColumn > 1 || slot < 0 || slot > chosenPicks) {
+        throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
+    }
+    return static_cast<std::size_t>(pickColumn * (chosenPicks + 1) + slot);
 }
 
 void MarkHotTablesStale() {

@@ -53,6 +53,30 @@ class PlayPicks {
     std::vector<std::int16_t> cells = std::vector<std::int16_t>(2UL * (playCount + 1) * (picksPerPlay + 1));
 };
 
+/// The chosen picks of a game, addressed by list (`mainPicks`, `bonusPicks`) and slot (1 to 100, the picks as cell
+/// numbers in the order of the choice, -1 for an empty slot). Slot 0 of the main list is the way in which plays are to
+/// be made of them; that of the bonus list is not used. None are chosen at first.
+class ChosenPicks {
+  public:
+    ChosenPicks();
+
+    std::int16_t& operator()(int pickColumn, int slot) { return cells[Index(pickColumn, slot)]; }
+    std::int16_t operator()(int pickColumn, int slot) const { return cells[Index(pickColumn, slot)]; }
+
+    /// The slots of a list's picks, 1 to 100.
+    [[nodiscard]] std::span<std::int16_t> Slots(int pickColumn) { return {&(*this)(pickColumn, 1), chosenPicks}; }
+    [[nodiscard]] std::span<const std::int16_t> Slots(int pickColumn) const {
+        return {&cells[Index(pickColumn, 1)], chosenPicks};
+    }
+
+    bool operator==(const ChosenPicks&) const = default;
+
+  private:
+    [[nodiscard]] static std::size_t Index(int pickColumn, int slot);
+
+    std::array<std::int16_t, 2 * (chosenPicks + 1)> cells{};
+};
+
 /// All that windows and routines share. One per process; nothing of it outlives the process except what is written to
 /// the data files. Integers start at 0, tables without rows.
 struct AppState {
@@ -114,8 +138,7 @@ struct AppState {
 
     // Plays and windows
     PlayPicks PlayTable;
-    Table ShuffleTable{2,
-                       chosenPicks + 1};  ///< column the list, row the slot from 1; row 0 of the main list the option
+    ChosenPicks ShuffleTable;
     std::int16_t currentPlay = 0;
     std::int16_t currentSlip = 0;
     bool playsDirty = false;

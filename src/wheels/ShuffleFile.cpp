@@ -5,6 +5,7 @@
 #include "state/FullSizeFile.h"
 #include "state/modUTILS.h"
 
+#include <span>
 #include <string>
 
 namespace ballhaven {
@@ -28,30 +29,22 @@ int RecordOf(int slot, int pickColumn) {
     return pickColumn == mainPicks ? slot : gameSlots + slot;
 }
 
-Table EmptyShuffleTable() {
-    Table table(2, chosenPicks + 1, -1);
-    table(mainPicks, 0) = byHand;
-    table(bonusPicks, 0) = 0;
-    return table;
-}
-
-/// Puts the picks of a list's record into the slots of a table's column, closed up from slot 1 on.
-void DecodeList(const std::string& record, Table& chosen, int pickColumn) {
-    int slot = 0;
+/// Puts the picks of a list's record into the slots of the list, closed up from the first on.
+void DecodeList(const std::string& record, std::span<std::int16_t> slots) {
+    auto slot = slots.begin();
     for (int field = 0; field < chosenPicks; ++field) {
         const std::int16_t pick = modUTILS::PickOfField(modUTILS::Columns(record, pickStride * field + 1, pickWidth));
         if (pick > -1) {
-            chosen(pickColumn, ++slot) = pick;
+            *slot++ = pick;
         }
     }
 }
 
 /// The record of a list's picks, closed up, without an option.
-std::string EncodeList(const Table& chosen, int pickColumn) {
+std::string EncodeList(std::span<const std::int16_t> slots) {
     std::string record(static_cast<std::size_t>(fileSizes.recordLength), ' ');
     int column = 1;
-    for (int slot = 1; slot <= chosenPicks; ++slot) {
-        const std::int16_t pick = chosen.PickAt(pickColumn, slot);
+    for (const std::int16_t pick : slots) {
         if (pick != -1) {
             modUTILS::SetColumns(record, column, modUTILS::FixedWidth(std::to_string(pick), pickWidth));
             column += pickStride;
@@ -64,12 +57,12 @@ std::string EncodeList(const Table& chosen, int pickColumn) {
 
 void LoadShuffleFile() {
     const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory), fileSizes);
-    appState.ShuffleTable = EmptyShuffleTable();
+    appState.ShuffleTable = ChosenPicks();
     std::string record = file.Read(RecordOf(appState.currentGame, mainPicks));
-    DecodeList(record, appState.ShuffleTable, mainPicks);
+    DecodeList(record, appState.ShuffleTable.Slots(mainPicks));
     if (HasBonus(appState.gameType)) {
         record = file.Read(RecordOf(appState.currentGame, bonusPicks));
-        DecodeList(record, appState.ShuffleTable, bonusPicks);
+        DecodeList(record, appState.ShuffleTable.Slots(bonusPicks));
     }
     // QUIRK SHUFFLE-OPTION-BONUS-1: the option is looked for in the record read last, which in a game with a bonus is
     // the bonus list's, where no option stands: such a game always comes back without one, and its window opens on
@@ -79,11 +72,11 @@ void LoadShuffleFile() {
 
 void SaveShuffleFile() {
     RecordFile file(PathOf(appState.programDirectory), fileSizes.recordLength, fileSizes.recordCount);
-    std::string mainRecord = EncodeList(appState.ShuffleTable, mainPicks);
+    std::string mainRecord = EncodeList(appState.ShuffleTable.Slots(mainPicks));
     modUTILS::SetColumns(mainRecord, optionColumn, CodeOfMethod(appState.ShuffleTable(mainPicks, 0)));
     file.Write(RecordOf(appState.currentGame, mainPicks), mainRecord);
     if (HasBonus(appState.gameType)) {
-        file.Write(RecordOf(appState.currentGame, bonusPicks), EncodeList(appState.ShuffleTable, bonusPicks));
+        file.Write(RecordOf(appState.currentGame, bonusPicks), EncodeList(appState.ShuffleTable.Slots(bonusPicks)));
     }
     file.Close();
 }

@@ -414,6 +414,18 @@ TEST_F(RefreshingTheHistory, AnEmptyHistoryHasTablesOfOneRow) {
     EXPECT_EQ(frmMainForm.grdHot.RowCount(), 0);
 }
 
+TEST_F(RefreshingTheHistory, BeforeAReloadTheChosenPicksAreSavedTooIfTheirWindowIsOpen) {
+    appState.PlayTable(mainPicks, 1, 1) = 12;
+    appState.playsDirty = true;
+    appState.ShuffleTable(mainPicks, 1) = 30;
+    SaveBeforeReload();
+    EXPECT_EQ(directory.Read("PLAYS01.CDB").substr(5, 2), "12");
+    EXPECT_EQ(directory.Read("SHUFFLE.CDB").substr(0, 2), "  ");
+    appState.shuffleWindowOpen = true;
+    SaveBeforeReload();
+    EXPECT_EQ(directory.Read("SHUFFLE.CDB").substr(0, 2), "30");
+}
+
 TEST_F(RefreshingTheHistory, DirtyPlaysAndDrawsAreSavedHistoryFirst) {
     appState.HistoryTable(1, 0) = 33;
     appState.historyDirty = true;

@@ -29,6 +29,13 @@ TEST(IsPickText, EmptyCellsAndTheLettersOfBonusAreNoPicks) {
     }
 }
 
+TEST(PickDescription, TellsAPickAndWhetherItIsChosen) {
+    EXPECT_EQ(PickDescription("17", true), "17, chosen");
+    EXPECT_EQ(PickDescription("17", false), "17");
+    EXPECT_EQ(PickDescription("N", true), "");
+    EXPECT_EQ(PickDescription("", false), "");
+}
+
 TEST(TogglePickIn, APickGoesIntoTheFirstEmptySlot) {
     List own{4, -1, 9, -1};
     EXPECT_EQ(TogglePickIn(own, {}, 7, 0), Toggled::PutOn);

@@ -106,10 +106,32 @@ TEST(HotTables, AreMarkedStaleAllButHotNumbers) {
     EXPECT_TRUE(appState.noHitterStale);
 }
 
-TEST(ChosenPicks, HaveRoomForAHundredInEachListBehindTheRowOfTheOption) {
-    const AppState state;
-    EXPECT_EQ(state.ShuffleTable.Columns(), 2);
-    EXPECT_EQ(state.ShuffleTable.Rows(), 101);
+TEST(ChosenPicks, AreNoneAtFirstInAHundredSlotsOfEachListBehindTheOption) {
+    const ChosenPicks chosen;
+    for (const PickColumn list : {mainPicks, bonusPicks}) {
+        EXPECT_EQ(chosen(list, 0), 0);
+        for (int slot = 1; slot <= 100; ++slot) {
+            EXPECT_EQ(chosen(list, slot), -1) << slot;
+        }
+        EXPECT_THROW((void)chosen(list, 101), RuntimeFailure);
+        EXPECT_THROW((void)chosen(list, -1), RuntimeFailure);
+    }
+    EXPECT_THROW((void)chosen(2, 1), RuntimeFailure);
+}
+
+TEST(ChosenPicks, TheSlotsOfAListAreItsCellsFromOneToAHundred) {
+    ChosenPicks chosen;
+    chosen(mainPicks, 0) = 3;
+    chosen(mainPicks, 1) = 10;
+    chosen(mainPicks, 100) = 11;
+    chosen(bonusPicks, 1) = 20;
+    chosen(bonusPicks, 100) = 21;
+    EXPECT_EQ(chosen.Slots(mainPicks).size(), 100U);
+    EXPECT_EQ(chosen.Slots(mainPicks).front(), 10);
+    EXPECT_EQ(chosen.Slots(mainPicks).back(), 11);
+    EXPECT_EQ(chosen.Slots(bonusPicks).front(), 20);
+    chosen.Slots(bonusPicks).back() = 22;
+    EXPECT_EQ(chosen(bonusPicks, 100), 22);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
 #include "forms/PrintForm.h"
+#include "forms/ShuffleForm.h"
 #include "platform/Application.h"
 #include "platform/CloseDown.h"
 #include "platform/Services.h"
@@ -37,7 +38,8 @@ constexpr Form registered = {&form.window, Renew<form>};
 
 /// Every form of the program.
 constexpr Form forms[] = {registered<frmMainForm>, registered<frmNewGame>, registered<ahcCalendar>,
-                          registered<frmPlays>,    registered<frmPrint>,   registered<frmHelpBox>};
+                          registered<frmPlays>,    registered<frmPrint>,   registered<frmShuffle>,
+                          registered<frmHelpBox>};
 
 void ResetForms() {
     CloseForms();

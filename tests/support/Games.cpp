@@ -140,9 +140,7 @@ void SetUpGame(const Game& game) {
     appState.historyViewLast = -1;
     static const PlayPicks emptyPlays = EmptyPlays();
     appState.PlayTable = emptyPlays;
-    appState.ShuffleTable = Table(2, 1 + chosenPicks, -1);
-    appState.ShuffleTable(mainPicks, 0) = 0;
-    appState.ShuffleTable(bonusPicks, 0) = 0;
+    appState.ShuffleTable = ChosenPicks();
 }
 
 void SetUpDraws(const std::vector<Draw>& draws) {

@@ -6,6 +6,7 @@
 #include "forms/NewGameForm.h"
 #include "forms/PlaysForm.h"
 #include "forms/PrintForm.h"
+#include "forms/ShuffleForm.h"
 #include "history/HistoryFile.h"
 #include "platform/Application.h"
 #include "platform/controls/Window.h"
@@ -203,6 +204,9 @@ std::vector<QWidget*> RunningProgram::OpenWindows() const {
         if (auto* const widget = dynamic_cast<QWidget*>(window->view)) {
             windows.push_back(widget);
         }
+    }
+    if (auto* const shuffle = dynamic_cast<QWidget*>(frmShuffle.window.view)) {
+        windows.push_back(shuffle);
     }
     return windows;
 }

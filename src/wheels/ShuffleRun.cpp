@@ -1,0 +1,169 @@
+#include "wheels/ShuffleRun.h"
+
+#include "forms/PlaysForm.h"
+#include "platform/Application.h"
+#include "platform/Boxes.h"
+#include "platform/Services.h"
+#include "plays/PlayFile.h"
+#include "plays/PlayScreen.h"
+#include "plays/PlaySlips.h"
+#include "wheels/FullWheel.h"
+#include "wheels/PartialWheel.h"
+#include "wheels/ShufflePass.h"
+#include "wheels/TotalPlays.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <span>
+
+namespace ballhaven {
+
+namespace {
+
+bool IsPick(std::int16_t slot) {
+    return slot >= 0;
+}
+
+/// What a pass deals: of the chosen picks those in as many slots of the list as the game has different ones, in their
+/// order without the holes.
+PickPass PassOf(PickColumn list, int low, int high, int pickCount) {
+    const int slotsRead = std::clamp(low == 0 ? high + 1 : high, 0, chosenPicks);
+    const auto slots = appState.ShuffleTable.Slots(list).first(static_cast<std::size_t>(slotsRead));
+    PickPass pass{list, {}, std::clamp(pickCount, 1, picksPerPlay)};
+    std::ranges::copy_if(slots, std::back_inserter(pass.pool), IsPick);
+    return pass;
+}
+
+/// The passes of a run in the current game: the main picks, and the bonus picks where it draws any.
+std::vector<PickPass> PassesOfGame() {
+    std::vector<PickPass> passes = {PassOf(mainPicks, appState.mainLow, appState.mainHigh, appState.mainPickCount)};
+    if (HasBonus(appState.gameType) && appState.bonusPickCount > 0) {
+        passes.push_back(PassOf(bonusPicks, appState.bonusLow, appState.bonusHigh, appState.bonusPickCount));
+    }
+    return passes;
+}
+
+bool HasEnoughPicks(const PickPass& pass) {
+    if (std::ssize(pass.pool) > pass.slotCount) {
+        return true;
+    }
+    const std::string kind = pass.pickColumn == mainPicks ? "main" : "bonus";
+    platform::Tell("You need to select at least " + std::to_string(pass.slotCount + 1) + " " + kind +
+                   " picks to shuffle or wheel.");
+    return false;
+}
+
+/// The highest play with a main pick in one of the game's slots, 0 if there is none.
+int LastUsedPlay(const PlayPicks& table, int slotCount) {
+    int play = playCount;
+    while (play > 0 &&
+           std::ranges::none_of(table.Slots(mainPicks, play).first(static_cast<std::size_t>(slotCount)), IsPick)) {
+        --play;
+    }
+    return play;
+}
+
+/// Empties the plays if the user wants it; whether they are empty now.
+bool ClearsPlays() {
+    if (!platform::Ask("Would you like to clear all of the Play Slips first?", platform::BoxIcon::Question)) {
+        return false;
+    }
+    ClearAllPlays();
+    platform::ProcessPendingEvents();
+    return true;
+}
+
+/// The last play of a run that follows one in use; ties go to the even number.
+int LastPlayOf(WheelMode mode, double total, int lastUsedPlay) {
+    return mode == WheelMode::FullWheel ? playCount : static_cast<int>(std::nearbyint(total + lastUsedPlay));
+}
+
+void TellNoRoom(WheelMode mode) {
+    const std::string what = mode == WheelMode::Shuffle ? "shuffle" : "wheel";
+    platform::Tell("You do not have enough empty plays to do this " + what + "\nPlease erase some plays and try again",
+                   platform::BoxIcon::Information);
+}
+
+/// The plays of a run, behind those that stay in use; none where there is no room, after a message.
+std::optional<PlayStretch> FindPlays(WheelMode mode, double total, int slotCount) {
+    const int usedBefore = LastUsedPlay(appState.PlayTable, slotCount);
+    const int used = usedBefore != 0 && ClearsPlays() ? 0 : usedBefore;
+    const int last = LastPlayOf(mode, total, used);
+    if (last > playCount || used + 1 > last) {
+        TellNoRoom(mode);
+        return std::nullopt;
+    }
+    return PlayStretch{used + 1, last, last};
+}
+
+void RunPass(WheelMode mode, const PickPass& pass, PlayStretch& plays) {
+    switch (mode) {
+        case WheelMode::Shuffle:
+            ShufflePass(pass, plays, appState.PlayTable, platform::services.drawByChance);
+            break;
+        case WheelMode::PartialWheel:
+            PartialWheelPass(pass, plays, appState.PlayTable);
+            break;
+        case WheelMode::FullWheel:
+            FullWheelPass(pass, plays, appState.PlayTable);
+            break;
+    }
+}
+
+std::string NameOf(int play) {
+    std::string slip;
+    std::string line;
+    PlaySlipLabel(play, slip, line);
+    return slip + line;
+}
+
+RunResult ResultOf(const PlayStretch& plays) {
+    if (plays.lastPlay < 1) {
+        return {.end = RunResult::End::Done};
+    }
+    return {RunResult::End::Done, NameOf(plays.firstPlay), NameOf(plays.lastPlay),
+            std::to_string(plays.lastPlay + 1 - plays.firstPlay)};
+}
+
+/// Brings the new plays into the Play Slips window, unless it shows some of them.
+void GoToSlipOf(const PlayStretch& plays) {
+    // QUIRK SLIP-0-1: after a Full Wheel that was declined on empty slips the window goes to slip 0, on which there are
+    // no plays: its boards are empty and take no picks. Habits rest on it.
+    const bool madeAny = plays.lastPlay >= 1;
+    const std::int16_t firstSlip = madeAny ? SlipOfPlay(plays.firstPlay) : std::int16_t{0};
+    const std::int16_t lastSlip = madeAny ? SlipOfPlay(plays.lastPlay) : std::int16_t{0};
+    if (appState.currentSlip < firstSlip || appState.currentSlip > lastSlip) {
+        appState.currentSlip = firstSlip;
+    }
+    ShowSlipNumber(appState.currentSlip);
+}
+
+}  // namespace
+
+RunResult RunShuffleOrWheel(WheelMode mode, std::string_view totalPlays) {
+    const std::vector<PickPass> passes = PassesOfGame();
+    if (!std::ranges::all_of(passes, HasEnoughPicks)) {
+        return {};
+    }
+    const std::optional<double> total = mode == WheelMode::FullWheel ? 0 : TotalPlaysOf(totalPlays);
+    if (!total) {
+        platform::Tell("Total Plays:\n\nEnter a number from 1 To 5000");
+        return {.end = RunResult::End::BadTotal};
+    }
+    std::optional<PlayStretch> plays = FindPlays(mode, *total, passes.front().slotCount);
+    if (!plays) {
+        return {};
+    }
+    for (const PickPass& pass : passes) {
+        RunPass(mode, pass, *plays);
+    }
+    if (appState.playsWindowOpen) {
+        GoToSlipOf(*plays);
+    }
+    RefreshPlayGrids();
+    appState.playsDirty = true;
+    return ResultOf(*plays);
+}
+
+}  // namespace ballhaven
