@@ -36,8 +36,8 @@ const platform::PlacedControl places[] = {
     // clang-format off
     {frmShuffle.fraShuffle[0],   "fraShuffle",   0, nullptr,       { 120,  120, 4860, 3420}},
     {frmShuffle.lblShuffle[7],   "lblShuffle",   7, input,         { 120,  330, 1920,  210}},
-    {frmShuffle.cmdErasePlay[5], "cmdErasePlay", 5, input,         {2040,  255,  300,  300}},
     {frmShuffle.grdShuffle,      "grdShuffle",  -1, input,         { 120,  585, 2040, 2235}, "Chosen picks"},
+    {frmShuffle.cmdErasePlay[5], "cmdErasePlay", 5, input,         {2040,  285,  300,  300}},
     {frmShuffle.lblShuffle[3],   "lblShuffle",   3, input,         {2400,  615, 2340,  210}},
     {frmShuffle.lblShuffle[4],   "lblShuffle",   4, input,         {2400,  840, 2340,  420}},
     {frmShuffle.lblShuffle[5],   "lblShuffle",   5, input,         {2400, 1440, 2340,  210}},

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <algorithm>
 
 namespace ballhaven {
 namespace {
@@ -79,6 +79,12 @@ TEST_F(TheShuffleForm, HasItsTexts) {
     }
     EXPECT_TRUE(*frmShuffle.lblShuffle[3].bold);
     EXPECT_TRUE(*frmShuffle.lblShuffle[5].bold);
+}
+
+TEST_F(TheShuffleForm, TheKeyboardComesToTheBoardFirstAndNotToTheEraser) {
+    const auto& controls = frmShuffle.window.controls;
+    EXPECT_LT(std::ranges::find(controls, &frmShuffle.grdShuffle),
+              std::ranges::find(controls, &frmShuffle.cmdErasePlay[5]));
 }
 
 TEST_F(TheShuffleForm, BeginsWithEmptyBoxesAndWithoutAResultAgain) {
