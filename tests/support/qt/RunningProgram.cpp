@@ -199,14 +199,11 @@ QWidget& RunningProgram::GameDialog() const {
 
 std::vector<QWidget*> RunningProgram::OpenWindows() const {
     std::vector<QWidget*> windows = {&MainWindow()};
-    for (const platform::Window* window :
-         {&frmNewGame.window, &ahcCalendar.window, &frmPlays.window, &frmPrint.window, &frmHelpBox.window}) {
+    for (const platform::Window* window : {&frmNewGame.window, &ahcCalendar.window, &frmShuffle.window,
+                                           &frmPlays.window, &frmPrint.window, &frmHelpBox.window}) {
         if (auto* const widget = dynamic_cast<QWidget*>(window->view)) {
             windows.push_back(widget);
         }
-    }
-    if (auto* const shuffle = dynamic_cast<QWidget*>(frmShuffle.window.view)) {
-        windows.push_back(shuffle);
     }
     return windows;
 }
