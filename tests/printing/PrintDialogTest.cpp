@@ -10,6 +10,7 @@
 #include "support/qt/TestWindow.h"
 
 #include <QCheckBox>
+#include <QTest>
 
 #include <string>
 #include <vector>
@@ -197,6 +198,13 @@ TEST_F(PrintDialog, TheKeyboardTicksABoxToo) {
         EXPECT_EQ(Kept(), "010000");
         ClickToClose("cmdPrint(0)");
     });
+}
+
+TEST_F(PrintDialog, EscapeCancelsIt) {
+    StartWith("100000");
+    InDialog([] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
+    EXPECT_FALSE(frmPrint.window.IsLoaded());
+    EXPECT_TRUE(titles.empty());
 }
 
 TEST_F(PrintDialog, CannotBeMadeLargerButSmaller) {

@@ -81,6 +81,9 @@ WatchedFiles::WatchedFiles() {
     fileSystem.rename = [this, system](const std::string& from, const std::string& to) {
         return Watch("rename", 0, [&] { return system.rename(from, to); });
     };
+    fileSystem.renameToFree = [this, system](const std::string& from, const std::string& to) {
+        return Watch("renameToFree", 0, [&] { return system.renameToFree(from, to); });
+    };
     fileSystem.remove = [this, system](const std::string& path) {
         return Watch("remove", 0, [&] { return system.remove(path); });
     };

@@ -1,6 +1,7 @@
 #include "platform/files/DurableFile.h"
 
 #include "platform/files/FileSystem.h"
+#include "platform/files/Paths.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -13,6 +14,9 @@ namespace ballhaven::platform {
 namespace {
 
 constexpr std::int64_t chunkSize = 64 * 1024;
+
+/// Names that are tried for a new file.
+constexpr int mostCopies = 9999;
 
 [[noreturn]] void Fail(int errorNumber) {
     throw std::system_error(errorNumber, std::generic_category());
@@ -142,6 +146,19 @@ class TemporaryFile {
         renamed = true;
     }
 
+    /// False where something bears the name already.
+    [[nodiscard]] bool RenameToFree(const std::string& target) {
+        try {
+            Checked([&] { return fileSystem.renameToFree(path, target); });
+            renamed = true;
+        } catch (const std::system_error& error) {
+            if (error.code() != std::errc::file_exists) {
+                throw;
+            }
+        }
+        return renamed;
+    }
+
   private:
     std::string path;
     OpenFile file;
@@ -236,6 +253,39 @@ void ReplaceHead(const std::string& path, std::string_view head, std::int64_t ta
     temporary.File().Close();
     temporary.RenameTo(realPath);
     FlushDirectory(directory);
+}
+
+class NewFile::Temporary : public TemporaryFile {
+  public:
+    using TemporaryFile::TemporaryFile;
+};
+
+NewFile::NewFile(std::string folderPath, std::string nameStem, std::string nameEnding)
+    : folder(WithSeparator(std::move(folderPath))), stem(std::move(nameStem)), ending(std::move(nameEnding)) {
+    const std::string path = TemporaryPath(PathOf(1));
+    fileSystem.remove(path);  // one that cannot be removed lets the next step fail
+    temporary = std::make_unique<Temporary>(path);
+}
+
+NewFile::~NewFile() = default;
+
+std::string NewFile::PathOf(int copy) const {
+    return folder + stem + (copy == 1 ? std::string() : " (" + std::to_string(copy) + ")") + ending;
+}
+
+std::string NewFile::Save(std::string_view bytes) {
+    const OpenFile directory(folder, FileAccess::Directory);
+    temporary->File().Write(bytes);
+    temporary->File().Flush();
+    temporary->File().Close();
+    int copy = 1;
+    while (!temporary->RenameToFree(PathOf(copy))) {
+        if (++copy > mostCopies) {
+            Fail(EEXIST);
+        }
+    }
+    FlushDirectory(directory);
+    return PathOf(copy);
 }
 
 }  // namespace ballhaven::platform

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -21,5 +22,32 @@ struct FileHead {
 /// error or of a power failure, the file is the old one or the new one. Returns when it is on the disk. Throws
 /// std::system_error; the file is the old one then, except where the flush of the directory, the last step, has failed.
 void ReplaceHead(const std::string& path, std::string_view head, std::int64_t tailOffset);
+
+/// A file that comes into being whole, and never in another one's place. Until it is saved it is empty and its name
+/// ends in ".new"; at the end of the scope it is gone, unless it was saved.
+class NewFile {
+  public:
+    /// Begins a file in a folder, with a name of two parts such as "Report" and ".pdf". Removes what a crash left of an
+    /// earlier one. Throws std::system_error where the folder takes no file.
+    NewFile(std::string folderPath, std::string nameStem, std::string nameEnding);
+    ~NewFile();
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+
+    /// Saves the file with these bytes, for the user alone to read, under the first name that is free: "Report.pdf",
+    /// else "Report (2).pdf", and so on. Returns its path when it is on the disk. Throws std::system_error; there is no
+    /// file then, except where the flush of the directory, the last step, has failed.
+    std::string Save(std::string_view bytes);
+
+  private:
+    class Temporary;
+
+    [[nodiscard]] std::string PathOf(int copy) const;
+
+    const std::string folder;
+    const std::string stem;
+    const std::string ending;
+    std::unique_ptr<Temporary> temporary;
+};
 
 }  // namespace ballhaven::platform

@@ -3,6 +3,7 @@
 #include "platform/files/CodePage.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -91,6 +92,17 @@ int Rename(const std::string& from, const std::string& to) {
     return Answer(::rename(from.c_str(), to.c_str()));
 }
 
+// A file system that does not know the step takes the new name as a second one, if nothing bears it, and drops the
+// first.
+int RenameToFree(const std::string& from, const std::string& to) {
+    const int result = Answer(::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE));
+    if (result != -EINVAL && result != -ENOSYS) {
+        return result;
+    }
+    const int linked = Answer(::link(from.c_str(), to.c_str()));
+    return linked < 0 ? linked : Answer(::unlink(from.c_str()));
+}
+
 int Remove(const std::string& path) {
     return Answer(::unlink(path.c_str()));
 }
@@ -122,6 +134,7 @@ FileSystem SystemFiles() {
             .flush = Flush,
             .close = Close,
             .rename = Rename,
+            .renameToFree = RenameToFree,
             .remove = Remove,
             .lock = Lock,
             .resolve = Resolve};

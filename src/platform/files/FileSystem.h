@@ -45,6 +45,8 @@ struct FileSystem {
     std::function<int(int file)> close;
     /// Replaces what stands under the new name, in one step.
     std::function<int(const std::string& from, const std::string& to)> rename;
+    /// Gives a file a new name in one step; EEXIST where something stands under that already.
+    std::function<int(const std::string& from, const std::string& to)> renameToFree;
     std::function<int(const std::string& path)> remove;
     /// Locks a directory against every other one that locks it, until it is closed; EWOULDBLOCK where one does already.
     std::function<int(int directory)> lock;

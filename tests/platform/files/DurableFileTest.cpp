@@ -451,5 +451,77 @@ TEST_F(DurableFileTest, ADiskThatIsFullAfterAnyNumberOfBytesLeavesTheOldFile) {
     EXPECT_EQ(directory.Files(), (Files{{"DATA", head + "tail"}}));
 }
 
+class NewFileTest : public DurableFileTest {
+  protected:
+    /// Saves a report, and the path under which it stands.
+    [[nodiscard]] std::string Save(const std::string& bytes) const {
+        return NewFile(directory.Path(), "Report", ".pdf").Save(bytes);
+    }
+};
+
+TEST_F(NewFileTest, StandsUnderItsNameWhenItIsSavedAndNotBefore) {
+    NewFile file(directory.Path(), "Report", ".pdf");
+    EXPECT_EQ(directory.Files(), (Files{{"Report.pdf.new", ""}}));
+    EXPECT_EQ(file.Save("pages"), directory / "Report.pdf");
+    EXPECT_EQ(directory.Files(), (Files{{"Report.pdf", "pages"}}));
+}
+
+TEST_F(NewFileTest, NeverTakesAnotherOnesPlace) {
+    directory.Write("Report.pdf", "the user's");
+    EXPECT_EQ(Save("second"), directory / "Report (2).pdf");
+    EXPECT_EQ(Save("third"), directory / "Report (3).pdf");
+    EXPECT_EQ(directory.Files(),
+              (Files{{"Report.pdf", "the user's"}, {"Report (2).pdf", "second"}, {"Report (3).pdf", "third"}}));
+}
+
+TEST_F(NewFileTest, ThatIsNotSavedLeavesNothing) {
+    { const NewFile file(directory.Path(), "Report", ".pdf"); }
+    EXPECT_EQ(directory.Files(), Files{});
+}
+
+TEST_F(NewFileTest, RemovesWhatACrashLeft) {
+    directory.Write("Report.pdf.new", "half");
+    EXPECT_EQ(Save("pages"), directory / "Report.pdf");
+    EXPECT_EQ(directory.Files(), (Files{{"Report.pdf", "pages"}}));
+}
+
+TEST_F(NewFileTest, InAFolderThatDoesNotExistFailsAtOnce) {
+    EXPECT_EQ(ErrorOf([this] { const NewFile file(directory / "missing", "Report", ".pdf"); }), ENOENT);
+}
+
+TEST_F(NewFileTest, OnAFullDiskLeavesNothing) {
+    support::WatchedFiles watched;
+    watched.room = 3;
+    EXPECT_EQ(ErrorOf([this] { (void)Save("pages"); }), ENOSPC);
+    EXPECT_EQ(directory.Files(), Files{});
+}
+
+TEST_F(NewFileTest, ReachesTheDiskBeforeItBearsItsName) {
+    support::WatchedFiles watched;
+    (void)Save("pages");
+    EXPECT_EQ(watched.Names(), (Names{"remove", "open CreateNew", "open Directory", "write", "flush", "close",
+                                      "renameToFree", "flush", "close"}));
+}
+
+TEST_F(NewFileTest, AnErrorInAnyCallLeavesNothingOrTheWholeFile) {
+    // The first call may fail; the last two come when the file has its name.
+    for (std::size_t failing = 1; failing < 7; ++failing) {
+        support::WatchedFiles watched;
+        watched.before = [failing](std::size_t call) { return call == failing ? EIO : 0; };
+        EXPECT_EQ(ErrorOf([this] { (void)Save("pages"); }), EIO) << failing;
+        EXPECT_EQ(directory.Files(), Files{}) << failing;
+    }
+    support::WatchedFiles watched;
+    watched.before = [](std::size_t call) { return call == 7 ? EIO : 0; };
+    EXPECT_EQ(ErrorOf([this] { (void)Save("pages"); }), EIO);
+    EXPECT_EQ(directory.Files(), (Files{{"Report.pdf", "pages"}}));
+}
+
+TEST_F(NewFileTest, GivesUpWhereNoNameIsFree) {
+    fileSystem.renameToFree = [](const std::string&, const std::string&) { return -EEXIST; };
+    EXPECT_EQ(ErrorOf([this] { (void)Save("pages"); }), EEXIST);
+    EXPECT_EQ(directory.Files(), Files{});
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

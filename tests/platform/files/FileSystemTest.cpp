@@ -160,6 +160,19 @@ TEST_F(FileSystemTest, RenameReplacesTheFileUnderTheNewName) {
     EXPECT_EQ(files.rename(directory / "a", directory / "b"), -ENOENT);
 }
 
+TEST_F(FileSystemTest, RenameToFreeGivesWayToWhatBearsTheName) {
+    directory.Write("from", "new");
+    directory.Write("to", "old");
+    EXPECT_EQ(files.renameToFree(directory / "from", directory / "to"), -EEXIST);
+    EXPECT_EQ(directory.Read("to"), "old");
+    EXPECT_EQ(directory.Read("from"), "new");
+
+    EXPECT_EQ(files.renameToFree(directory / "from", directory / "free"), 0);
+    EXPECT_EQ(directory.Read("free"), "new");
+    EXPECT_FALSE(directory.Has("from"));
+    EXPECT_EQ(files.renameToFree(directory / "missing", directory / "other"), -ENOENT);
+}
+
 TEST_F(FileSystemTest, RemoveTakesAFileAwayAndSaysWhenThereIsNone) {
     directory.Write("a", "");
     EXPECT_EQ(files.remove(directory / "a"), 0);

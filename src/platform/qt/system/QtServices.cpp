@@ -1,6 +1,7 @@
 #include "platform/qt/system/QtServices.h"
 
 #include "platform/Services.h"
+#include "platform/qt/printing/DefaultPrinter.h"
 #include "platform/qt/system/ProgramInstance.h"
 #include "platform/qt/system/SystemSettings.h"
 #include "platform/qt/windows/MessageDialog.h"
@@ -58,6 +59,7 @@ void InstallQtServices(QtToolkit& qtToolkit, ProgramInstance& instance) {
         std::_Exit(exitCode);
     };
     services.beep = [] { QApplication::beep(); };
+    services.openPrinter = OpenDefaultPrinter;
     services.executableDirectory = ExecutableDirectory;
     services.systemDirectory = SystemDirectory;
     services.shortDatePattern = ShortDatePattern;
