@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build qt6-base-dev "qt6-svg-dev|libqt6svg6-dev")
 run_packages=("${build_packages[@]}" fonts-liberation)
-test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev xvfb openbox xdotool x11-utils x11-apps)
+test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev xvfb openbox xdotool x11-utils x11-apps poppler-utils)
 check_packages=("${test_packages[@]}" clang-format-14 clang-tidy-14 ccache)
 
 is_installed() {
