@@ -9,6 +9,8 @@ def works: [
     {name: "NoHitters",  time: 1000, text: "1 ms"},
     {name: "GameSwitch", time: 10,   text: "10 ms beside the flushes"},
     {name: "SavePlays",  ratio: 1.3, text: "1.3 times the rival"},
+    {name: "Shuffle",    time: 20,   text: "20 ms"},
+    {name: "FullWheel",  time: 2,    text: "2 ms"},
     {name: "RedrawBoards", time: 16, text: "16 ms"},
     {name: "ScrollLog",  time: 2,    text: "2 ms a key"},
     {name: "TypePick",   time: 2,    text: "2 ms a key"},

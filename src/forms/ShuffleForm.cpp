@@ -120,6 +120,7 @@ void LayOutShuffleForm() {
     }
     SetUpBoard();
     frmShuffle.window.fixedSize = true;
+    frmShuffle.window.frame = platform::Window::frameHeightWithoutMenu;
 }
 
 void ArrangeShuffleForm(int gameType) {
@@ -140,7 +141,7 @@ void ArrangeShuffleForm(int gameType) {
     frmShuffle.cmdStart.SetTop(edge + height - buttonHeight);
     frmShuffle.cmdClose.SetTop(edge + height - buttonHeight);
     frmShuffle.window.Resize(clientWidth + platform::Window::frameWidth,
-                             edge + height + edge + platform::Window::frameHeight);
+                             edge + height + edge + frmShuffle.window.frame);
     frmShuffle.window.MoveTo(windowLeft, windowTop);
 }
 

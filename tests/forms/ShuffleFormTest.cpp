@@ -40,9 +40,8 @@ TEST_F(TheShuffleForm, StandsInItsPlaceWithRoomForAllOfIt) {
         for (const platform::Control* control : frmShuffle.window.controls) {
             const int width = control->container == nullptr ? frmShuffle.window.Width() - platform::Window::frameWidth
                                                             : control->container->bounds->width;
-            const int height = control->container == nullptr
-                                   ? frmShuffle.window.Height() - platform::Window::frameHeight
-                                   : control->container->bounds->height;
+            const int height = control->container == nullptr ? frmShuffle.window.Height() - frmShuffle.window.frame
+                                                             : control->container->bounds->height;
             EXPECT_LE(control->bounds->left + control->bounds->width, width) << control->name << gameType;
             EXPECT_LE(control->bounds->top + control->bounds->height, height) << control->name << gameType;
         }
