@@ -124,6 +124,21 @@ agree() {
     keys alt+y
 }
 
+# A home of its own for the program, without a spooler, and with a viewer that only notes what it is given. What is printed
+# is in the folder `documents`.
+without_printer() {
+    export HOME="$work/a home" XDG_CONFIG_HOME="$work/config" CUPS_SERVER="$work/no spooler"
+    documents=$HOME/Documents
+    mkdir -p "$HOME" "$work/bin"
+    cat >"$work/bin/xdg-open" <<'VIEWER'
+#!/bin/sh
+echo "$1" >>"$HOME/shown"
+VIEWER
+    chmod +x "$work/bin/xdg-open"
+    export PATH="$work/bin:$PATH"
+    unset PRINTER LPDEST BROWSER
+}
+
 # Opens a display of its own, with a window manager.
 open_display() {
     : >"$work/display"

@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Reads the help of the built program as a person does: opens the instructions and what is said about the program by
-# mouse, from the main window and from the Play Slips window, scrolls, takes the focus away and sees them close. Ends at
-# the first thing that is not as it must be.
+# mouse, from the main window and from the Play Slips window, scrolls, prints the instructions on a machine without a
+# printer, takes the focus away and sees them close. Ends at the first thing that is not as it must be.
 #
-#   tests/program/help.sh BALLHAVEN BALLHAVEN_SAMPLE [FOLDER FOR SCREENSHOTS]
+#   tests/program/help.sh BALLHAVEN BALLHAVEN_SAMPLE [FOLDER FOR SCREENSHOTS AND PAGES]
 set -uo pipefail
 ballhaven=$1
 sample=$2
 pictures=${3:-}
 source "$(dirname "${BASH_SOURCE[0]}")/desk.sh"
+without_printer
 
 title="Ballhaven Help"
 has_help() { has_title "$title"; }
@@ -30,6 +31,13 @@ open_from_slips() { open_help "$slips" 1935 "$1"; }
 is_active() { [[ $(xdotool getactivewindow) == "$1" ]]; }
 looks() { xwd -silent -id "$help" | cksum; }
 
+# What is printed, as lines without the blanks before them; how often a line of a pattern is there.
+paper() { pdftotext -layout "$documents/Ballhaven Instructions.pdf" - | tr -d '\f' | sed 's/^ *//'; }
+lines_of() { paper | grep -cE "^$1\$"; }
+expect_lines() { # how many, pattern
+    [[ $(lines_of "$2") == "$1" ]] || fail "on the paper are not $1 lines of $2"
+}
+
 # Another program beside this one.
 open_note() {
     xmessage -geometry "+$((1000 * scale))+0" -title Note "Call the agency on Friday" &
@@ -50,6 +58,20 @@ keys Next
 [[ $(looks) != "$first" ]] || fail "the instructions do not scroll"
 keys Home
 [[ $(looks) == "$first" ]] || fail "the instructions do not scroll back"
+click_in "$help" 0 420 240
+until_true "the instructions are printed" test -s "$documents/Ballhaven Instructions.pdf"
+until_true "they are shown" grep -q "/Ballhaven%20Instructions.pdf$" "$HOME/shown"
+pages=$(pdfinfo "$documents/Ballhaven Instructions.pdf" | awk '/^Pages:/ { print $2 }')
+((pages > 3)) || fail "the instructions have only $pages pages"
+expect_lines "$pages" "Ballhaven Instructions"
+for ((page = 1; page <= pages; page++)); do
+    expect_lines 1 "[0-9/]+ +Page $page"
+done
+expect_lines 12 "-{102}"
+expect_lines 1 "Main Screen: \(Select Game, History Set, Hot Table\)"
+expect_lines 1 "wheel. When it reaches the last pick in the shuffle grid, it starts over"
+expect_lines 1 "you move in the Historical Log."
+[[ -z $pictures ]] || pdftoppm -r 80 -png "$documents/Ballhaven Instructions.pdf" "$pictures/paper"
 click_at 6000 7500
 has_help >/dev/null || fail "a click on the main window closed what is modal to it"
 click_in "$note" 0 300 100

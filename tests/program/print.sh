@@ -11,17 +11,7 @@ pictures=${3:-}
 tests=$(dirname "${BASH_SOURCE[0]}")/..
 source "$tests/program/desk.sh"
 
-# A home of its own, without a spooler, and with a viewer that only notes what it is given.
-export HOME="$work/a home" XDG_CONFIG_HOME="$work/config" CUPS_SERVER="$work/no spooler"
-documents=$HOME/Documents
-mkdir -p "$HOME" "$work/bin"
-cat >"$work/bin/xdg-open" <<'VIEWER'
-#!/bin/sh
-echo "$1" >>"$HOME/shown"
-VIEWER
-chmod +x "$work/bin/xdg-open"
-export PATH="$work/bin:$PATH"
-unset PRINTER LPDEST BROWSER
+without_printer
 
 # The places of the dialog's controls, in twips.
 box() { click_in "$dialog" 0 400 $((307 + 360 * $1)); }
