@@ -6,6 +6,7 @@
 #include "state/FullSizeFile.h"
 #include "state/modUTILS.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,11 @@ std::string PathOf(const std::string& directory, int slot) {
 }
 
 void DecodePlay(std::string_view record, PlayPicks& plays, int play) {
+    if (record.find_first_not_of(' ') == std::string_view::npos) {  // most plays are empty
+        std::ranges::fill(plays.Slots(mainPicks, play), std::int16_t{-1});
+        std::ranges::fill(plays.Slots(bonusPicks, play), std::int16_t{-1});
+        return;
+    }
     plays(mainPicks, play, 0) = MethodOfCode(record.substr(methodColumn - 1, methodCodeWidth));
     for (const int pickColumn : {mainPicks, bonusPicks}) {
         for (int slot = 1; slot <= picksPerPlay; ++slot) {
