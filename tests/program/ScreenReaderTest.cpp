@@ -75,6 +75,17 @@ TEST_F(ScreenReader, TheKeyboardGoesAsTheEyeDoes) {
     }
 }
 
+TEST_F(ScreenReader, TheLogIsOneTable) {
+    QAccessibleTableInterface* const log = Told("grdHist").tableInterface();
+    ASSERT_NE(log, nullptr);
+    EXPECT_EQ(log->columnCount(), 11);
+    EXPECT_EQ(log->columnDescription(0), QStringLiteral("Date"));
+    EXPECT_EQ(log->columnDescription(1), QStringLiteral("Pick 1"));
+    EXPECT_EQ(log->columnDescription(7), QStringLiteral("Bonus 1"));
+    EXPECT_EQ(log->rowDescription(0), QStringLiteral("01/02/1990"));
+    EXPECT_EQ(log->cellAt(0, 7)->text(QAccessible::Name), QStringLiteral("7"));
+}
+
 TEST_F(ScreenReader, ABoardsCellTellsItsLineItsPickAndWhetherItIsChosen) {
     ChooseFromMenu("mnuView", "mnuViewArray(3)");
     ClickCell("grdPlays(0)", 1, 9 + 7);

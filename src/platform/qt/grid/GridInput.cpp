@@ -246,7 +246,7 @@ void GridInput::OpenEditor(GridCellEditor::Start start, const std::optional<QStr
     pane->ScrollTo(cell);
     const QRect place = pane->CellPlace(cell);
     if (!place.isEmpty()) {
-        editor->Open(*pane->viewport(), place, typed.value_or(pane->CellText(cell)), start);
+        editor->Open(*pane->viewport(), place, typed.value_or(pane->Cells().CellText(cell)), start);
     }
 }
 

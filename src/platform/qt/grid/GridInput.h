@@ -32,6 +32,9 @@ class GridInput : public QObject {
     void SelectCellText();
     [[nodiscard]] bool HasSelectedText() const { return editor->IsOpen() && editor->hasSelectedText(); }
 
+    /// Moves the current cell as an assistive tool asks for it, to one that can be current.
+    void MoveFromOutside(const GridCell& cell);
+
     /// Puts an open editor over its cell after that has moved.
     void PutEditorOverCell();
 
@@ -50,7 +53,6 @@ class GridInput : public QObject {
     bool ServeCellKey(QKeyEvent& key);
     bool MoveByKey(QKeyEvent& key);
     void MoveTo(const GridCell& cell);
-    void MoveFromOutside(const GridCell& cell);
 
     void OpenEditor(GridCellEditor::Start start, const std::optional<QString>& typed = std::nullopt);
     void ShowEditedCell();

@@ -3,6 +3,8 @@
 #include "platform/Guard.h"
 #include "platform/qt/widgets/Conversions.h"
 
+#include <algorithm>
+
 namespace ballhaven::platform {
 
 QString NameOfColumn(const Grid& grid, int column) {
@@ -28,6 +30,30 @@ QString NameOfEditor(const Grid& grid, const GridCell& cell) {
 
 QString NameOfGrid(const Grid& grid) {
     return ToQString(grid.caption->empty() ? *grid.accessibleName : *grid.caption);
+}
+
+bool IsOneTable(const Grid& grid) {
+    return grid.PaneCount() > 1 && grid.Pane(1).firstColumn > grid.Pane(0).lastColumn;
+}
+
+std::vector<GridCell> FirstRowOfTable(const Grid& grid) {
+    std::vector<GridCell> cells;
+    for (int pane = 0; pane < grid.PaneCount(); ++pane) {
+        for (int column = grid.Pane(pane).firstColumn; column <= grid.Pane(pane).lastColumn; ++column) {
+            if (*grid.Column(column).visible) {
+                cells.push_back({pane, 0, column});
+            }
+        }
+    }
+    return cells;
+}
+
+int IndexInTable(const Grid& grid, const GridCell& cell) {
+    const std::vector<GridCell> cells = FirstRowOfTable(grid);
+    const auto found = std::ranges::find(cells, GridCell{cell.pane, 0, cell.column});
+    return cell.row < 0 || found == cells.end()
+               ? -1
+               : cell.row * static_cast<int>(cells.size()) + static_cast<int>(found - cells.begin());
 }
 
 QString NameOfPane(const Grid& grid, int pane) {

@@ -1,5 +1,6 @@
 #include "platform/qt/grid/GridPaneView.h"
 
+#include "platform/qt/grid/GridNames.h"
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QPaintEvent>
@@ -94,6 +95,13 @@ void GridPaneView::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(keyPressed(*event));
 }
 
+void GridPaneView::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    if (focused) {
+        focused();
+    }
+}
+
 void GridPaneView::paintEvent(QPaintEvent* event) {
     const bool whole = event->region().boundingRect().contains(viewport()->rect());
     if (grid.IsOn()) {
@@ -112,8 +120,9 @@ void GridPaneView::scrollContentsBy(int dx, int dy) {
 }
 
 void GridPaneView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    // The toolkit's table would tell assistive tools of a focus also where the keyboard is elsewhere.
-    if (hasFocus()) {
+    // The toolkit's table would tell assistive tools of a focus also where the keyboard is elsewhere, and of cells that
+    // the joined table tells of.
+    if (hasFocus() && !IsOneTable(grid)) {
         QTableView::currentChanged(current, previous);
     } else {
         QAbstractItemView::currentChanged(current, previous);

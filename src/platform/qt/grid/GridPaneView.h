@@ -35,8 +35,9 @@ class GridPaneView : public QTableView {
     /// The cell at a position in the viewport.
     [[nodiscard]] std::optional<GridCell> CellAt(QPoint position) const;
 
-    /// Text of a cell of the pane.
-    [[nodiscard]] QString CellText(const GridCell& cell) const { return cells.CellText(cell); }
+    /// What the pane's table shows.
+    [[nodiscard]] GridPaneModel& Cells() { return cells; }
+    [[nodiscard]] const GridPaneModel& Cells() const { return cells; }
 
     /// Rows that the viewport holds whole.
     [[nodiscard]] int WholeRows() const;
@@ -50,6 +51,9 @@ class GridPaneView : public QTableView {
     /// The current cell was moved from outside, such as by an assistive tool.
     std::function<void(const GridCell& cell)> movedFromOutside;
 
+    /// The pane has got the keyboard.
+    std::function<void()> focused;
+
     /// An editor was asked for from outside.
     std::function<void()> editAsked;
     std::function<void()> scrolled;
@@ -60,6 +64,7 @@ class GridPaneView : public QTableView {
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

@@ -5,6 +5,7 @@
 #include "platform/qt/grid/GridNames.h"
 #include "platform/qt/widgets/Conversions.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 #include <utility>
@@ -41,6 +42,7 @@ void GridWidget::Refresh() {
 
 void GridWidget::ListenTo(GridPaneView& pane) {
     input.ListenTo(pane);
+    pane.focused = [this] { TellKeyboard(); };
     pane.repainted = [this](bool whole) { NotePainted(whole); };
     pane.scrolled = [this] {
         input.PutEditorOverCell();
@@ -95,6 +97,7 @@ void GridWidget::ShowCurrentCell() {
     panes.HandOutTabStops();
     if (hadKeyboard) {
         TakeFocus();
+        TellKeyboard();
     }
     drawnAnew = true;
     RedrawRow(before.row);
@@ -133,6 +136,16 @@ void GridWidget::resizeEvent(QResizeEvent*) {
     if (!panes.Empty()) {
         PlaceParts();
         DrawAnew();
+    }
+}
+
+/// Tells assistive tools which cell has the keyboard. The toolkit does so for a table of its own.
+void GridWidget::TellKeyboard() {
+    const int index = IndexInTable(grid, grid.CurrentCell());
+    if (IsOneTable(grid) && index >= 0 && grid.CurrentRow() < panes.Rows()) {
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild(index);
+        QAccessible::updateAccessibility(&event);
     }
 }
 

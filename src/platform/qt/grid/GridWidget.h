@@ -34,6 +34,11 @@ class GridWidget : public QWidget, public GridView {
     [[nodiscard]] std::optional<int> RowTop(int row) const override;
     [[nodiscard]] int PaneLeft(int pane) const override;
 
+    // For what assistive tools are told.
+    [[nodiscard]] const Grid& Shown() const { return grid; }
+    [[nodiscard]] const GridPanes& Panes() const { return panes; }
+    void MoveByTool(const GridCell& cell) { input.MoveFromOutside(cell); }
+
   protected:
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -45,6 +50,7 @@ class GridWidget : public QWidget, public GridView {
     void PlaceParts();
     void DrawAnew();
     void RedrawRow(int row);
+    void TellKeyboard();
     void NotePainted(bool whole);
     void RaisePainted();
 

@@ -2,6 +2,7 @@
 
 #include "platform/Application.h"
 #include "platform/Services.h"
+#include "platform/qt/grid/JoinedTable.h"
 #include "platform/qt/system/Appearance.h"
 #include "platform/qt/system/EndWatch.h"
 #include "platform/qt/system/ProgramInstance.h"
@@ -52,6 +53,7 @@ QtApplication::QtApplication(int& argc, char** argv) {
     QApplication::setApplicationName(ToQString(ApplicationTitle()));
     QApplication::setDesktopFileName(QStringLiteral("ballhaven"));
     InstallAppearance(parts->application);
+    InstallJoinedTables();
     InstallQtServices(parts->qtToolkit, parts->instance);
     toolkit = &parts->qtToolkit;
     QTimer::singleShot(0, &parts->application, [] { QApplication::setWindowIcon(ProgramIcon()); });  // the window first

@@ -118,21 +118,6 @@ TEST_F(GridAsAModel, NoEditorOpensOnALockedCell) {
     EXPECT_EQ(Editor(), nullptr);
 }
 
-TEST_F(GridAsAModel, AssistiveToolsMeetEachCellOnce) {
-    std::vector<std::string> met;
-    for (int pane = 0; pane < 2; ++pane) {
-        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(PaneView(pane));
-        ASSERT_NE(accessible, nullptr);
-        QAccessibleTableInterface* table = accessible->tableInterface();
-        ASSERT_NE(table, nullptr);
-        for (int column = 0; column < table->columnCount(); ++column) {
-            met.push_back(table->cellAt(2, column)->text(QAccessible::Name).toStdString());
-        }
-    }
-
-    EXPECT_EQ(met, cells[2]);
-}
-
 TEST_F(GridAsAModel, HeadingsForAssistiveToolsStandBesideThoseThatAreShown) {
     grid.Column(3).accessibleHeading = "Pick 3";
 
@@ -140,16 +125,6 @@ TEST_F(GridAsAModel, HeadingsForAssistiveToolsStandBesideThoseThatAreShown) {
     EXPECT_EQ(Pane(1).headerData(2, Qt::Horizontal, Qt::AccessibleTextRole).toString(), QStringLiteral("Pick 3"));
     EXPECT_EQ(Pane(0).headerData(0, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
               QStringLiteral("Historical Log"));
-}
-
-TEST_F(GridAsAModel, AssistiveToolsFindTheCurrentCell) {
-    grid.TakeFocus();
-    grid.GoTo(2, 3);
-
-    QAccessibleInterface* focused = QAccessible::queryAccessibleInterface(PaneView(1))->focusChild();
-
-    ASSERT_NE(focused, nullptr);
-    EXPECT_EQ(focused->text(QAccessible::Name), QStringLiteral("30"));
 }
 
 TEST(BoardsAsModels, AssistiveToolsAreToldMoreOfACellThanItShows) {
