@@ -9,6 +9,7 @@
 #include "platform/qt/system/QtServices.h"
 #include "platform/qt/widgets/Conversions.h"
 #include "platform/qt/windows/QtToolkit.h"
+#include "platform/qt/windows/WindowRole.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -54,6 +55,7 @@ QtApplication::QtApplication(int& argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("ballhaven"));
     InstallAppearance(parts->application);
     InstallJoinedTables();
+    InstallWindowRoles();
     InstallQtServices(parts->qtToolkit, parts->instance);
     toolkit = &parts->qtToolkit;
     QTimer::singleShot(0, &parts->application, [] { QApplication::setWindowIcon(ProgramIcon()); });  // the window first
