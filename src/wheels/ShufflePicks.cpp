@@ -11,6 +11,7 @@
 #include "wheels/ShuffleFile.h"
 
 #include <algorithm>
+#include <span>
 
 namespace ballhaven {
 
@@ -25,16 +26,16 @@ int CellNumberOf(const platform::GridCell& cell) {
 }
 
 /// The slots of a list up to one.
-std::span<const std::int16_t> SlotsTo(int last, PickColumn list) {
-    return appState.ShuffleTable.Slots(list).first(static_cast<std::size_t>(std::clamp(last, 0, chosenPicks)));
+std::span<const std::int16_t> SlotsTo(int last, const ChosenPicks& chosen, PickColumn list) {
+    return chosen.Slots(list).first(static_cast<std::size_t>(std::clamp(last, 0, chosenPicks)));
 }
 
-/// The chosen picks that show on the board.
-BoardPicks ShownPicks(const GameRules& rules) {
+/// The chosen picks that show on the board of a game.
+BoardPicks ShownPicks(const GameRules& rules, const ChosenPicks& chosen) {
     // QUIRK CHOSEN-UNSEEN-1: of each list as many slots are looked at as its highest pick says. A pick behind them is
     // chosen and does not show: the tenth digit of a game from 0 to 9, and others where numbers can repeat, whose board
     // has more cells than that. Habits rest on it.
-    return {SlotsTo(rules.mainHigh, mainPicks), SlotsTo(rules.bonusHigh, bonusPicks)};
+    return {SlotsTo(rules.mainHigh, chosen, mainPicks), SlotsTo(rules.bonusHigh, chosen, bonusPicks)};
 }
 
 void ShowAndSave() {
@@ -50,13 +51,13 @@ std::optional<std::string> ShuffleBoardText(const platform::GridCell& cell) {
 
 void GetShuffleCellStyle(int cell, platform::CellStyle& style) {
     const GameRules rules = CurrentRules();
-    style = BoardCellStyle(rules, ShownPicks(rules), cell);
+    style = BoardCellStyle(rules, ShownPicks(rules, appState.ShuffleTable), cell);
 }
 
 std::string ShuffleCellDescription(const platform::GridCell& cell) {
     const GameRules rules = CurrentRules();
     return PickDescription(ShuffleBoardText(cell).value_or(std::string()),
-                           SlotOfCell(rules, ShownPicks(rules), CellNumberOf(cell)).has_value());
+                           SlotOfCell(rules, ShownPicks(rules, appState.ShuffleTable), CellNumberOf(cell)).has_value());
 }
 
 void ToggleShufflePick() {

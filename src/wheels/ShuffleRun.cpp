@@ -7,6 +7,8 @@
 #include "plays/PlayFile.h"
 #include "plays/PlayScreen.h"
 #include "plays/PlaySlips.h"
+#include "state/AppState.h"
+#include "state/GameRules.h"
 #include "wheels/FullWheel.h"
 #include "wheels/PartialWheel.h"
 #include "wheels/ShufflePass.h"
@@ -14,8 +16,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
-#include <span>
+#include <vector>
 
 namespace ballhaven {
 
@@ -27,19 +30,19 @@ bool IsPick(std::int16_t slot) {
 
 /// What a pass deals: of the chosen picks those in as many slots of the list as the game has different ones, in their
 /// order without the holes.
-PickPass PassOf(PickColumn list, int low, int high, int pickCount) {
+PickPass PassOf(const ChosenPicks& chosen, PickColumn list, int low, int high, int pickCount) {
     const int slotsRead = std::clamp(low == 0 ? high + 1 : high, 0, chosenPicks);
-    const auto slots = appState.ShuffleTable.Slots(list).first(static_cast<std::size_t>(slotsRead));
+    const auto slots = chosen.Slots(list).first(static_cast<std::size_t>(slotsRead));
     PickPass pass{list, {}, std::clamp(pickCount, 1, picksPerPlay)};
     std::ranges::copy_if(slots, std::back_inserter(pass.pool), IsPick);
     return pass;
 }
 
-/// The passes of a run in the current game: the main picks, and the bonus picks where it draws any.
-std::vector<PickPass> PassesOfGame() {
-    std::vector<PickPass> passes = {PassOf(mainPicks, appState.mainLow, appState.mainHigh, appState.mainPickCount)};
-    if (HasBonus(appState.gameType) && appState.bonusPickCount > 0) {
-        passes.push_back(PassOf(bonusPicks, appState.bonusLow, appState.bonusHigh, appState.bonusPickCount));
+/// The passes of a run: the main picks, and the bonus picks where the game draws any.
+std::vector<PickPass> PassesOf(const GameRules& rules, const ChosenPicks& chosen) {
+    std::vector<PickPass> passes = {PassOf(chosen, mainPicks, rules.mainLow, rules.mainHigh, rules.mainPickCount)};
+    if (HasBonus(rules.gameType) && rules.bonusPickCount > 0) {
+        passes.push_back(PassOf(chosen, bonusPicks, rules.bonusLow, rules.bonusHigh, rules.bonusPickCount));
     }
     return passes;
 }
@@ -85,10 +88,9 @@ void TellNoRoom(WheelMode mode) {
                    platform::BoxIcon::Information);
 }
 
-/// The plays of a run, behind those that stay in use; none where there is no room, after a message.
-std::optional<PlayStretch> FindPlays(WheelMode mode, double total, int slotCount) {
-    const int usedBefore = LastUsedPlay(appState.PlayTable, slotCount);
-    const int used = usedBefore != 0 && ClearsPlays() ? 0 : usedBefore;
+/// The plays of a run, behind those in use that are to stay; none where there is no room, after a message.
+std::optional<PlayStretch> FindPlays(WheelMode mode, double total, int lastUsedPlay) {
+    const int used = lastUsedPlay != 0 && ClearsPlays() ? 0 : lastUsedPlay;
     const int last = LastPlayOf(mode, total, used);
     if (last > playCount || used + 1 > last) {
         TellNoRoom(mode);
@@ -97,16 +99,16 @@ std::optional<PlayStretch> FindPlays(WheelMode mode, double total, int slotCount
     return PlayStretch{used + 1, last, last};
 }
 
-void RunPass(WheelMode mode, const PickPass& pass, PlayStretch& plays) {
+void RunPass(WheelMode mode, const PickPass& pass, PlayStretch& plays, PlayPicks& table) {
     switch (mode) {
         case WheelMode::Shuffle:
-            ShufflePass(pass, plays, appState.PlayTable, platform::services.drawByChance);
+            ShufflePass(pass, plays, table, platform::services.drawByChance);
             break;
         case WheelMode::PartialWheel:
-            PartialWheelPass(pass, plays, appState.PlayTable);
+            PartialWheelPass(pass, plays, table);
             break;
         case WheelMode::FullWheel:
-            FullWheelPass(pass, plays, appState.PlayTable);
+            FullWheelPass(pass, plays, table);
             break;
     }
 }
@@ -126,23 +128,21 @@ RunResult ResultOf(const PlayStretch& plays) {
             std::to_string(plays.lastPlay + 1 - plays.firstPlay)};
 }
 
-/// Brings the new plays into the Play Slips window, unless it shows some of them.
-void GoToSlipOf(const PlayStretch& plays) {
+/// The slip that the Play Slips window shows after a run: the one that it shows if there are new plays on it, else
+/// their first one.
+std::int16_t SlipToShow(std::int16_t shown, const PlayStretch& plays) {
     // QUIRK SLIP-0-1: after a Full Wheel that was declined on empty slips the window goes to slip 0, on which there are
     // no plays: its boards are empty and take no picks. Habits rest on it.
     const bool madeAny = plays.lastPlay >= 1;
-    const std::int16_t firstSlip = madeAny ? SlipOfPlay(plays.firstPlay) : std::int16_t{0};
-    const std::int16_t lastSlip = madeAny ? SlipOfPlay(plays.lastPlay) : std::int16_t{0};
-    if (appState.currentSlip < firstSlip || appState.currentSlip > lastSlip) {
-        appState.currentSlip = firstSlip;
-    }
-    ShowSlipNumber(appState.currentSlip);
+    const std::int16_t first = madeAny ? SlipOfPlay(plays.firstPlay) : std::int16_t{0};
+    const std::int16_t last = madeAny ? SlipOfPlay(plays.lastPlay) : std::int16_t{0};
+    return shown < first || shown > last ? first : shown;
 }
 
 }  // namespace
 
 RunResult RunShuffleOrWheel(WheelMode mode, std::string_view totalPlays) {
-    const std::vector<PickPass> passes = PassesOfGame();
+    const std::vector<PickPass> passes = PassesOf(CurrentRules(), appState.ShuffleTable);
     if (!std::ranges::all_of(passes, HasEnoughPicks)) {
         return {};
     }
@@ -151,15 +151,17 @@ RunResult RunShuffleOrWheel(WheelMode mode, std::string_view totalPlays) {
         platform::Tell("Total Plays:\n\nEnter a number from 1 To 5000");
         return {.end = RunResult::End::BadTotal};
     }
-    std::optional<PlayStretch> plays = FindPlays(mode, *total, passes.front().slotCount);
+    std::optional<PlayStretch> plays =
+        FindPlays(mode, *total, LastUsedPlay(appState.PlayTable, passes.front().slotCount));
     if (!plays) {
         return {};
     }
     for (const PickPass& pass : passes) {
-        RunPass(mode, pass, *plays);
+        RunPass(mode, pass, *plays, appState.PlayTable);
     }
     if (appState.playsWindowOpen) {
-        GoToSlipOf(*plays);
+        appState.currentSlip = SlipToShow(appState.currentSlip, *plays);
+        ShowSlipNumber(appState.currentSlip);
     }
     RefreshPlayGrids();
     appState.playsDirty = true;
