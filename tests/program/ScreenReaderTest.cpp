@@ -97,6 +97,31 @@ TEST_F(ScreenReader, ABoardsCellTellsItsLineItsPickAndWhetherItIsChosen) {
     EXPECT_EQ(Name("cmdErasePlay(2)"), "Erase line B");
 }
 
+TEST_F(ScreenReader, TheWheelsTellTheirPicksAndWhatTheirBoxesAreFor) {
+    Click("cmdButton(7)");
+    ClickCell("grdShuffle", 1, 7);
+    const auto* const board = Told("grdShuffle.pane(0)").tableInterface();
+    ASSERT_NE(board, nullptr);
+    EXPECT_EQ(board->cellAt(1, 7)->text(QAccessible::Name), "17, chosen");
+    EXPECT_EQ(board->cellAt(1, 6)->text(QAccessible::Name), "16");
+    EXPECT_EQ(Name("grdShuffle"), "Chosen picks");
+    EXPECT_EQ(Name("txtShuffle(0)"), "Total plays of a shuffle");
+    EXPECT_EQ(Name("txtShuffle(1)"), "Total plays of a partial wheel");
+}
+
+TEST_F(ScreenReader, InTheWheelsTheKeyboardGoesAsTheEyeDoes) {
+    Click("cmdButton(7)");
+    const char* const stops[] = {"grdShuffle.pane(0)", "cmdErasePlay(5)", "optShuffle(0)", "txtShuffle(0)",
+                                 "cmdButton",          "cmdStart",        "cmdClose"};
+    for (const char* stop : stops) {
+        ASSERT_EQ(QApplication::focusWidget()->objectName().toStdString(), stop);
+        // Within a board the key goes on through its columns.
+        for (int columns = 0; columns < 12 && QApplication::focusWidget() == &Find(stop); ++columns) {
+            Press(Qt::Key_Tab);
+        }
+    }
+}
+
 TEST_F(ScreenReader, MenuSeparatorsSayNothing) {
     int separators = 0;
     for (const char* menu : {"mnuFile", "mnuEdit", "mnuView", "mnuTools", "mnuHelp"}) {
