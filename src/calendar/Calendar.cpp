@@ -200,6 +200,9 @@ void WireCalendar() {
     ahcCalendar.window.load = Open;
     ahcCalendar.prepare = Prepare;
     ahcCalendar.surface.paint = Paint;
+    ahcCalendar.surface.cells = [] {
+        return DaysOf(ahcCalendar.month, ahcCalendar.measures, platform::services.today());
+    };
     ahcCalendar.surface.mouseDown = Press;
     ahcCalendar.surface.mouseMove = Drag;
     ahcCalendar.surface.mouseUp = [](MouseButton, PixelPoint) { Release(); };

@@ -1,5 +1,6 @@
 #include "calendar/MonthLayout.h"
 
+#include "state/DateMask.h"
 #include "state/RuntimeFailure.h"
 #include "state/modUTILS.h"
 
@@ -55,6 +56,12 @@ std::int16_t CellOf(year_month_day date, year_month month) {
 /// The number of a cell of days. Cell 0 and the cells before it stand on the line above the first row.
 int NumberOf(const AimedCell& cell) {
     return (cell.hitRow - firstDayRow) * daysOfWeek + cell.hitColumn + 1;
+}
+
+AimedCell CellOf(const CalendarMeasures& measures, std::int16_t column, std::int16_t row) {
+    const int left = measures.cellWidth * column + dayAreaLeft;
+    const int top = row * measures.rowHeight;
+    return {column, row, {left, top, left + measures.cellWidth + 1, top + measures.rowHeight - 1}};
 }
 
 }  // namespace
@@ -136,13 +143,8 @@ bool IsInDayArea(const CalendarMeasures& measures, PixelPoint place) {
 }
 
 AimedCell CellAt(const CalendarMeasures& measures, PixelPoint place) {
-    AimedCell cell;
-    cell.hitColumn = modUTILS::Divide(place.x - dayAreaLeft, measures.cellWidth);
-    cell.hitRow = modUTILS::Divide(place.y, measures.rowHeight);
-    const int left = measures.cellWidth * cell.hitColumn + dayAreaLeft;
-    const int top = cell.hitRow * measures.rowHeight;
-    cell.focusRect = {left, top, left + measures.cellWidth + 1, top + measures.rowHeight - 1};
-    return cell;
+    return CellOf(measures, modUTILS::Divide(place.x - dayAreaLeft, measures.cellWidth),
+                  modUTILS::Divide(place.y, measures.rowHeight));
 }
 
 SelectedDay DayOfCell(const CalendarMonth& month, const AimedCell& aimed, year_month_day today) {
@@ -163,6 +165,18 @@ SelectedDay DayOfCell(const CalendarMonth& month, const AimedCell& aimed, year_m
     SelectedDay selected{DateInMonth(month.shownMonth, day), month};
     selected.month.selectedCell = ToInt16(cell);
     return selected;
+}
+
+std::vector<platform::SurfaceCell> DaysOf(const CalendarMonth& month, const CalendarMeasures& measures,
+                                          year_month_day today) {
+    std::vector<platform::SurfaceCell> told;
+    for (int cell = 1; cell <= calendarCells; ++cell) {
+        const AimedCell aimed =
+            CellOf(measures, ToInt16((cell - 1) % daysOfWeek), ToInt16((cell - 1) / daysOfWeek + firstDayRow));
+        const year_month_day date = DayOfCell(month, aimed, today).date;
+        told.push_back({aimed.focusRect, FormatDate(date, "d mmmm yyyy"), cell == month.selectedCell});
+    }
+    return told;
 }
 
 }  // namespace ballhaven

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace ballhaven {
 
@@ -45,5 +46,9 @@ struct SelectedDay {
 /// in the shown one. Raises the subscript failure for a cell before cell 0.
 [[nodiscard]] SelectedDay DayOfCell(const CalendarMonth& month, const AimedCell& aimed,
                                     std::chrono::year_month_day today);
+
+/// The days of a month's cells in the order of the cells, each with its place and whether it is the selected one.
+[[nodiscard]] std::vector<platform::SurfaceCell> DaysOf(const CalendarMonth& month, const CalendarMeasures& measures,
+                                                        std::chrono::year_month_day today);
 
 }  // namespace ballhaven

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -190,6 +191,19 @@ TEST_F(MonthLayout, AGreyDayOfTheLastTwoRowsGoesToTheMonthAfter) {
     EXPECT_EQ(selected, year{2010} / 3 / 14) << "row 6 of days";
     EXPECT_EQ(month.shownMonth, year{2010} / 3);
     EXPECT_EQ(month.selectedCell, 14);
+}
+
+TEST_F(MonthLayout, AssistiveToolsAreToldOfTheDateOfEachCell) {
+    Select(year{2004} / 2 / 14);
+    const std::vector<platform::SurfaceCell> told = DaysOf(month, measures, today);
+    ASSERT_EQ(told.size(), 42U);
+    EXPECT_EQ(told[0].name, "26 January 2004");
+    EXPECT_EQ(told[6].name, "1 February 2004");
+    EXPECT_EQ(told[19].name, "14 February 2004");
+    EXPECT_EQ(told[41].name, "7 March 2004");
+    EXPECT_EQ(std::ranges::count_if(told, &platform::SurfaceCell::selected), 1);
+    EXPECT_TRUE(told[19].selected);
+    EXPECT_EQ(told[19].place, CellAt(measures, {5 + 5 * cellWidth + 1, 4 * rowHeight + 1}).focusRect);
 }
 
 TEST_F(MonthLayout, TheDayAreaEndsWithItsPixels) {

@@ -51,6 +51,13 @@ class Canvas {
 /// The keys that a surface's owner may serve; all others are told as one.
 enum class SurfaceKey { Escape, Other };
 
+/// A part of what is drawn that assistive tools are told of as of a cell.
+struct SurfaceCell {
+    PixelRect place;
+    std::string name;
+    bool selected = false;
+};
+
 /// What a surface's widget can do besides showing it.
 class DrawingSurfaceView : public ControlView {
   public:
@@ -81,6 +88,9 @@ class DrawingSurface : public Control {
 
     /// Draws everything that is to be seen, on a ground of the colour of the window.
     std::function<void(Canvas& canvas)> paint;
+
+    /// The parts of what is drawn, for assistive tools; none where it has no such parts.
+    std::function<std::vector<SurfaceCell>()> cells;
 
     /// The mouse, with the surface as its captor from a press to the release. A second press in quick succession is a
     /// press like any other. A move says whether the left button is held.

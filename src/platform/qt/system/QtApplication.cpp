@@ -8,6 +8,7 @@
 #include "platform/qt/system/ProgramInstance.h"
 #include "platform/qt/system/QtServices.h"
 #include "platform/qt/widgets/Conversions.h"
+#include "platform/qt/widgets/SurfaceCells.h"
 #include "platform/qt/windows/QtToolkit.h"
 #include "platform/qt/windows/WindowRole.h"
 
@@ -56,6 +57,7 @@ QtApplication::QtApplication(int& argc, char** argv) {
     InstallAppearance(parts->application);
     InstallJoinedTables();
     InstallWindowRoles();
+    InstallSurfaceCells();
     InstallQtServices(parts->qtToolkit, parts->instance);
     toolkit = &parts->qtToolkit;
     QTimer::singleShot(0, &parts->application, [] { QApplication::setWindowIcon(ProgramIcon()); });  // the window first

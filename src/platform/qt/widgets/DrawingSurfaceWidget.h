@@ -16,6 +16,9 @@ class DrawingSurfaceWidget final : public ControlWidget<QWidget, DrawingSurfaceV
     [[nodiscard]] int TextWidth(std::string_view text) const override;
     [[nodiscard]] int TextHeight() const override;
 
+    // For what assistive tools are told.
+    [[nodiscard]] const DrawingSurface& Shown() const { return surface; }
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
