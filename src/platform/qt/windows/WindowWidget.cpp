@@ -212,7 +212,7 @@ void WindowWidget::TearDown() {
             item->view = nullptr;
         }
     }
-    const bool hadFocus = !focusLost && (modalLoop != nullptr || activations.Front() == this);
+    const bool hadFocus = !focusLost && !IsBehindModalWindow() && (modalLoop != nullptr || activations.Front() == this);
     activations.Remove(*this);
     hide();
     if (modalLoop != nullptr) {
@@ -222,6 +222,11 @@ void WindowWidget::TearDown() {
     if (hadFocus) {
         HandFocusOn();
     }
+}
+
+bool WindowWidget::IsBehindModalWindow() const {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return modal != nullptr && modal != this;
 }
 
 // A desktop that is behind may not have reported this window as active when it closes, nor then the next one again,
@@ -277,7 +282,7 @@ bool WindowWidget::event(QEvent* event) {
         focusLost = false;
         BecomeActive();
     } else if (event->type() == QEvent::WindowDeactivate) {
-        focusLost = true;
+        focusLost = !IsBehindModalWindow();  // which gives the focus back when it closes
         if (window.view == this && window.deactivate) {
             RunGuarded(window.deactivate);
         }
@@ -287,8 +292,7 @@ bool WindowWidget::event(QEvent* event) {
 
 // A window behind a modal one is not active, even where the desktop reports so late that it was.
 void WindowWidget::BecomeActive() {
-    const QWidget* const modal = QApplication::activeModalWidget();
-    if (window.view != this || (modal != nullptr && modal != this)) {
+    if (window.view != this || IsBehindModalWindow()) {
         return;
     }
     everActive = true;

@@ -47,6 +47,7 @@ class WindowWidget final : public QMainWindow, public WindowView {
     void PlaceAlignedPanels(const QSize& client);
     void FollowClientArea();
     void BecomeActive();
+    [[nodiscard]] bool IsBehindModalWindow() const;
     void HandFocusOn();
 
     Window& window;
@@ -55,7 +56,7 @@ class WindowWidget final : public QMainWindow, public WindowView {
     QSize shownClient;  ///< the size of the client area that the value knows of
     QEventLoop* modalLoop = nullptr;
     bool everActive = false;
-    bool focusLost = false;  ///< to another window since it was last active
+    bool focusLost = false;  ///< since it was last active, other than to what is modal over it
 };
 
 }  // namespace ballhaven::platform
