@@ -3,8 +3,9 @@
 #include "platform/qt/printing/PrinterFonts.h"
 #include "platform/qt/widgets/Conversions.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace ballhaven::platform {
 
@@ -53,7 +54,7 @@ void KeptPages::SetFont(const PrinterFont& font) {
 
 void KeptPages::DrawText(double x, double y, const std::string& text) {
     const double units = UnitsOfTwip();
-    pages.back().push_back({QPointF(x * units, (y + measures.ascent) * units), ToQString(text), fonts.size() - 1});
+    pages.back().push_back({QPointF(x * units, (y + FontInUse().ascent) * units), ToQString(text), fontInUse});
 }
 
 double KeptPages::PageWidth() const {
@@ -65,21 +66,23 @@ double KeptPages::PageHeight() const {
 }
 
 double KeptPages::TextWidth(const std::string& text) const {
-    return QFontMetricsF(fonts.back(), paper.get()).horizontalAdvance(ToQString(text)) / UnitsOfTwip();
+    return FontInUse().metrics.horizontalAdvance(ToQString(text)) / UnitsOfTwip();
 }
 
 double KeptPages::UnitsOfTwip() const {
     return paper->logicalDpiX() / twipsOfInch;
 }
 
+// The reports set their font anew on each page.
 void KeptPages::UseFont(const QFont& font) {
-    if (!fonts.empty() && fonts.back() == font) {
-        return;
+    const auto used = std::ranges::find(fonts, font, &UsedFont::font);
+    fontInUse = static_cast<std::size_t>(used - fonts.begin());
+    if (used == fonts.end()) {
+        const QFontMetricsF metrics(font, paper.get());
+        const double units = UnitsOfTwip();
+        fonts.push_back(
+            {font, metrics, metrics.ascent() / units, metrics.lineSpacing() / units, AverageWidth(metrics) / units});
     }
-    fonts.push_back(font);
-    const QFontMetricsF metrics(font, paper.get());
-    const double units = UnitsOfTwip();
-    measures = {metrics.ascent() / units, metrics.lineSpacing() / units, AverageWidth(metrics) / units};
 }
 
 void KeptPages::Paint() const {
@@ -103,7 +106,7 @@ void KeptPages::PaintPage(QPainter& painter, const Page& page) const {
     for (const KeptText& each : page) {
         if (each.font != font) {
             font = each.font;
-            painter.setFont(fonts[font]);
+            painter.setFont(fonts[font].font);
         }
         painter.drawText(each.baseline, each.text);
     }

@@ -3,9 +3,12 @@
 #include "platform/printing/PrinterDevice.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPagedPaintDevice>
+#include <QPointF>
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,8 +31,8 @@ class KeptPages : public PrinterDevice {
     [[nodiscard]] double PageWidth() const final;
     [[nodiscard]] double PageHeight() const final;
     [[nodiscard]] double TextWidth(const std::string& text) const final;
-    [[nodiscard]] double LineHeight() const final { return measures.lineHeight; }
-    [[nodiscard]] double CharacterWidth() const final { return measures.characterWidth; }
+    [[nodiscard]] double LineHeight() const final { return FontInUse().lineHeight; }
+    [[nodiscard]] double CharacterWidth() const final { return FontInUse().characterWidth; }
 
   protected:
     /// `pagedDevice` is set up already: size of the paper, margins, resolution.
@@ -43,11 +46,13 @@ class KeptPages : public PrinterDevice {
     virtual void Send() = 0;
 
   private:
-    /// Of the font that is set, in twips.
-    struct FontMeasures {
-        double ascent = 0;
-        double lineHeight = 0;
-        double characterWidth = 0;
+    /// A font that was set, with its measures in twips.
+    struct UsedFont {
+        QFont font;
+        QFontMetricsF metrics;  ///< in the device's own units
+        double ascent;
+        double lineHeight;
+        double characterWidth;
     };
 
     struct KeptText {
@@ -60,12 +65,13 @@ class KeptPages : public PrinterDevice {
 
     [[nodiscard]] double UnitsOfTwip() const;
     void UseFont(const QFont& font);
+    [[nodiscard]] const UsedFont& FontInUse() const { return fonts[fontInUse]; }
     void Paint() const;
     void PaintPage(QPainter& painter, const Page& page) const;
 
     std::unique_ptr<QPagedPaintDevice> paper;
-    std::vector<QFont> fonts;  ///< those that were set; the last one is in use
-    FontMeasures measures;
+    std::vector<UsedFont> fonts;
+    std::size_t fontInUse = 0;
     std::vector<Page> pages;
 };
 
