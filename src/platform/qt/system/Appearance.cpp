@@ -1,9 +1,11 @@
 #include "platform/qt/system/Appearance.h"
 
+#include "platform/qt/widgets/BuiltPicture.h"
 #include "platform/qt/widgets/PlainScrollBarStyle.h"
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -117,6 +119,14 @@ class ClassicStyle : public PlainScrollBarStyle {
             return;
         }
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+
+    // The mark of a menu bar that has no room for its menus. The toolkit's own is a file that it looks for a reader
+    // for.
+    QIcon standardIcon(StandardPixmap standard, const QStyleOption* option, const QWidget* widget) const override {
+        return standard == SP_ToolBarHorizontalExtensionButton
+                   ? QIcon(BuiltPicture("menu-more", "1"))
+                   : PlainScrollBarStyle::standardIcon(standard, option, widget);
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {

@@ -7,6 +7,7 @@
 #include "platform/qt/system/EndWatch.h"
 #include "platform/qt/system/ProgramInstance.h"
 #include "platform/qt/system/QtServices.h"
+#include "platform/qt/widgets/BuiltPicture.h"
 #include "platform/qt/widgets/Conversions.h"
 #include "platform/qt/widgets/SurfaceCells.h"
 #include "platform/qt/windows/QtToolkit.h"
@@ -14,7 +15,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QPixmap>
 #include <QTimer>
 
 #include <optional>
@@ -32,7 +32,7 @@ namespace {
 QIcon ProgramIcon() {
     QIcon icon;
     for (const char* scale : {"1", "2"}) {
-        icon.addPixmap(QPixmap(QStringLiteral(":/pictures/%1/application.png").arg(QLatin1String(scale))));
+        icon.addPixmap(BuiltPicture("application", scale));
     }
     return icon;
 }

@@ -1,6 +1,6 @@
 #include "platform/qt/widgets/PictureRenderer.h"
 
-#include "platform/qt/widgets/Conversions.h"
+#include "platform/qt/widgets/BuiltPicture.h"
 
 #include <QPainter>
 
@@ -11,15 +11,11 @@ namespace {
 // The scales above 1 that the build draws.
 constexpr const char* largerScales[] = {"1.5", "2", "3"};
 
-QPixmap Drawn(const std::string& name, const char* scale) {
-    return QPixmap(QStringLiteral(":/pictures/%1/%2.png").arg(QLatin1String(scale), ToQString(name)), "PNG");
-}
-
 /// The smallest drawing that is not smaller than wanted, the largest one where all are.
 QPixmap NextLarger(const std::string& name, const QSize& wanted) {
     QPixmap drawn;
     for (const char* scale : largerScales) {
-        drawn = Drawn(name, scale);
+        drawn = BuiltPicture(name, scale);
         if (drawn.width() >= wanted.width() && drawn.height() >= wanted.height()) {
             break;
         }
@@ -41,7 +37,7 @@ void PictureRenderer::SetName(const std::string& name) {
 const QPixmap& PictureRenderer::Original() const {
     if (!isRead) {
         isRead = true;
-        original = Drawn(current, "1");
+        original = BuiltPicture(current, "1");
     }
     return original;
 }

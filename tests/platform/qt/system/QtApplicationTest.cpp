@@ -16,7 +16,7 @@ TEST(QtApplication, SetsTheToolkitUpWithTheProgramsNameAndPictures) {
     EXPECT_NE(toolkit, nullptr);
     EXPECT_EQ(QApplication::applicationName(), QStringLiteral("Ballhaven"));
     EXPECT_EQ(QApplication::desktopFileName(), QStringLiteral("ballhaven"));
-    EXPECT_TRUE(QFile::exists(QStringLiteral(":/pictures/1/print.png")));
+    EXPECT_TRUE(QFile::exists(QStringLiteral(":/pictures/1/print.argb")));
     EXPECT_FALSE(QApplication::windowIcon().isNull());
 }
 

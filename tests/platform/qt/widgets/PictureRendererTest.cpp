@@ -1,5 +1,7 @@
 #include "platform/qt/widgets/PictureRenderer.h"
 
+#include "platform/qt/widgets/BuiltPicture.h"
+
 #include <QImage>
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -70,12 +72,6 @@ QImage PaintAt(double scale, const QRectF& place, const char* name) {
     return canvas;
 }
 
-/// The picture as the build has drawn it for a scale.
-QImage DrawnByTheBuild(const char* scale, const char* name) {
-    const QImage drawn(QStringLiteral(":/pictures/%1/%2.png").arg(QLatin1String(scale), QLatin1String(name)));
-    return drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
 TEST(PictureRenderer, CopiesTheDrawingOfTheScreensScalePixelByPixel) {
     const std::pair<double, const char*> scales[] = {{1, "1"}, {1.5, "1.5"}, {2, "2"}, {3, "3"}};
     for (const auto& [scale, folder] : scales) {
@@ -83,13 +79,13 @@ TEST(PictureRenderer, CopiesTheDrawingOfTheScreensScalePixelByPixel) {
         const QRect place(QPoint(8, 8) * scale, QSize(32, 32) * scale);
         QImage copied = painted.copy(place);
         copied.setDevicePixelRatio(1);
-        EXPECT_EQ(copied, DrawnByTheBuild(folder, "print")) << folder;
+        EXPECT_EQ(copied, BuiltPicture("print", folder).toImage()) << folder;
     }
 }
 
 TEST(PictureRenderer, APlaceBetweenTwoPixelsIsMovedToWholeOnes) {
     const QImage painted = PaintAt(1, QRectF(7.6, 8.4, 32, 32), "print");
-    EXPECT_EQ(painted.copy(8, 8, 32, 32), DrawnByTheBuild("1", "print"));
+    EXPECT_EQ(painted.copy(8, 8, 32, 32), BuiltPicture("print", "1").toImage());
 }
 
 TEST(PictureRenderer, FillsItsPlaceOnAScreenOfAScaleInBetween) {
