@@ -10,7 +10,8 @@
 
 namespace ballhaven {
 
-// What stands in the sections of the data report. Each routine reads the game at hand and changes nothing.
+// What stands in the sections of the data report. Each routine reads the game at hand, and changes nothing but
+// `monthDays`.
 
 /// By the index of the section's box, and by `hotTableChoice` of its table.
 enum class ReportSection : std::int16_t { Log, HotNumbers, HotPairs, PairedOnce, Repeaters, NoHitters };

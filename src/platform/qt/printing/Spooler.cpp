@@ -1,6 +1,6 @@
 #include "platform/qt/printing/Spooler.h"
 
-#include "platform/qt/widgets/Conversions.h"
+#include "platform/qt/printing/PdfFile.h"
 
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -9,9 +9,9 @@ namespace ballhaven::platform {
 
 namespace {
 
-std::unique_ptr<QPrinter> PrinterFor(const QString& name, const QString& title) {
+std::unique_ptr<QPrinter> PrinterFor(const QString& name, const std::string& title) {
     auto printer = std::make_unique<QPrinter>(QPrinterInfo::printerInfo(name), QPrinter::HighResolution);
-    printer->setDocName(title);
+    printer->setDocName(FileNameOf(title));  // a spooler takes no control characters either
     printer->setCreator(QStringLiteral("Ballhaven"));
     return printer;
 }
@@ -23,7 +23,7 @@ const QPrinter& AsPrinter(const QPagedPaintDevice& paper) {
 }  // namespace
 
 Spooler::Spooler(const std::string& jobTitle, const QString& printerName)
-    : KeptPages(PrinterFor(printerName, ToQString(jobTitle))) {}
+    : KeptPages(PrinterFor(printerName, jobTitle)) {}
 
 void Spooler::GetReady() {
     const QPrinter& printer = AsPrinter(Paper());

@@ -25,6 +25,7 @@ class PdfFileTest : public testing::Test {
 
     void Print(const std::string& title, int pages = 1) {
         Printer printer(Open(title));
+        printer.PrintLine({title});
         for (int page = 1; page <= pages; ++page) {
             if (page > 1) {
                 printer.NewPage();
