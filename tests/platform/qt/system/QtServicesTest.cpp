@@ -68,5 +68,9 @@ TEST_F(QtServicesTest, AnInstanceWithoutAWindowIsAskedInVain) {
     EXPECT_NO_THROW(instance.comeToFront("token-7"));
 }
 
+TEST_F(QtServicesTest, ThePrinterIsOneOnWhichAPageCanBeMeasured) {
+    EXPECT_GT(services.openPrinter("Six of 49 Play Slips")->PageWidth(), 7 * 1440);
+}
+
 }  // namespace
 }  // namespace ballhaven::platform
