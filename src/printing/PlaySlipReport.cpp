@@ -14,7 +14,6 @@
 #include <cstddef>
 #include <span>
 #include <string>
-#include <utility>
 
 namespace ballhaven {
 
@@ -28,32 +27,35 @@ bool IsBlank(std::int16_t cell) {
     return cell < 0;
 }
 
+/// Picks of a play, as the game has them.
+struct PickCounts {
+    int main;
+    int bonus;  ///< 0 in a game without bonus picks
+};
+
 // QUIRK PLAY-REPORT-LAST-1: only the first cell of either list tells whether a play is in use. A play behind the last
 // one with a pick there is not printed, whatever stands in its other cells. Habits rest on it.
-std::int16_t LastUsedPlay() {
+std::int16_t LastUsedPlay(const PlayPicks& plays, bool hasBonus) {
     for (std::int16_t play = playCount; play >= 1; --play) {
-        if (!IsBlank(appState.PlayTable(mainPicks, play, 1)) ||
-            (HasBonus(appState.gameType) && !IsBlank(appState.PlayTable(bonusPicks, play, 1)))) {
+        if (!IsBlank(plays(mainPicks, play, 1)) || (hasBonus && !IsBlank(plays(bonusPicks, play, 1)))) {
             return play;
         }
     }
     return 0;
 }
 
-/// The cells of a list of a play in which the game has picks.
-std::span<const std::int16_t> CellsOf(PickColumn list, int play, int count) {
-    return std::as_const(appState.PlayTable)
-        .Slots(list, play)
-        .first(static_cast<std::size_t>(std::clamp(count, 0, picksPerPlay)));
+using Cells = std::span<const std::int16_t>;
+
+Cells FirstCells(Cells slots, int count) {
+    return slots.first(static_cast<std::size_t>(std::clamp(count, 0, picksPerPlay)));
 }
 
 using PickTexts = std::array<std::string, picksPerPlay>;
 
 // QUIRK PLAY-REPORT-SEVENTH-1: no bonus pick is ever printed in the seventh column, so a game of six main picks and one
 // bonus pick prints no bonus. Readers of these pages know them so.
-void AddBonusPicks(int play, PickTexts& texts) {
-    std::size_t position = CellsOf(mainPicks, play, appState.mainPickCount).size();
-    for (const std::int16_t cell : CellsOf(bonusPicks, play, appState.bonusPickCount)) {
+void AddBonusPicks(Cells cells, std::size_t position, PickTexts& texts) {
+    for (const std::int16_t cell : cells) {
         if (!IsBlank(cell) && position < texts.size() && position != seventh) {
             texts[position] = pickLabel(cell);
         }
@@ -61,14 +63,12 @@ void AddBonusPicks(int play, PickTexts& texts) {
     }
 }
 
-ReportLine RowOf(int play) {
+ReportLine RowOf(int play, Cells mainCells, Cells bonusCells) {
     PickTexts texts;
-    for (std::size_t position = 0; const std::int16_t cell : CellsOf(mainPicks, play, appState.mainPickCount)) {
+    for (std::size_t position = 0; const std::int16_t cell : mainCells) {
         texts[position++] = IsBlank(cell) ? std::string() : pickLabel(cell);
     }
-    if (HasBonus(appState.gameType)) {
-        AddBonusPicks(play, texts);
-    }
+    AddBonusPicks(bonusCells, mainCells.size(), texts);
     std::string slip;
     std::string line;
     PlaySlipLabel(play, slip, line);
@@ -79,12 +79,13 @@ ReportLine RowOf(int play) {
     return row;
 }
 
-bool PrintPlays(ReportPage& page, const SectionHead& head, int last) {
+bool PrintPlays(ReportPage& page, const SectionHead& head, const PlayPicks& plays, int last, PickCounts counts) {
     for (int play = 1; play <= last; ++play) {
-        if (std::ranges::all_of(CellsOf(mainPicks, play, appState.mainPickCount), IsBlank)) {
+        const Cells mainCells = FirstCells(plays.Slots(mainPicks, play), counts.main);
+        if (std::ranges::all_of(mainCells, IsBlank)) {
             continue;
         }
-        page.PrintRow(RowOf(play));
+        page.PrintRow(RowOf(play, mainCells, FirstCells(plays.Slots(bonusPicks, play), counts.bonus)));
         if (!page.GoOn(head, play == last)) {
             return false;
         }
@@ -95,7 +96,8 @@ bool PrintPlays(ReportPage& page, const SectionHead& head, int last) {
 }  // namespace
 
 void playSlipReport() {
-    const std::int16_t last = LastUsedPlay();
+    const bool hasBonus = HasBonus(appState.gameType);
+    const std::int16_t last = LastUsedPlay(appState.PlayTable, hasBonus);
     sortPlaysForReport(last);
     platform::Printer printer(platform::services.openPrinter(ReportTitle("Play Slips")));
     ReportPage page(printer);
@@ -107,7 +109,8 @@ void playSlipReport() {
     if (last == 0) {
         page.PrintRemark("No Plays Found");
     }
-    if (PrintPlays(page, head, last)) {
+    const PickCounts counts{appState.mainPickCount, hasBonus ? appState.bonusPickCount : 0};
+    if (PrintPlays(page, head, appState.PlayTable, last, counts)) {
         printer.EndDoc();
     }
 }

@@ -37,22 +37,18 @@ constexpr std::array<SectionWords, 6> sectionWords{{
     {"No Hitters in Last ",    "Number",  {5,  0,  0,  0}, {}},
     // clang-format on
 }};
-constexpr SectionWords hotCards = {"Hot Cards in Last ", "Card", {5, 13, 21, 26}, {6, 14, 20, 30}};
+constexpr SectionWords hotCards = {"Hot Cards in Last ", "Card", {5, 13, 21, 26}, {}};
 
 constexpr std::array<const char*, 4> figureHeads = {"", "Hits", "%", "Game Interval"};
 
 constexpr int dateColumn = 5;
 constexpr std::array<int, 10> pickColumns = {20, 25, 30, 35, 40, 45, 50, 55, 60, 65};
 
-const SectionWords& WordsOf(ReportSection section) {
-    if (section == ReportSection::HotNumbers && IsCardGame(appState.gameType)) {
+const SectionWords& WordsOf(ReportSection section, int gameType) {
+    if (section == ReportSection::HotNumbers && IsCardGame(gameType)) {
         return hotCards;
     }
     return sectionWords.at(static_cast<std::size_t>(section));
-}
-
-int Games() {
-    return appState.historyViewLast + 1;
 }
 
 /// The cells of a row of a section's hot table, of which there must be so many.
@@ -64,8 +60,8 @@ std::span<const std::int16_t> CellsOf(ReportSection section, int row, std::size_
     return cells;
 }
 
-std::optional<ReportLine> LogRow(int row) {
-    const std::int16_t date = appState.historyView.PickAt(0, row);
+std::optional<ReportLine> LogRow(const Table& view, int row, int picks) {
+    const std::int16_t date = view.PickAt(0, row);
     if (date <= 0) {
         return std::nullopt;
     }
@@ -73,18 +69,19 @@ std::optional<ReportLine> LogRow(int row) {
     // QUIRK REPORT-TEN-PICKS-1: there are columns for ten picks. Of a draw with more, bonus picks mostly, the others
     // are not printed.
     for (int pick = 1; const int column : pickColumns) {
-        const std::int16_t drawn = pick <= appState.totalPicks ? appState.historyView.PickAt(pick, row) : -1;
+        const std::int16_t drawn = pick <= picks ? view.PickAt(pick, row) : std::int16_t{-1};
         line.push_back({column, drawn > -1 ? pickLabel(drawn) : std::string()});
         ++pick;
     }
     return line;
 }
 
-ReportLine FiguresRow(const SectionWords& words, const std::string& picks, int hits) {
-    return {{words.rowColumns[0], picks},
-            {words.rowColumns[1], std::to_string(hits)},
-            {words.rowColumns[2], std::to_string(HotPercentage(Games(), hits)) + "%"},
-            {words.rowColumns[3], IntervalText(Games(), hits)}};
+ReportLine FiguresRow(ReportSection section, const std::string& picks, int games, int hits) {
+    const auto& columns = sectionWords.at(static_cast<std::size_t>(section)).rowColumns;
+    return {{columns[0], picks},
+            {columns[1], std::to_string(hits)},
+            {columns[2], std::to_string(HotPercentage(games, hits)) + "%"},
+            {columns[3], IntervalText(games, hits)}};
 }
 
 }  // namespace
@@ -94,8 +91,9 @@ HotTable TableOfSection(ReportSection section) {
 }
 
 SectionHead HeadOfSection(ReportSection section) {
-    const SectionWords& words = WordsOf(section);
-    SectionHead head{'=', std::string(words.title) + " " + std::to_string(Games()) + " Games:", {}};
+    const SectionWords& words = WordsOf(section, appState.gameType);
+    const std::string games = std::to_string(appState.historyViewLast + 1);
+    SectionHead head{'=', std::string(words.title) + " " + games + " Games:", {}};
     head.columns.push_back({words.headColumns[0], words.pickHead});
     if (section == ReportSection::Log) {
         head.columns.push_back({pickColumns[0], "Picks"});
@@ -132,14 +130,15 @@ std::optional<Packing> PackingOfSection(ReportSection section) {
 
 std::optional<ReportLine> RowOfSection(ReportSection section, int row) {
     if (section == ReportSection::Log) {
-        return LogRow(row);
+        return LogRow(appState.historyView, row, appState.totalPicks);
     }
+    const int games = appState.historyViewLast + 1;
     if (section == ReportSection::HotPairs) {
         const auto cells = CellsOf(section, row, 3);
-        return FiguresRow(WordsOf(section), pickLabel(cells[0]) + ", " + pickLabel(cells[1]), cells[2]);
+        return FiguresRow(section, pickLabel(cells[0]) + ", " + pickLabel(cells[1]), games, cells[2]);
     }
     const auto cells = CellsOf(section, row, 2);
-    return FiguresRow(WordsOf(section), pickLabel(cells[0]), cells[1]);
+    return FiguresRow(section, pickLabel(cells[0]), games, cells[1]);
 }
 
 std::string EntryOfSection(ReportSection section, int row) {

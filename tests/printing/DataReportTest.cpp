@@ -17,7 +17,6 @@
 namespace ballhaven {
 namespace {
 
-using support::BonusPool;
 using support::CardGame;
 using support::Draw;
 using support::Game;

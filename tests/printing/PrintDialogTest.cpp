@@ -19,7 +19,6 @@ namespace ballhaven {
 namespace {
 
 using support::Settle;
-using support::StoredGame;
 
 constexpr int selections = 8;  // the first of six columns in the system's record
 
