@@ -22,11 +22,10 @@ const platform::ControlText texts[] = {
     {frmHelpBox.cmdHelp.picture, "print"},
 };
 
-// In pixels. The heading has 12 points; the text has the largest letters of which a row of 102 hyphens fits into a
-// line.
-constexpr int headingHeight = 16;
-constexpr int textHeight = 10;
+constexpr int headingPixels = 16;  // 12 points
+constexpr int textPixels = 10;     // the largest letters of which a row of 102 hyphens fits into a line
 
+// In twips
 constexpr int windowLeft = 3800;
 constexpr int windowTop = 0;
 constexpr int windowWidth = 5850;
@@ -41,8 +40,8 @@ void LayOutHelpBoxForm() {
     platform::SetTexts(texts);
     frmHelpBox.lblLabel.bold = true;
     frmHelpBox.lblLabel.alignment = platform::TextAlignment::Centre;
-    frmHelpBox.lblLabel.fontHeight = headingHeight;
-    frmHelpBox.txtText.fontHeight = textHeight;
+    frmHelpBox.lblLabel.fontHeight = headingPixels;
+    frmHelpBox.txtText.fontHeight = textPixels;
     frmHelpBox.window.fixedSize = true;
     frmHelpBox.window.Resize(windowWidth, windowHeight);
     frmHelpBox.window.MoveTo(windowLeft, windowTop);

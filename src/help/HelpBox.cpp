@@ -16,22 +16,18 @@ namespace ballhaven {
 
 namespace {
 
-// The entries of both windows, by their index, which is the topic; between them is a separator.
-constexpr std::int16_t helpEntries[] = {0, 2};
-
 void Load() {
     HelpText help = HelpOf(appState.helpTopic);
     frmHelpBox.lblLabel.text = std::move(help.heading);
     frmHelpBox.txtText.text = std::move(help.text);
 }
 
-/// The text box has no caret that would have to be hidden.
 void TakeFocus() {
     if (frmHelpBox.window.State() == platform::WindowState::Maximised) {
         frmHelpBox.window.SetState(platform::WindowState::Normal);
     }
     frmHelpBox.txtText.TakeFocus();
-    platform::ProcessPendingEvents();
+    platform::ProcessPendingEvents();  // the text box has no caret that would have to be hidden now
 }
 
 void Close() {
@@ -54,7 +50,7 @@ void WireHelpBox() {
     frmHelpBox.window.deactivate = Close;
     frmHelpBox.window.escape = Close;
     frmHelpBox.cmdHelp.click = PrintText;
-    for (const std::int16_t topic : helpEntries) {
+    for (const std::int16_t topic : {instructionsTopic, aboutTopic}) {
         const auto entry = static_cast<std::size_t>(topic);
         frmMainForm.mnuHelpArray[entry].click = [topic] {
             appState.helpTopic = topic;

@@ -2,9 +2,14 @@
 
 #include "platform/Services.h"
 #include "state/DateText.h"
+#include "state/RuntimeFailure.h"
 
+#include <algorithm>
 #include <cmath>
+#include <exception>
+#include <memory>
 #include <string_view>
+#include <utility>
 
 namespace ballhaven {
 
@@ -18,14 +23,15 @@ constexpr double inch = 1440;
 
 constexpr int tabWidth = 10;  // digits
 
-/// Runs one statement of the print; its failure is passed over.
+/// Runs one statement of the print; its failure, whatever it is, is passed over. Statements that ask neither the
+/// printer nor the system for anything, such as setting a position that is known, cannot fail and stand without it.
 // QUIRK HELP-PRINT-SILENT-1: a printer that is not ready yields nothing here and says nothing, unlike in the reports.
 // Habits rest on it.
 template <typename Statement>
 void PassOver(const Statement& statement) {
     try {
         statement();
-    } catch (const platform::PrinterFailure&) {
+    } catch (const std::exception&) {
     }
 }
 
@@ -38,19 +44,31 @@ bool Holds(const Test& test) {
     return holds;
 }
 
+/// A printer for a job of a title; one that takes nothing where none can be opened.
+Printer OpenPrinter(const std::string& title) {
+    std::unique_ptr<platform::PrinterDevice> device = std::make_unique<platform::NoPrinter>();
+    PassOver([&] { device = platform::services.openPrinter(title); });
+    return Printer(std::move(device));
+}
+
 bool BelongsToWord(char character) {
     return static_cast<unsigned char>(character) > ' ';
 }
 
-/// Takes the characters from the front of a text that belong to a word, or those that do not.
-std::string_view TakeRun(std::string_view& text, bool ofWord) {
-    std::size_t length = 0;
-    while (length < text.size() && BelongsToWord(text[length]) == ofWord) {
-        ++length;
-    }
-    const std::string_view run = text.substr(0, length);
-    text.remove_prefix(length);
-    return run;
+/// Takes the characters in front of a place from a text.
+std::string_view TakeUpTo(std::string_view& text, std::string_view::iterator end) {
+    const std::string_view taken(text.begin(), end);
+    text.remove_prefix(taken.size());
+    return taken;
+}
+
+/// Takes the word at the front of a text, and what parts it from the next one; either can be empty.
+std::string_view TakeWord(std::string_view& text) {
+    return TakeUpTo(text, std::ranges::find_if_not(text, BelongsToWord));
+}
+
+std::string_view TakeGap(std::string_view& text) {
+    return TakeUpTo(text, std::ranges::find_if(text, BelongsToWord));
 }
 
 void Print(Printer& printer, const std::string& text) {
@@ -76,13 +94,22 @@ void PrintWord(Printer& printer, const std::string& title, const std::string& wo
     Print(printer, word);
 }
 
-/// A place on a tab already moves on to the next. A printer without measures has no tabs.
-void GoToNextTab(Printer& printer) {
+/// How many digits have room in front of the current position, rounded. Raises the failure of a division by zero where
+/// a digit has no width.
+int DigitsBefore(const Printer& printer) {
     const double digit = printer.TextWidth("0");
-    if (digit > 0) {
-        const auto digits = static_cast<int>(std::nearbyint((printer.CurrentX() - halfInch) / digit));
-        printer.SetCurrentX(halfInch + (digits + tabWidth - digits % tabWidth) * digit);
+    if (digit == 0) {
+        throw RuntimeFailure(RuntimeFailure::Kind::DivisionByZero);
     }
+    return static_cast<int>(std::nearbyint((printer.CurrentX() - halfInch) / digit));
+}
+
+/// A place on a tab already moves on to the next. One that cannot be told counts as the left margin.
+void GoToNextTab(Printer& printer) {
+    int digits = 0;
+    PassOver([&] { digits = DigitsBefore(printer); });
+    digits += tabWidth - digits % tabWidth;
+    PassOver([&] { printer.SetCurrentX(halfInch + digits * printer.TextWidth("0")); });
 }
 
 void PrintGap(Printer& printer, const std::string& title, std::string_view gap) {
@@ -92,7 +119,7 @@ void PrintGap(Printer& printer, const std::string& title, std::string_view gap) 
         } else if (character == '\n') {
             BreakLine(printer, title);
         } else if (character == '\t') {
-            PassOver([&] { GoToNextTab(printer); });
+            GoToNextTab(printer);
         }
     }
 }
@@ -100,13 +127,13 @@ void PrintGap(Printer& printer, const std::string& title, std::string_view gap) 
 }  // namespace
 
 void printHelpText(const std::string& title, const std::string& text) {
-    Printer printer(platform::services.openPrinter(title));
+    Printer printer = OpenPrinter(title);
     PassOver([&] { printer.SetFontName("Times New Roman"); });
     PassOver([&] { printer.SetFontSize(10); });
     printHelpPage(printer, title, false);
     for (std::string_view rest = text; !rest.empty();) {
-        PrintWord(printer, title, std::string(TakeRun(rest, true)));
-        PrintGap(printer, title, TakeRun(rest, false));
+        PrintWord(printer, title, std::string(TakeWord(rest)));
+        PrintGap(printer, title, TakeGap(rest));
     }
     PassOver([&] { printer.EndDoc(); });
 }
@@ -121,7 +148,7 @@ void printHelpPage(Printer& printer, const std::string& title, bool eject) {
 
     PassOver([&] { printer.SetCurrentY(printer.ScaleHeight() - halfInch); });
     printer.SetCurrentX(halfInch);
-    Print(printer, ShortDate(platform::services.today()));
+    PassOver([&] { printer.Print({ShortDate(platform::services.today())}); });
 
     const std::string number = "Page " + std::to_string(printer.Page());
     PassOver([&] { printer.SetCurrentX(printer.ScaleWidth() - (printer.TextWidth(number) + halfInch)); });

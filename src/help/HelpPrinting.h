@@ -7,8 +7,8 @@
 namespace ballhaven {
 
 /// Prints a text with a heading on every page, as a job of its own: words are kept whole, a line feed ends a line, and
-/// a tab goes on to the next multiple of ten digits' widths. What fails is passed over, statement by statement, and
-/// nothing is said of it.
+/// a tab goes on to the next multiple of ten digits' widths. Nothing fails: each
+/// statement that does is passed over, and nothing is said of it.
 void printHelpText(const std::string& title, const std::string& text);
 
 /// Gives a page its heading and its footer, today's date and the number of the page, and goes to where the text begins;

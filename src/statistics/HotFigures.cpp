@@ -9,6 +9,8 @@ namespace ballhaven {
 
 // QUIRK HOT-PERCENT-1: a pick that stands twice in one draw counts twice, so the percentage can pass 100. It is the
 // share of the hits column beside it, and a limit at 100 would let the two disagree.
+// QUIRK HOT-OVERFLOW-1: the product is a 16-bit one, so 328 hits overflow, which ends the program where the cell is
+// drawn and the data report at its row. Files and habits rest on it.
 std::int16_t HotPercentage(int games, int hits) {
     return modUTILS::Divide(modUTILS::ToInt16(hits * 100), games);
 }

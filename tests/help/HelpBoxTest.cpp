@@ -45,19 +45,21 @@ class HelpBox : public support::RunningProgram {
     /// Opens the help by the menu of the Play Slips window. It stays open.
     void OpenFromPlays(std::size_t entry) {
         ChooseFromMenu("mnuView", "mnuViewArray(3)");
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dynamic_cast<QWidget*>(frmPlays.window.view)));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&PlaySlips()));
         frmPlays.mnuHelpArray[entry].click();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&Box()));
         Settle();
     }
 
-    static QWidget& Box() {
-        auto* const box = dynamic_cast<QWidget*>(frmHelpBox.window.view);
-        if (box == nullptr) {
-            throw std::runtime_error("the help is not open");
+    static QWidget& WidgetOf(const platform::Window& window) {
+        auto* const widget = dynamic_cast<QWidget*>(window.view);
+        if (widget == nullptr) {
+            throw std::runtime_error(window.name + " is not open");
         }
-        return *box;
+        return *widget;
     }
+    static QWidget& Box() { return WidgetOf(frmHelpBox.window); }
+    static QWidget& PlaySlips() { return WidgetOf(frmPlays.window); }
 
     /// Another window comes to the front; while the help is modal, one that is modal too, as a message box is.
     static void GiveFocusTo(QWidget& stranger) {
@@ -112,6 +114,11 @@ TEST_F(HelpBox, TheMainWindowShowsWhatIsSaidAboutTheProgram) {
 TEST_F(HelpBox, TheSeparatorsDoNothing) {
     EXPECT_TRUE(MenuEntry("mnuHelpArray(1)").isSeparator());
     EXPECT_FALSE(frmMainForm.mnuHelpArray[1].click);
+
+    ChooseFromMenu("mnuView", "mnuViewArray(3)");
+    const auto* const besideSlips = PlaySlips().findChild<QAction*>(QStringLiteral("mnuHelpArray(1)"));
+    ASSERT_NE(besideSlips, nullptr);
+    EXPECT_TRUE(besideSlips->isSeparator());
     EXPECT_FALSE(frmPlays.mnuHelpArray[1].click);
 }
 
@@ -169,14 +176,15 @@ TEST_F(HelpBox, ComesToTheFrontInTheNormalState) {
     EXPECT_EQ(frmHelpBox.window.State(), platform::WindowState::Normal);
 }
 
-TEST_F(HelpBox, ClosesWhenTheMainWindowTakesTheFocus) {
+TEST_F(HelpBox, AClickOnTheMainWindowClosesItAndDoesItsWork) {
     OpenFromPlays(0);
-    MainWindow().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&MainWindow()));
-    Settle();
+    ASSERT_EQ(*frmMainForm.lblPlay.text, "1.A");
+    MainWindow().activateWindow();  // which the desktop does for a press of the mouse
+    Click("cmdPlayBttn(1)");
     EXPECT_FALSE(frmHelpBox.window.IsLoaded());
     EXPECT_TRUE(MainWindow().isActiveWindow());
     EXPECT_TRUE(frmPlays.window.IsLoaded());
+    EXPECT_EQ(*frmMainForm.lblPlay.text, "1.B");
 }
 
 TEST_F(HelpBox, ClosesWhenAnyOtherWindowTakesTheFocus) {
@@ -205,7 +213,7 @@ TEST_F(HelpBox, ClosesByEscape) {
     OpenFromPlays(0);
     Press(Qt::Key_Escape);
     EXPECT_FALSE(frmHelpBox.window.IsLoaded());
-    EXPECT_TRUE(QTest::qWaitForWindowActive(dynamic_cast<QWidget*>(frmPlays.window.view)));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&PlaySlips()));
 }
 
 TEST_F(HelpBox, TheTextIsBuiltAnewEachTime) {
@@ -237,6 +245,17 @@ TEST_F(HelpBox, TheButtonPrintsWhatTheBoxHoldsUnderItsHeading) {
     ASSERT_EQ(printer.jobs[0].size(), 1U);
     EXPECT_EQ(printer.jobs[0][0].front().text, "Some heading");
     EXPECT_NE(printer.AsText().find("\n       Some text\n"), std::string::npos);
+}
+
+TEST_F(HelpBox, AChangedHeadingIsPrintedOnEveryPage) {
+    OpenFromPlays(0);
+    frmHelpBox.lblLabel.text = "Some heading";
+    Click("cmdHelp");
+    ASSERT_EQ(printer.jobs.size(), 1U);
+    EXPECT_GT(printer.jobs[0].size(), 4U);
+    for (const support::PrinterRecord::Page& page : printer.jobs[0]) {
+        EXPECT_EQ(page.front().text, "Some heading");
+    }
 }
 
 TEST_F(HelpBox, TheInstructionsArePrintedWithTheirHeadingOnEveryPage) {

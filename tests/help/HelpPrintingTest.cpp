@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -218,6 +220,42 @@ TEST_F(HelpPrinting, ATabReckonsWithTheRoundedPlaceAndTiesGoToTheEvenNumber) {
     EXPECT_DOUBLE_EQ(Drawn("d").x, 720 + 10 * 120) << "8.5 is 8";
 }
 
+TEST_F(HelpPrinting, ATabWhosePlaceCannotBeMeasuredIsTheFirstOne) {
+    record.FailWidthOnce("0");
+    printHelpText("Title", "twelve signs\tx");
+
+    EXPECT_DOUBLE_EQ(Drawn("x").x, 720 + 10 * 120);
+}
+
+TEST_F(HelpPrinting, ATabToWhichTheWayCannotBeMeasuredStaysWhereItIs) {
+    record.FailWidthOnce("0", 1);
+    printHelpText("Title", "twelve signs\tx\ty");
+
+    EXPECT_DOUBLE_EQ(Drawn("x").x, 720 + 12 * 120);
+    EXPECT_DOUBLE_EQ(Drawn("y").x, 720 + 20 * 120);
+}
+
+TEST_F(HelpPrinting, ATabOfDigitsWithoutWidthIsTheLeftMargin) {
+    record.ownWidths = {{"0", 0}};
+    printHelpText("Title", "some\tx");
+
+    EXPECT_DOUBLE_EQ(Drawn("x").x, 720);
+}
+
+TEST_F(HelpPrinting, AWordThatCannotBeMeasuredHasTheNextLine) {
+    record.FailWidthOnce("b");
+    printHelpText("Title", "a b c");
+
+    EXPECT_EQ(record.AsText(), PaperWithHeading(1, {{6, "      a "}, {7, "      b c"}}));
+}
+
+TEST_F(HelpPrinting, AHeadingThatCannotBeMeasuredBeginsAtTheLeftEdge) {
+    record.FailWidthOnce("Title");
+    printHelpText("Title", "word");
+
+    EXPECT_EQ(record.AsText(), Paper({{3, "Title"}, {6, "      word"}, {60, Footer(1)}}));
+}
+
 TEST_F(HelpPrinting, ItsPagesReadAsTheText) {
     std::string text =
         " The harbour\r\n\r\n"
@@ -280,6 +318,21 @@ TEST_F(QuirkHelpPrintSilent1, AMachineWithoutAPrinterPrintsNothingAndSaysNothing
     printHelpText("Title", "some\twords\r\nand lines\r\n");
 
     EXPECT_EQ(devices, 1);
+}
+
+TEST_F(HelpPrinting, APrinterThatCannotBeOpenedPrintsNothingAndSaysNothing) {
+    platform::services.openPrinter = [](const std::string&) -> std::unique_ptr<platform::PrinterDevice> {
+        throw std::runtime_error("The printer is on loan.");
+    };
+
+    EXPECT_NO_THROW(printHelpText("Title", "some\twords\r\nand lines\r\n"));
+}
+
+TEST_F(HelpPrinting, ADateThatCannotBeHadIsPassedOver) {
+    platform::services.today = []() -> std::chrono::year_month_day { throw std::runtime_error("No clock."); };
+    printHelpText("Title", "word");
+
+    EXPECT_EQ(TextsOfPages(), "Title Page 1 word");
 }
 
 TEST_F(HelpPrinting, AnyStatementThatFailsIsPassedOverAndTheNextOnesRun) {

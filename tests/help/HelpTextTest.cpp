@@ -17,6 +17,11 @@ TEST(HelpText, TopicZeroIsTheInstructions) {
               std::string::npos);
 }
 
+TEST(HelpText, ItsTopicsAreTheIndexesOfTheMenuEntries) {
+    EXPECT_EQ(instructionsTopic, 0);
+    EXPECT_EQ(aboutTopic, 2);
+}
+
 TEST(HelpText, AnyOtherTopicIsTheProgram) {
     constexpr std::int16_t topics[] = {1, 2, -1, 32767};
     for (const std::int16_t topic : topics) {

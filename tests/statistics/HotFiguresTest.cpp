@@ -26,7 +26,8 @@ TEST(HotPercentage, CutsItsFractionOff) {
     EXPECT_EQ(HotPercentage(7, 7), 100);
 }
 
-TEST(HotPercentage, Of327HitsIsTheLastThatFits) {
+// Not a bug: HOT-OVERFLOW-1 in docs/not-bugs.md.
+TEST(QuirkHotOverflow1, ThePercentageOf327HitsIsTheLastThatFits) {
     EXPECT_EQ(HotPercentage(999, 327), 32);
     EXPECT_EQ(FailureOf([] { return HotPercentage(999, 328); }), RuntimeFailure::Kind::Overflow);
 }

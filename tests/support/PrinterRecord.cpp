@@ -64,6 +64,7 @@ class PrinterRecord::Device final : public platform::PrinterDevice {
     [[nodiscard]] double PageWidth() const override { return record.pageWidth; }
     [[nodiscard]] double PageHeight() const override { return record.pageHeight; }
     [[nodiscard]] double TextWidth(const std::string& text) const override {
+        record.CountWidth(text);
         const auto own = record.ownWidths.find(text);
         return own != record.ownWidths.end() ? own->second : characterWidth * static_cast<double>(text.size());
     }
@@ -101,6 +102,18 @@ void PrinterRecord::FailFrom(int operation, int number) {
 void PrinterRecord::FailOnceAt(int operation, int number) {
     FailFrom(operation, number);
     lastFailing = operation;
+}
+
+void PrinterRecord::FailWidthOnce(const std::string& text, int asksBefore) {
+    asksBeforeFailing[text] = asksBefore;
+}
+
+void PrinterRecord::CountWidth(const std::string& text) {
+    const auto asked = asksBeforeFailing.find(text);
+    if (asked != asksBeforeFailing.end() && asked->second-- == 0) {
+        asksBeforeFailing.erase(asked);
+        throw platform::PrinterFailure(platform::deviceNotReady);
+    }
 }
 
 void PrinterRecord::Count() {

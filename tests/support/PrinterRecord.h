@@ -36,6 +36,9 @@ class PrinterRecord {
     /// The same in that one operation only.
     void FailOnceAt(int operation, int number = platform::deviceNotReady);
 
+    /// The width of this text cannot be had when it is asked for the next time but `asksBefore`, and then again.
+    void FailWidthOnce(const std::string& text, int asksBefore = 0);
+
     using Page = std::vector<PrintedText>;
     using Job = std::vector<Page>;
 
@@ -51,10 +54,14 @@ class PrinterRecord {
     /// Counts an operation; throws where it is to fail.
     void Count();
 
+    /// Counts an ask for the width of a text; throws where it is not to be had.
+    void CountWidth(const std::string& text);
+
     int operations = 0;
     int failing = 0;      ///< the first operation that fails, 0 for none
     int lastFailing = 0;  ///< the last one
     int errorNumber = 0;
+    std::map<std::string, int> asksBeforeFailing;  ///< by the text whose width is to fail
 };
 
 }  // namespace ballhaven::support
