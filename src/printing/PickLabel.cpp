@@ -10,7 +10,7 @@ namespace ballhaven {
 // lowest number is 1, and in every card game, the data report prints the pick above the drawn one, and nothing for the
 // highest. Habits rest on it; the plays, which are cells, would print wrongly if the step were left out for both.
 std::string pickLabel(int value) {
-    const std::string text = PickCellText(value);
+    std::string text = PickCellText(value);
     if (text.empty() || !IsCardGame(appState.gameType)) {
         return text;
     }

@@ -115,7 +115,7 @@ TEST_F(TheGameDialog, BearsTheTitleOfWhatItDoes) {
 
 TEST_F(TheGameDialog, EscapeCancelsIt) {
     const std::string before = RecordColumns(1, 1, 64);
-    InGameDialog([this] {
+    InGameDialog([] {
         Type("Another name");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     });

@@ -54,7 +54,8 @@ Lines UnderSubHeading(std::size_t topic, std::string_view from, std::string_view
 }
 
 void ExpectTogether(const Lines& lines, const Lines& expected) {
-    EXPECT_FALSE(std::ranges::search(lines, expected).empty()) << "not together: " << expected.front();
+    EXPECT_NE(std::search(lines.begin(), lines.end(), expected.begin(), expected.end()), lines.end())
+        << "not together: " << expected.front();
 }
 
 TEST(Instructions, TheirTopicsStandInOrderUnderTheirHeadings) {

@@ -30,9 +30,9 @@ TEST(QuirkTotalPlays1, OneIsRefusedAndALittleMoreIsTaken) {
 }
 
 TEST(TotalPlaysOf, LettersAndAnEmptyBoxAreRefused) {
-    for (const char* text : {"", "   ", "abc", "x12", "inf", "nan", "?",
-                             "\x80"
-                             "5"}) {
+    const std::string euroSign = "\x80";
+    for (const std::string& text : {std::string(), std::string("   "), std::string("abc"), std::string("x12"),
+                                    std::string("inf"), std::string("nan"), std::string("?"), euroSign + "5"}) {
         EXPECT_EQ(TotalPlaysOf(text), refused) << text;
     }
 }
