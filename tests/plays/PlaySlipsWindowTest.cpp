@@ -86,6 +86,20 @@ TEST_F(PlaySlips, ClicksFillPlaysInOnTheirOwnBoards) {
     EXPECT_TRUE(appState.playsDirty);
 }
 
+TEST_F(PlaySlips, AClickBesideTheCellsTogglesNothing) {
+    Open({.mainPicks = 2, .high = 49});
+    const QPoint caption(CellPlace("grdPlays(0)", 0, On(2, 4)).center().x(), 4);
+    const QPoint below(caption.x(), Find("grdPlays(0)").height() - 1);
+    ClickAt("grdPlays(0)", caption);
+    ClickAt("grdPlays(0)", below);
+    EXPECT_EQ(support::PlaysInUse(appState.PlayTable, mainPicks), 0);
+    EXPECT_FALSE(appState.playsDirty);
+    ClickNumber(2, 7);
+    ClickAt("grdPlays(0)", caption);
+    ClickAt("grdPlays(0)", below);
+    EXPECT_EQ(Main(1, 5), "||6||");
+}
+
 TEST_F(PlaySlips, AMoveWithoutAClickTogglesNothing) {
     Open({.high = 49});
     frmPlays.grdPlays[0].GoTo({3, 2, 2});

@@ -83,6 +83,16 @@ TEST_F(SinglePlay, ClicksTurnPicksOnAndOff) {
     EXPECT_EQ(CellColor("grdPlay", 0, 6), QColor(Qt::white));
 }
 
+TEST_F(SinglePlay, AClickBesideTheCellsTurnsNothingOnOrOff) {
+    StartWith({.mainPicks = 3, .high = 49});
+    const QPoint below(40, Find("grdPlay").height() - 1);
+    ClickAt("grdPlay", below);
+    EXPECT_EQ(support::PicksText(appState.PlayTable, mainPicks, 1, 1), "");
+    ClickCell("grdPlay", 0, 6);
+    ClickAt("grdPlay", below);
+    EXPECT_EQ(support::PicksText(appState.PlayTable, mainPicks, 1, 1), "6");
+}
+
 TEST_F(SinglePlay, AMoveByTheKeyboardTurnsNothingOn) {
     StartWith({.mainPicks = 3, .high = 49});
     ClickCell("grdPlay", 0, 6);

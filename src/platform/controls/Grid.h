@@ -126,7 +126,7 @@ class Grid : public Control {
     /// A press of a mouse button, in twips from the grid's top left corner.
     std::function<void(int x, int y)> mousePress;
 
-    /// The release of the mouse button, and its end, when the current cell has moved.
+    /// The release of the mouse button, and its end, when the current cell has moved. Boards raise them on cells alone.
     Handler click;
     Handler settled;
     Handler currentCellChanged;

@@ -93,12 +93,21 @@ void GridInput::Release(QPoint position, const QMouseEvent& event) {
     }
 }
 
-/// A drag from one cell to another is a click on neither.
+/// Whether the grid shows cells to click on and nothing else: nothing can be typed, and no row is selected beside them.
+bool GridInput::IsBoard() const {
+    bool isLocked = true;
+    for (int pane = 0; pane < grid.PaneCount(); ++pane) {
+        isLocked = isLocked && grid.Pane(pane).locked;
+    }
+    return isLocked && !grid.showsRowMargin;
+}
+
+/// A drag from one cell to another is a click on neither, and a board has nothing to click on beside its cells.
 bool GridInput::IsWherePressed(QPoint position) const {
     if (pressedCell) {
         return pressedCell->contains(position);
     }
-    return widget.rect().contains(position) && !panes.CellAt(position);
+    return !IsBoard() && widget.rect().contains(position) && !panes.CellAt(position);
 }
 
 void GridInput::FinishClick(QPoint position) {

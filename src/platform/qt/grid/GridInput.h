@@ -44,6 +44,7 @@ class GridInput : public QObject {
   private:
     void Press(QPoint position, const QMouseEvent& event);
     void Release(QPoint position, const QMouseEvent& event);
+    [[nodiscard]] bool IsBoard() const;
     [[nodiscard]] bool IsWherePressed(QPoint position) const;
     void FinishClick(QPoint position);
     [[nodiscard]] bool IsOnDropDownButton(const GridCell& cell, QPoint position) const;

@@ -70,6 +70,14 @@ TEST_F(GridMouse, APressIsToldForTheHeadingsAndTheMarginToo) {
     EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
 }
 
+TEST_F(GridMouse, AClickBesideTheCellsOfALockedLogIsTold) {
+    grid.Pane(1).locked = true;
+
+    Click({200, 7});
+
+    EXPECT_EQ(TakeNotices(), (Notices{"press 3000,105", "click", "settled"}));
+}
+
 TEST_F(GridMouse, AClickBelowTheLastRowMovesNothing) {
     grid.SetRowCount(3);
 
@@ -411,6 +419,28 @@ TEST_F(BoardInput, ADragFromBoardToBoardIsNoClick) {
 
     EXPECT_EQ(Current(), (GridCell{0, 0, 0}));
     EXPECT_EQ(TakeNotices(), Notices{});
+}
+
+TEST_F(BoardInput, AClickBesideTheCellsOfABoardIsNone) {
+    Click(MiddleOf({2, 5, 3}));
+    (void)TakeNotices();
+
+    Click(MiddleOf({2, 23, 3}) + QPoint(0, 10));
+    Click({2, 0});
+
+    const Notices told = TakeNotices();
+    EXPECT_EQ(told.size(), 2U);
+    EXPECT_EQ(told[0].substr(0, 6) + told[1].substr(0, 6), "press press ");
+    EXPECT_EQ(Current(), (GridCell{2, 5, 3}));
+}
+
+TEST_F(BoardInput, WhereSomethingCanBeTypedAClickBesideTheCellsIsOne) {
+    grid.Pane(3).locked = false;
+
+    Click(MiddleOf({2, 23, 3}) + QPoint(0, 10));
+
+    const Notices told = TakeNotices();
+    EXPECT_EQ(Notices(told.begin() + 1, told.end()), (Notices{"click", "settled"}));
 }
 
 TEST_F(BoardInput, ArrowsCrossToTheNextBoardWithTheKeyboard) {
