@@ -6,6 +6,7 @@
 #include "forms/ShuffleForm.h"
 #include "games/GameDialogLists.h"
 #include "platform/Boxes.h"
+#include "platform/controls/Keys.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
@@ -16,7 +17,6 @@ namespace ballhaven {
 
 namespace {
 
-constexpr char enterKey = '\r';
 constexpr int alteringGame = 2;
 
 void Load() {
@@ -38,10 +38,10 @@ void Activate() {
 
 /// The Enter key of the name box leads on to the kind of game instead of doing nothing.
 bool GoOnByEnter(char key) {
-    if (key == enterKey) {
+    if (key == platform::enterKey) {
         ListOf(gameTypeList).TakeFocus();
     }
-    return key == enterKey;
+    return key == platform::enterKey;
 }
 
 void Save() {

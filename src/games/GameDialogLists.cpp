@@ -5,6 +5,7 @@
 #include "games/GameQuestions.h"
 #include "platform/Application.h"
 #include "state/AppState.h"
+#include "state/GameRecord.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
@@ -54,9 +55,9 @@ void ShowHighest(GameList list, const GameQuestion& question) {
     ShowEntries(list, question);
 }
 
-void ShowName(const std::string& name) {
-    if (!name.starts_with(undefinedGameName)) {
-        frmNewGame.txtNewGame[0].text = modUTILS::Trimmed(name);
+void ShowName(const std::string& record) {
+    if (!CountsAsFree(record)) {
+        frmNewGame.txtNewGame[0].text = modUTILS::Trimmed(GameName(record));
     }
 }
 
@@ -72,7 +73,7 @@ GameChoices SelectedChoices() {
 
 void FillGameDialog() {
     frmNewGame.filling = true;
-    ShowName(GameName(appState.gameRecord));
+    ShowName(appState.gameRecord);
     const AskedGame game = AskAbout(appState.gameRecord, frmNewGame.loading);
     for (const Place& place : places) {
         ShowQuestion(place.list, game.questions.*place.question);

@@ -9,10 +9,11 @@
 #include "history/HistoryFile.h"
 #include "platform/Boxes.h"
 #include "platform/Pointer.h"
+#include "plays/PickSlots.h"
 #include "plays/PlayFile.h"
 #include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
-#include "state/GameRecordColumns.h"
+#include "state/GameRecord.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "wheels/ShuffleFile.h"
@@ -28,15 +29,13 @@ constexpr int addingGame = 1;
 constexpr int alteringGame = 2;
 
 bool IsCurrentGameUndefined() {
-    return modUTILS::Trimmed(frmMainForm.cboList[0].Text()) == undefinedGameName;
+    return IsUndefinedName(frmMainForm.cboList[0].Text());
 }
 
 /// The first slot without a game, 0 if there is none.
 int FirstFreeSlot() {
-    // QUIRK UNDEFINED-NAME-1: a game whose name begins with "un-defined" counts as a free slot, and its name is not
-    // offered for alteration. Files rest on it: comparing all 20 columns would take other slots of theirs for games.
     for (int slot = 1; slot <= gameSlots; ++slot) {
-        if (GameName(ReadGameRecord(slot)).starts_with(undefinedGameName)) {
+        if (CountsAsFree(ReadGameRecord(slot))) {
             return slot;
         }
     }
@@ -58,8 +57,8 @@ void WipePlays() {
     const int slots = std::min<int>(appState.totalPicks, picksPerPlay);
     for (int play = 1; play <= playCount; ++play) {
         for (int slot = 1; slot <= slots; ++slot) {
-            appState.PlayTable(mainPicks, play, slot) = -1;
-            appState.PlayTable(bonusPicks, play, slot) = -1;
+            appState.PlayTable(mainPicks, play, slot) = emptySlot;
+            appState.PlayTable(bonusPicks, play, slot) = emptySlot;
         }
         appState.PlayTable(mainPicks, play, 0) = byHand;
     }
@@ -71,7 +70,7 @@ void WipeGame() {
     WipePlays();
     appState.playsDirty = false;
     SavePlayFile();
-    std::ranges::fill(appState.ShuffleTable.Slots(mainPicks), std::int16_t{-1});
+    std::ranges::fill(appState.ShuffleTable.Slots(mainPicks), emptySlot);
     SaveShuffleFile();
     appState.gameRecord = BuildDefaultGameRecord(appState.currentGame, 0);
     SaveGameRecord(appState.currentGame);

@@ -1,5 +1,6 @@
 #include "plays/BoardColours.h"
 
+#include "plays/PickSlots.h"
 #include "plays/PickToggling.h"
 #include "state/BoardGeometry.h"
 
@@ -76,10 +77,6 @@ CellStyle Ground(const GameRules& rules, int cell) {
     }
     const bool isNumber = cell < board.mainCells || cell >= board.firstBonusCell;
     return rules.duplicatesAllowed && isNumber ? RunGround(rules, cell, board) : plain;
-}
-
-bool Holds(std::span<const std::int16_t> list, std::int16_t value) {
-    return std::ranges::find(list, value) != list.end();
 }
 
 }  // namespace

@@ -16,10 +16,10 @@ bool IsDigit(char character) {
 }  // namespace
 
 std::optional<std::string> PlayBoardText(int row, int column) {
-    if (row < 0 || row >= BoardOf(appState.gameType).rows || column < 0 || column >= appState.slipColumns) {
+    if (!IsOnBoard(row, column)) {
         return std::nullopt;
     }
-    std::string text = PickCellText(row * appState.slipColumns + column);
+    std::string text = PickCellText(CellNumberAt(row, column));
     const bool isCard = IsCardGame(appState.gameType) && !text.empty() && IsDigit(text.front());
     return isCard ? CardToText(modUTILS::ValueOf16(text)) : text;
 }

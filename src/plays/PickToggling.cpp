@@ -1,16 +1,11 @@
 #include "plays/PickToggling.h"
 
+#include "plays/PickSlots.h"
 #include "state/BoardGeometry.h"
 
 #include <algorithm>
 
 namespace ballhaven {
-
-namespace {
-
-constexpr std::int16_t emptySlot = -1;
-
-}  // namespace
 
 BoardPick PickOfCell(int gameType, int cell) {
     const int firstBonusCell = BoardOf(gameType).firstBonusCell;
@@ -39,7 +34,7 @@ Toggled TogglePickIn(std::span<std::int16_t> own, std::span<const std::int16_t> 
         *held = emptySlot;
         return Toggled::TakenOff;
     }
-    if (KeepsListsApart(gameType) && std::ranges::find(other, value) != other.end()) {
+    if (KeepsListsApart(gameType) && Holds(other, value)) {
         return Toggled::HeldByOther;
     }
     const auto empty = std::ranges::find(own, emptySlot);

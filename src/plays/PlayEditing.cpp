@@ -1,6 +1,7 @@
 #include "plays/PlayEditing.h"
 
 #include "platform/Boxes.h"
+#include "plays/PickSlots.h"
 #include "plays/PickToggling.h"
 #include "plays/PlayMethodCode.h"
 #include "plays/PlayScreen.h"
@@ -52,7 +53,7 @@ void TogglePick(int play, platform::Grid& board) {
     if (board.CurrentRow() < 0 || board.CurrentColumn() < 0 || !Exists(play)) {
         return;
     }
-    const int cell = board.CurrentRow() * appState.slipColumns + board.CurrentColumn();
+    const int cell = CellNumberAt(board.CurrentRow(), board.CurrentColumn());
     if (!IsPickText(PickCellText(cell))) {
         return;
     }
@@ -92,9 +93,7 @@ std::string CellDescription(int play, int cell, const std::string& text) {
 
 void ErasePlay(int play) {
     if (Exists(play)) {
-        std::ranges::fill(appState.PlayTable.Slots(mainPicks, play), std::int16_t{-1});
-        std::ranges::fill(appState.PlayTable.Slots(bonusPicks, play), std::int16_t{-1});
-        appState.PlayTable(mainPicks, play, 0) = byHand;
+        EmptyPlay(appState.PlayTable, play);
     }
     appState.playsDirty = true;
 }

@@ -2,15 +2,7 @@
 
 #include "state/modUTILS.h"
 
-#include <string_view>
-
 namespace ballhaven {
-
-namespace {
-
-constexpr std::string_view lineLetters = "ABCDE";
-
-}  // namespace
 
 std::int16_t SlipOfPlay(int play) {
     return modUTILS::ToInt16((play + playsPerSlip - 1) / playsPerSlip);

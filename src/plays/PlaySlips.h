@@ -2,10 +2,14 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace ballhaven {
 
 inline constexpr int playsPerSlip = 5;
+
+/// The letters of a slip's lines, the first line's first.
+inline constexpr std::string_view lineLetters = "ABCDE";
 
 /// The slip, from 1, on which a play (from 1) stands.
 [[nodiscard]] std::int16_t SlipOfPlay(int play);

@@ -11,6 +11,7 @@
 #include "plays/PlayScreen.h"
 #include "plays/SlipBoards.h"
 #include "state/AppState.h"
+#include "state/BoardGeometry.h"
 
 #include <string>
 #include <utility>
@@ -110,7 +111,7 @@ void WireBoards() {
     platform::Grid& boards = frmPlays.grdPlays[0];
     boards.cellText = SlipBoardText;
     boards.cellStyle = [](const platform::GridCell& cell, platform::CellStyle& style) {
-        PlayCellStyle(PlayOfBoard(cell.pane), cell.row * appState.slipColumns + cell.column, style);
+        PlayCellStyle(PlayOfBoard(cell.pane), CellNumberAt(cell.row, cell.column), style);
     };
     boards.cellDescription = SlipCellDescription;
     boards.click = [] { frmPlays.boardClicked = true; };

@@ -7,6 +7,7 @@
 #include "plays/PlayEditing.h"
 #include "plays/PlaySlips.h"
 #include "state/AppState.h"
+#include "state/BoardGeometry.h"
 
 #include <string>
 #include <utility>
@@ -54,10 +55,10 @@ void ErasePlayOnMain() {
 void WireSinglePlay() {
     frmMainForm.grdPlay.cellText = [](const platform::GridCell& cell) { return PlayBoardText(cell.row, cell.column); };
     frmMainForm.grdPlay.cellStyle = [](const platform::GridCell& cell, platform::CellStyle& style) {
-        PlayCellStyle(appState.currentPlay, cell.row * appState.slipColumns + cell.column, style);
+        PlayCellStyle(appState.currentPlay, CellNumberAt(cell.row, cell.column), style);
     };
     frmMainForm.grdPlay.cellDescription = [](const platform::GridCell& cell) {
-        return CellDescription(appState.currentPlay, cell.row * appState.slipColumns + cell.column,
+        return CellDescription(appState.currentPlay, CellNumberAt(cell.row, cell.column),
                                PlayBoardText(cell.row, cell.column).value_or(std::string()));
     };
     frmMainForm.grdPlay.click = [] { frmMainForm.playClicked = true; };

@@ -7,39 +7,25 @@
 #include "state/PickText.h"
 #include "state/modUTILS.h"
 
-#include <string_view>
-
 namespace ballhaven {
-
-namespace {
-
-constexpr std::string_view lineLetters = "ABCDE";
-
-int CellNumberOf(const platform::GridCell& cell) {
-    return cell.row * appState.slipColumns + cell.column;
-}
-
-}  // namespace
 
 int PlayOfBoard(int board) {
     return appState.currentSlip * playsPerSlip - (playsPerSlip - 1) + board;
 }
 
 std::optional<std::string> SlipBoardText(const platform::GridCell& cell) {
-    const bool isOnBoard = 0 <= cell.row && cell.row < BoardOf(appState.gameType).rows && 0 <= cell.column &&
-                           cell.column < appState.slipColumns;
-    if (!isOnBoard) {
+    if (!IsOnBoard(cell.row, cell.column)) {
         return std::nullopt;
     }
     // QUIRK SLIP-LETTERS-1: in a card game every text is read as a card, and the letters of BONUS are none: the row
     // stays blank here, unlike on the main window's board. Files and habits rest on it.
-    const std::string text = PickCellText(CellNumberOf(cell));
+    const std::string text = PickCellText(CellNumberAt(cell.row, cell.column));
     return IsCardGame(appState.gameType) ? CardToText(modUTILS::ValueOf16(text)) : text;
 }
 
 std::string SlipCellDescription(const platform::GridCell& cell) {
-    const std::string pick =
-        CellDescription(PlayOfBoard(cell.pane), CellNumberOf(cell), SlipBoardText(cell).value_or(std::string()));
+    const std::string pick = CellDescription(PlayOfBoard(cell.pane), CellNumberAt(cell.row, cell.column),
+                                             SlipBoardText(cell).value_or(std::string()));
     return pick.empty() ? pick : std::string("Line ") + lineLetters[static_cast<std::size_t>(cell.pane)] + ", " + pick;
 }
 

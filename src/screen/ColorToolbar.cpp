@@ -2,6 +2,7 @@
 
 #include "forms/GamePresentation.h"
 #include "forms/MainForm.h"
+#include "platform/controls/Keys.h"
 #include "screen/CardPicker.h"
 #include "screen/DrawingHiLite.h"
 #include "state/AppState.h"
@@ -16,8 +17,6 @@
 namespace ballhaven {
 
 namespace {
-
-constexpr char enterKey = '\r';
 
 void ApplyHiLites() {
     appState.colorMode = 1;
@@ -53,7 +52,7 @@ bool TakeKey(std::size_t box, char key) {
         OpenHiLiteCards(static_cast<std::int16_t>(box));
         return true;
     }
-    if (key == enterKey) {
+    if (key == platform::enterKey) {
         LeaveByEnter(box);
         return true;
     }

@@ -28,6 +28,14 @@ BoardGeometry BoardOf(int gameType) {
             .firstBonusCell = 108};
 }
 
+int CellNumberAt(int row, int column) {
+    return row * appState.slipColumns + column;
+}
+
+bool IsOnBoard(int row, int column) {
+    return 0 <= row && row < BoardOf(appState.gameType).rows && 0 <= column && column < appState.slipColumns;
+}
+
 std::optional<int> BonusLetterAt(int gameType, int cell) {
     const int letter = cell - BoardOf(gameType).firstWordCell;
     const bool isInWord = 0 <= letter && letter < static_cast<int>(bonusWord.size());

@@ -21,6 +21,12 @@ inline constexpr std::string_view bonusWord = "BONUS";
 /// The board of a kind of game (0 to 5).
 [[nodiscard]] BoardGeometry BoardOf(int gameType);
 
+/// The number of the cell at a row and a column of the game at hand, whose board is `slipColumns` wide.
+[[nodiscard]] int CellNumberAt(int row, int column);
+
+/// Whether the board of the game at hand has a row and a column.
+[[nodiscard]] bool IsOnBoard(int row, int column);
+
 /// The place in `bonusWord` of the letter that a cell shows; none beside the word, and in a game without bonus picks.
 [[nodiscard]] std::optional<int> BonusLetterAt(int gameType, int cell);
 

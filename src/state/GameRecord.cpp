@@ -103,6 +103,16 @@ std::string GameName(const std::string& record) {
     return FieldText(record, gameField::name);
 }
 
+bool IsUndefinedName(const std::string& name) {
+    return modUTILS::Trimmed(name) == undefinedGameName;
+}
+
+bool CountsAsFree(const std::string& record) {
+    // QUIRK UNDEFINED-NAME-1: a game whose name begins with "un-defined" counts as a free slot, and its name is not
+    // offered for alteration. Files rest on it: comparing all 20 columns would take other slots of theirs for games.
+    return GameName(record).starts_with(undefinedGameName);
+}
+
 std::string InPresentForm(std::string record) {
     if (const OlderKind* kind = FindOlderKind(record)) {
         SetFieldValue(record, gameField::gameType, kind->gameType);

@@ -13,6 +13,12 @@ namespace ballhaven {
 /// Columns 4-23, the name of the game with its trailing blanks.
 [[nodiscard]] std::string GameName(const std::string& record);
 
+/// Whether a name, with blanks or without, is that of a slot that no game has been set up in.
+[[nodiscard]] bool IsUndefinedName(const std::string& name);
+
+/// Whether a record's slot is free for a new game.
+[[nodiscard]] bool CountsAsFree(const std::string& record);
+
 /// A record in the present form: one of the older form with a letter as its kind gets the kind's digit, its limits and
 /// a history set that can be chosen; any other only a digit as its kind.
 [[nodiscard]] std::string InPresentForm(std::string record);

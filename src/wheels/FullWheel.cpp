@@ -3,8 +3,6 @@
 #include "platform/Boxes.h"
 #include "wheels/WheelRows.h"
 
-#include <algorithm>
-
 namespace ballhaven {
 
 namespace {
@@ -33,8 +31,7 @@ void FullWheelPass(const PickPass& pass, PlayStretch& plays, PlayPicks& table) {
         }
     }
     for (int row = plays.firstPlay; row <= plays.lastPlay; ++row) {
-        std::ranges::copy(rows[row].first(static_cast<std::size_t>(pass.slotCount) + 1),
-                          table.EntriesOf(pass.pickColumn, row).begin());
+        PutRowIntoPlay(rows[row], pass, table, row);
     }
 }
 

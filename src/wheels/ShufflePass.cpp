@@ -1,5 +1,6 @@
 #include "wheels/ShufflePass.h"
 
+#include "plays/PickSlots.h"
 #include "plays/PlayMethodCode.h"
 
 #include <algorithm>
@@ -8,12 +9,6 @@
 namespace ballhaven {
 
 namespace {
-
-constexpr std::int16_t emptySlot = -1;
-
-bool Holds(std::span<const std::int16_t> picks, std::int16_t pick) {
-    return std::ranges::find(picks, pick) != picks.end();
-}
 
 /// The pick at a place of the pool that a number from 0 up to 1 stands for.
 std::int16_t PickAt(const std::vector<std::int16_t>& pool, float number) {

@@ -2,12 +2,12 @@
 
 #include "forms/ShuffleForm.h"
 #include "plays/BoardColours.h"
+#include "plays/PickSlots.h"
 #include "plays/PickToggling.h"
 #include "plays/SlipBoards.h"
 #include "state/AppState.h"
+#include "state/BoardGeometry.h"
 #include "state/GameRecord.h"
-#include "state/GameRecordColumns.h"
-#include "state/modUTILS.h"
 #include "wheels/ShuffleFile.h"
 
 #include <algorithm>
@@ -16,14 +16,6 @@
 namespace ballhaven {
 
 namespace {
-
-bool IsGameUndefined() {
-    return modUTILS::Trimmed(GameName(appState.gameRecord)) == undefinedGameName;
-}
-
-int CellNumberOf(const platform::GridCell& cell) {
-    return cell.row * appState.slipColumns + cell.column;
-}
 
 /// The slots of a list up to one.
 std::span<const std::int16_t> SlotsTo(int last, const ChosenPicks& chosen, PickColumn list) {
@@ -46,7 +38,7 @@ void ShowAndSave() {
 }  // namespace
 
 std::optional<std::string> ShuffleBoardText(const platform::GridCell& cell) {
-    return IsGameUndefined() ? std::nullopt : SlipBoardText(cell);
+    return IsUndefinedName(GameName(appState.gameRecord)) ? std::nullopt : SlipBoardText(cell);
 }
 
 void GetShuffleCellStyle(int cell, platform::CellStyle& style) {
@@ -56,8 +48,9 @@ void GetShuffleCellStyle(int cell, platform::CellStyle& style) {
 
 std::string ShuffleCellDescription(const platform::GridCell& cell) {
     const GameRules rules = CurrentRules();
-    return PickDescription(ShuffleBoardText(cell).value_or(std::string()),
-                           SlotOfCell(rules, ShownPicks(rules, appState.ShuffleTable), CellNumberOf(cell)).has_value());
+    return PickDescription(
+        ShuffleBoardText(cell).value_or(std::string()),
+        SlotOfCell(rules, ShownPicks(rules, appState.ShuffleTable), CellNumberAt(cell.row, cell.column)).has_value());
 }
 
 void ToggleShufflePick() {
@@ -65,7 +58,7 @@ void ToggleShufflePick() {
     if (!IsPickText(ShuffleBoardText(cell).value_or(std::string()))) {
         return;
     }
-    const BoardPick pick = PickOfCell(appState.gameType, CellNumberOf(cell));
+    const BoardPick pick = PickOfCell(appState.gameType, CellNumberAt(cell.row, cell.column));
     const PickColumn other = pick.list == mainPicks ? bonusPicks : mainPicks;
     if (TogglePickIn(appState.ShuffleTable.Slots(pick.list), appState.ShuffleTable.Slots(other), pick.value,
                      appState.gameType) != Toggled::HeldByOther) {
@@ -74,8 +67,8 @@ void ToggleShufflePick() {
 }
 
 void ClearShufflePicks() {
-    std::ranges::fill(appState.ShuffleTable.Slots(mainPicks), std::int16_t{-1});
-    std::ranges::fill(appState.ShuffleTable.Slots(bonusPicks), std::int16_t{-1});
+    std::ranges::fill(appState.ShuffleTable.Slots(mainPicks), emptySlot);
+    std::ranges::fill(appState.ShuffleTable.Slots(bonusPicks), emptySlot);
     ShowAndSave();
 }
 

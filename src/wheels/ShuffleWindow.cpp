@@ -4,8 +4,10 @@
 #include "forms/PlaysForm.h"
 #include "forms/ShuffleForm.h"
 #include "platform/Pointer.h"
+#include "platform/controls/Keys.h"
 #include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
+#include "state/BoardGeometry.h"
 #include "wheels/ShuffleFile.h"
 #include "wheels/ShufflePicks.h"
 #include "wheels/ShuffleRun.h"
@@ -17,8 +19,6 @@
 namespace ballhaven {
 
 namespace {
-
-constexpr char enterKey = '\r';
 
 /// Chooses the option that plays were last to be made by, Shuffle where there is none. Its handler runs also where the
 /// button has been chosen since the window was last open.
@@ -104,7 +104,7 @@ void WireBoard() {
     platform::Grid& board = frmShuffle.grdShuffle;
     board.cellText = ShuffleBoardText;
     board.cellStyle = [](const platform::GridCell& cell, platform::CellStyle& style) {
-        GetShuffleCellStyle(cell.row * appState.slipColumns + cell.column, style);
+        GetShuffleCellStyle(CellNumberAt(cell.row, cell.column), style);
     };
     board.cellDescription = ShuffleCellDescription;
     board.click = [] { frmShuffle.boardClicked = true; };
@@ -127,7 +127,7 @@ void WireShuffleWindow() {
         frmShuffle.optShuffle[option].click = [option] { TakeOption(option); };
     }
     for (platform::TextBox& box : frmShuffle.txtShuffle) {
-        box.keyPress = [](char key) { return key == enterKey; };
+        box.keyPress = [](char key) { return key == platform::enterKey; };
     }
     frmShuffle.cmdErasePlay[5].click = [] {
         const platform::WaitPointer waiting;

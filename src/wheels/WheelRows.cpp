@@ -70,4 +70,9 @@ WheelRows FillWheelRows(const PickPass& pass, PlayStretch& plays) {
     return rows;
 }
 
+void PutRowIntoPlay(WheelRows::Row row, const PickPass& pass, PlayPicks& table, int play) {
+    std::ranges::copy(row.first(static_cast<std::size_t>(pass.slotCount) + 1),
+                      table.EntriesOf(pass.pickColumn, play).begin());
+}
+
 }  // namespace ballhaven

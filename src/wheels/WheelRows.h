@@ -34,4 +34,7 @@ class WheelRows {
 /// Without a stop `endRow` is the row behind the stretch, or its first where it has none.
 [[nodiscard]] WheelRows FillWheelRows(const PickPass& pass, PlayStretch& plays);
 
+/// Makes a row a play's: its way of being made, and its picks in the slots of the pass. Slots behind them stay.
+void PutRowIntoPlay(WheelRows::Row row, const PickPass& pass, PlayPicks& table, int play);
+
 }  // namespace ballhaven

@@ -1,5 +1,7 @@
 #include "state/BoardGeometry.h"
 
+#include "state/AppState.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -36,6 +38,27 @@ TEST(BoardOf, BonusPicksBeginTwoCellsBehindTheirWordAndOneBehindThatOfCards) {
     EXPECT_EQ(BoardOf(1).firstBonusCell, 108);
     EXPECT_EQ(BoardOf(4).mainCells, 52);
     EXPECT_EQ(BoardOf(4).firstBonusCell, 72);
+}
+
+TEST(CellNumberAt, CountsAlongTheRowsOfTheGamesBoard) {
+    appState.slipColumns = 9;
+    EXPECT_EQ(CellNumberAt(0, 8), 8);
+    EXPECT_EQ(CellNumberAt(12, 0), 108);
+    appState.slipColumns = 6;
+    EXPECT_EQ(CellNumberAt(12, 1), 73);
+}
+
+TEST(IsOnBoard, TellsTheRowsAndColumnsOfTheGamesBoard) {
+    appState.slipColumns = 6;
+    appState.gameType = 4;
+    EXPECT_TRUE(IsOnBoard(0, 0));
+    EXPECT_TRUE(IsOnBoard(23, 5));
+    EXPECT_FALSE(IsOnBoard(24, 5));
+    EXPECT_FALSE(IsOnBoard(23, 6));
+    EXPECT_FALSE(IsOnBoard(-1, 0));
+    EXPECT_FALSE(IsOnBoard(0, -1));
+    appState.gameType = 3;
+    EXPECT_FALSE(IsOnBoard(12, 0));
 }
 
 TEST(BonusLetterAt, SpellsBonusInTheRowBeforeTheBonusPicks) {

@@ -31,6 +31,22 @@ TEST(GameRecord, HoldsTheRulesOfAGame) {
     EXPECT_EQ(GameName(record), "Pick Six            ");
 }
 
+TEST(IsUndefinedName, IsThatOfAFreeSlotWithItsBlanksOrWithout) {
+    EXPECT_TRUE(IsUndefinedName("un-defined"));
+    EXPECT_TRUE(IsUndefinedName("  un-defined        "));
+    EXPECT_FALSE(IsUndefinedName("un-defined 2"));
+    EXPECT_FALSE(IsUndefinedName("Pick Six"));
+    EXPECT_FALSE(IsUndefinedName(""));
+}
+
+// Not a bug: UNDEFINED-NAME-1 in docs/not-bugs.md.
+TEST(CountsAsFree, QuirkUndefinedName1ByTheFirstTenColumnsOfTheName) {
+    EXPECT_TRUE(CountsAsFree(WithColumns(record, {{4, "un-defined          "}})));
+    EXPECT_TRUE(CountsAsFree(WithColumns(record, {{4, "un-defined 2        "}})));
+    EXPECT_FALSE(CountsAsFree(WithColumns(record, {{4, " un-defined         "}})));
+    EXPECT_FALSE(CountsAsFree(record));
+}
+
 TEST(GameRecord, OfCardsHasTheLimitsOfADeckAndNoDuplicates) {
     const GameRules rules = RulesOf(WithColumns(record, {{31, "3"}}));
     EXPECT_EQ(rules.mainLow, 1);
