@@ -28,15 +28,23 @@ constexpr int inputHeight = 3420;
 constexpr int inputHeightWithBonus = 5100;
 constexpr int buttonHeight = 375;
 
+constexpr int ButtonTop(int heightOfInput) {
+    return edge + heightOfInput - buttonHeight;
+}
+
+constexpr int BoardWidth(int columns, int columnWidth) {
+    return columns * columnWidth + boardEdges;
+}
+
 platform::Control* const input = &frmShuffle.fraShuffle[0];
 platform::Control* const configuration = &frmShuffle.fraShuffle[1];
 platform::Control* const output = &frmShuffle.fraShuffle[2];
 
 const platform::PlacedControl places[] = {
     // clang-format off
-    {frmShuffle.fraShuffle[0],   "fraShuffle",   0, nullptr,       { 120,  120, 4860, 3420}},
+    {frmShuffle.fraShuffle[0],   "fraShuffle",   0, nullptr,       { edge,  edge, 4860, inputHeight}},
     {frmShuffle.lblShuffle[7],   "lblShuffle",   7, input,         { 120,  330, 1920,  210}},
-    {frmShuffle.grdShuffle,      "grdShuffle",  -1, input,         { 120,  585, 2040, 2235}, "Chosen picks"},
+    {frmShuffle.grdShuffle,      "grdShuffle",  -1, input,         { 120,  585, BoardWidth(mostColumns, numberColumnWidth), boardHeight}, "Chosen picks"},
     {frmShuffle.cmdErasePlay[5], "cmdErasePlay", 5, input,         {2040,  285,  300,  300}},
     {frmShuffle.lblShuffle[3],   "lblShuffle",   3, input,         {2400,  615, 2340,  210}},
     {frmShuffle.lblShuffle[4],   "lblShuffle",   4, input,         {2400,  840, 2340,  420}},
@@ -57,9 +65,9 @@ const platform::PlacedControl places[] = {
     {frmShuffle.lblShuffle[1],   "lblShuffle",   1, output,        {1590,  450,  720,  210}},
     {frmShuffle.lblShuffle[10],  "lblShuffle",  10, output,        {2370,  450,  420,  210}},
     {frmShuffle.lblShuffle[2],   "lblShuffle",   2, output,        {2805,  450,  540,  210}},
-    {frmShuffle.cmdButton,       "cmdButton",   -1, output,        {3480,  360, 1140,  375}},
-    {frmShuffle.cmdStart,        "cmdStart",    -1, nullptr,       {7380, 3165, 1140,  375}},
-    {frmShuffle.cmdClose,        "cmdClose",    -1, nullptr,       {8700, 3165, 1140,  375}},
+    {frmShuffle.cmdButton,       "cmdButton",   -1, output,        {3480,  360, 1140, buttonHeight}},
+    {frmShuffle.cmdStart,        "cmdStart",    -1, nullptr,       {7380, ButtonTop(inputHeight), 1140, buttonHeight}},
+    {frmShuffle.cmdClose,        "cmdClose",    -1, nullptr,       {8700, ButtonTop(inputHeight), 1140, buttonHeight}},
     // clang-format on
 };
 
@@ -133,13 +141,13 @@ void ArrangeShuffleForm(int gameType) {
         board.Column(column).width = columnWidth;
     }
     board.SetRowCount(BoardOf(gameType).rows);
-    board.SetWidth(columnWidth * columns + boardEdges);
+    board.SetWidth(BoardWidth(columns, columnWidth));
     board.SetHeight(HasBonus(gameType) ? boardHeightWithBonus : boardHeight);
 
     const int height = HasBonus(gameType) ? inputHeightWithBonus : inputHeight;
     frmShuffle.fraShuffle[0].SetHeight(height);
-    frmShuffle.cmdStart.SetTop(edge + height - buttonHeight);
-    frmShuffle.cmdClose.SetTop(edge + height - buttonHeight);
+    frmShuffle.cmdStart.SetTop(ButtonTop(height));
+    frmShuffle.cmdClose.SetTop(ButtonTop(height));
     frmShuffle.window.Resize(clientWidth + platform::Window::frameWidth,
                              edge + height + edge + frmShuffle.window.frame);
     frmShuffle.window.MoveTo(windowLeft, windowTop);

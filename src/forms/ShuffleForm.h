@@ -15,6 +15,7 @@ struct ShuffleForm {
 
     bool boardClicked = false;  ///< a click on the board waits for the current cell to settle
     bool loading = false;       ///< from the load until the window is first activated
+    bool running = false;       ///< while plays are made of the chosen picks
 
     std::array<platform::Frame, 3> fraShuffle;     ///< 0 Input, 1 Configuration, 2 Output
     std::array<platform::Label, 13> lblShuffle;    ///< 0 the first play of the last run, 1 its last, 2 their number

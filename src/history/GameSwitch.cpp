@@ -3,6 +3,7 @@
 #include "forms/GamePresentation.h"
 #include "forms/MainForm.h"
 #include "forms/SelectorLists.h"
+#include "forms/ShuffleForm.h"
 #include "history/HistoryFile.h"
 #include "history/HistoryView.h"
 #include "platform/Boxes.h"
@@ -45,6 +46,13 @@ void LoadDraws() {
     frmMainForm.logLastColumn = appState.totalPicks;
     LoadHistory();
     BuildHistoryView();
+}
+
+void LoadChosenPicks() {
+    LoadShuffleFile();
+    if (appState.shuffleWindowOpen) {
+        frmShuffle.grdShuffle.ReadAgain();
+    }
 }
 
 void ShowHotTableFromTheTop() {
@@ -118,7 +126,7 @@ void SwitchGameTo(std::int16_t slot) {
     SizePlayGrid();
     LoadPlays();
     LoadDraws();
-    LoadShuffleFile();
+    LoadChosenPicks();
     ShowViewChecks();
     ArrangeLogColumns();
     ArrangeHiLiteBoxes();

@@ -1,12 +1,12 @@
 #include "plays/PlayFile.h"
 
+#include "plays/PickSlots.h"
 #include "plays/PlayMethodCode.h"
 #include "plays/PlayScreen.h"
 #include "state/AppState.h"
 #include "state/FullSizeFile.h"
 #include "state/modUTILS.h"
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -32,8 +32,7 @@ std::string PathOf(const std::string& directory, int slot) {
 
 void DecodePlay(std::string_view record, PlayPicks& plays, int play) {
     if (record.find_first_not_of(' ') == std::string_view::npos) {  // most plays are empty
-        std::ranges::fill(plays.Slots(mainPicks, play), std::int16_t{-1});
-        std::ranges::fill(plays.Slots(bonusPicks, play), std::int16_t{-1});
+        EmptyPlay(plays, play);
         return;
     }
     plays(mainPicks, play, 0) = MethodOfCode(record.substr(methodColumn - 1, methodCodeWidth));
@@ -52,6 +51,9 @@ std::string EncodePlay(const PlayPicks& plays, int play) {
         for (int slot = 1; slot <= picksPerPlay; ++slot) {
             const std::int16_t pick = plays(pickColumn, play, slot);
             if (pick >= 0) {
+                // QUIRK PICK-TWO-DIGITS-1: of a cell number above 99 its first two digits are stored, so the last cells
+                // of a board where numbers can repeat come back as cell 10. A wider field would make files that other
+                // copies of the program read wrongly.
                 modUTILS::SetColumns(record, PickFieldColumn(pickColumn, slot), modUTILS::PickField(pick));
             }
         }
@@ -80,11 +82,7 @@ void SavePlayFile() {
 
 void ClearAllPlays() {
     for (int play = 1; play <= playCount; ++play) {
-        for (int slot = 1; slot <= picksPerPlay; ++slot) {
-            appState.PlayTable(mainPicks, play, slot) = -1;
-            appState.PlayTable(bonusPicks, play, slot) = -1;
-        }
-        appState.PlayTable(mainPicks, play, 0) = byHand;
+        EmptyPlay(appState.PlayTable, play);
     }
     appState.playsDirty = true;
     RefreshPlayGrids();

@@ -3,11 +3,12 @@
 #include "plays/PlayMethodCode.h"
 #include "wheels/WheelRows.h"
 
-#include <algorithm>
-
 namespace ballhaven {
 
 void PartialWheelPass(const PickPass& pass, PlayStretch& plays, PlayPicks& table) {
+    // QUIRK PARTIAL-WHEEL-FIRST-1: only the first combinations of the wheel are made, as many as there are to be plays.
+    // Every other one is taken of these, not of the whole wheel: with many picks all plays begin with the same
+    // favourites. Habits rest on it.
     WheelRows rows = FillWheelRows(pass, plays);
     if (rows.endRow < plays.lastPlay) {
         plays.lastPlay = rows.endRow;
@@ -20,8 +21,7 @@ void PartialWheelPass(const PickPass& pass, PlayStretch& plays, PlayPicks& table
     for (const int start : {plays.firstPlay, plays.firstPlay + 1}) {
         for (int row = start; row <= plays.plannedLast; row += 2) {
             rows[row][0] = byPartialWheel;
-            std::ranges::copy(rows[row].first(static_cast<std::size_t>(pass.slotCount) + 1),
-                              table.EntriesOf(pass.pickColumn, ++play).begin());
+            PutRowIntoPlay(rows[row], pass, table, ++play);
         }
     }
 }

@@ -46,6 +46,7 @@ std::string EncodeList(std::span<const std::int16_t> slots) {
     int column = 1;
     for (const std::int16_t pick : slots) {
         if (pick != -1) {
+            // QUIRK PICK-TWO-DIGITS-1: of a cell number above 99 its first two digits are stored, as in the plays.
             modUTILS::SetColumns(record, column, modUTILS::FixedWidth(std::to_string(pick), pickWidth));
             column += pickStride;
         }

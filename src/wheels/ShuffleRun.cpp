@@ -1,6 +1,7 @@
 #include "wheels/ShuffleRun.h"
 
 #include "forms/PlaysForm.h"
+#include "forms/ShuffleForm.h"
 #include "platform/Application.h"
 #include "platform/Boxes.h"
 #include "platform/Services.h"
@@ -23,6 +24,28 @@
 namespace ballhaven {
 
 namespace {
+
+/// Marks that a run is at work for as long as it lives.
+class RunMark {
+  public:
+    RunMark() { frmShuffle.running = true; }
+    ~RunMark() { frmShuffle.running = false; }
+    RunMark(const RunMark&) = delete;
+    RunMark& operator=(const RunMark&) = delete;
+};
+
+/// Where a run has begun: the game, its rules, and the window in which it was asked for.
+class WorkingPlace {
+  public:
+    [[nodiscard]] bool IsStillThere() const {
+        return appState.currentGame == game && CurrentRules() == rules && appState.shuffleWindowOpen == isWindowOpen;
+    }
+
+  private:
+    std::int16_t game = appState.currentGame;
+    GameRules rules = CurrentRules();
+    bool isWindowOpen = appState.shuffleWindowOpen;
+};
 
 bool IsPick(std::int16_t slot) {
     return slot >= 0;
@@ -47,14 +70,15 @@ std::vector<PickPass> PassesOf(const GameRules& rules, const ChosenPicks& chosen
     return passes;
 }
 
-bool HasEnoughPicks(const PickPass& pass) {
+/// Tells the user where too few picks are chosen for a pass; whether they are.
+bool TellTooFewPicks(const PickPass& pass) {
     if (std::ssize(pass.pool) > pass.slotCount) {
-        return true;
+        return false;
     }
     const std::string kind = pass.pickColumn == mainPicks ? "main" : "bonus";
     platform::Tell("You need to select at least " + std::to_string(pass.slotCount + 1) + " " + kind +
                    " picks to shuffle or wheel.");
-    return false;
+    return true;
 }
 
 /// The highest play with a main pick in one of the game's slots, 0 if there is none.
@@ -67,9 +91,9 @@ int LastUsedPlay(const PlayPicks& table, int slotCount) {
     return play;
 }
 
-/// Empties the plays if the user wants it; whether they are empty now.
-bool ClearsPlays() {
-    if (!platform::Ask("Would you like to clear all of the Play Slips first?", platform::BoxIcon::Question)) {
+/// Asks the user whether to empty the plays, and does; whether they have been emptied.
+bool AskAndClearPlays() {
+    if (!platform::AskBeforeLoss("Would you like to clear all of the Play Slips first?", platform::BoxIcon::Question)) {
         return false;
     }
     ClearAllPlays();
@@ -88,9 +112,14 @@ void TellNoRoom(WheelMode mode) {
                    platform::BoxIcon::Information);
 }
 
-/// The plays of a run, behind those in use that are to stay; none where there is no room, after a message.
-std::optional<PlayStretch> FindPlays(WheelMode mode, double total, int lastUsedPlay) {
-    const int used = lastUsedPlay != 0 && ClearsPlays() ? 0 : lastUsedPlay;
+/// Clears the plays in use if the user wants it, and gives those of the run, behind the ones that stay. None where they
+/// are not to be made: there is no room, of which the user is told, or the events of the clearing led elsewhere.
+std::optional<PlayStretch> MakeRoom(WheelMode mode, double total, int lastUsedPlay) {
+    const WorkingPlace place;
+    const int used = lastUsedPlay != 0 && AskAndClearPlays() ? 0 : lastUsedPlay;
+    if (!place.IsStillThere()) {
+        return std::nullopt;
+    }
     const int last = LastPlayOf(mode, total, used);
     if (last > playCount || used + 1 > last) {
         TellNoRoom(mode);
@@ -142,8 +171,12 @@ std::int16_t SlipToShow(std::int16_t shown, const PlayStretch& plays) {
 }  // namespace
 
 RunResult RunShuffleOrWheel(WheelMode mode, std::string_view totalPlays) {
+    if (frmShuffle.running) {
+        return {};
+    }
+    const RunMark mark;
     const std::vector<PickPass> passes = PassesOf(CurrentRules(), appState.ShuffleTable);
-    if (!std::ranges::all_of(passes, HasEnoughPicks)) {
+    if (std::ranges::any_of(passes, TellTooFewPicks)) {
         return {};
     }
     const std::optional<double> total = mode == WheelMode::FullWheel ? 0 : TotalPlaysOf(totalPlays);
@@ -152,7 +185,7 @@ RunResult RunShuffleOrWheel(WheelMode mode, std::string_view totalPlays) {
         return {.end = RunResult::End::BadTotal};
     }
     std::optional<PlayStretch> plays =
-        FindPlays(mode, *total, LastUsedPlay(appState.PlayTable, passes.front().slotCount));
+        MakeRoom(mode, *total, LastUsedPlay(appState.PlayTable, passes.front().slotCount));
     if (!plays) {
         return {};
     }

@@ -1,6 +1,7 @@
 #include "history/GameSwitch.h"
 
 #include "forms/MainForm.h"
+#include "forms/ShuffleForm.h"
 #include "history/HistoryFile.h"
 #include "platform/files/FileSystem.h"
 #include "plays/PlayFile.h"
@@ -10,6 +11,7 @@
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
 #include "support/Games.h"
+#include "support/IdleGridView.h"
 #include "support/MessageScript.h"
 #include "support/PointerKeeper.h"
 #include "support/TemporaryDirectory.h"
@@ -319,6 +321,30 @@ TEST_F(SwitchingGames, ThePlaysAndTheChosenPicksAreThoseOfTheGame) {
     SwitchGame();
     EXPECT_EQ(appState.PlayTable(mainPicks, 1, 1), 12);
     EXPECT_EQ(appState.ShuffleTable(mainPicks, 1), 30);
+}
+
+/// A view of a board that only counts how often its cells are asked for anew.
+class BoardReadings : public support::IdleGridView {
+  public:
+    void ReadAgain() override { ++readings; }
+
+    int readings = 0;
+};
+
+TEST_F(SwitchingGames, AGameLoadedAnewReadsTheOpenBoardOfChosenPicksAgain) {
+    Configure(1, 0, 6, 0);
+    SwitchGame();
+    appState.ShuffleTable(mainPicks, 2) = 30;
+    SaveShuffleFile();
+    BoardReadings board;
+    frmShuffle.grdShuffle.view = &board;
+    SwitchGame();
+    EXPECT_EQ(board.readings, 0);
+    appState.shuffleWindowOpen = true;
+    SwitchGame();
+    EXPECT_EQ(board.readings, 1);
+    EXPECT_EQ(appState.ShuffleTable(mainPicks, 1), 30);
+    frmShuffle.grdShuffle.view = nullptr;
 }
 
 TEST_F(SwitchingGames, TheHourglassStandsMeanwhile) {

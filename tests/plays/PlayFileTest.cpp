@@ -227,7 +227,8 @@ TEST_F(PlayFile, CellZeroIsAPickAndNotAnEmptySlot) {
     EXPECT_EQ(appState.PlayTable(mainPicks, 1, 1), 0);
 }
 
-TEST_F(PlayFile, ACellAbove99ComesBackAsItsFirstTwoDigits) {
+// Not a bug: PICK-TWO-DIGITS-1 in docs/not-bugs.md.
+TEST_F(PlayFile, QuirkPickTwoDigits1ACellAbove99ComesBackAsItsFirstTwoDigits) {
     SetUpPlay(1, {99, 100, 105});
     SavePlayFile();
     EXPECT_EQ(playFormat.Record(Bytes(), 1), Padded("     99 10 10", 64));

@@ -34,7 +34,7 @@ finish() {
     until_true "the Wheel and Shuffle window closes" has_no_other
     close_it
 }
-# Asks for so many plays and says Return (Yes) or alt+n to the question about those in use.
+# Asks for so many plays and says Yes or No, on which it stands, to the question about those in use.
 run() { # name of the screenshot, total, key
     xdotool type "$2"
     press_start
@@ -111,24 +111,24 @@ picks_are FW || fail "the stored option: $(bytes SHUFFLE.CDB 0 301)"
 echo "== a partial wheel in place of it, and one more"
 open_wheels
 choose_option 1
-run partial-wheel 5 Return
+run partial-wheel 5 alt+y
 plays_are "$(made_by PW 0 2 4 1 3)" || fail "the partial wheel: $(bytes PLAYS01.CDB 0 320)"
 open_wheels
 choose_option 1
-run partial-wheel-behind 3 alt+n
+run partial-wheel-behind 3 Return
 plays_are "$(made_by PW 0 2 1 1 3)" || fail "the partial wheel over plays in use: $(bytes PLAYS01.CDB 0 320)"
 picks_are PW || fail "the stored option: $(bytes SHUFFLE.CDB 0 301)"
 
 echo "== a shuffle in place of it, and one behind"
 open_wheels
 choose_option 0
-run shuffle 10 Return
+run shuffle 10 alt+y
 are_shuffles 1 10 || fail "the shuffle: $(bytes PLAYS01.CDB 0 640)"
 nothing_behind 10 || fail "the shuffle has made more than ten plays"
 before=$(bytes PLAYS01.CDB 0 640)
 open_wheels
 choose_option 0
-run shuffle-behind 4 alt+n
+run shuffle-behind 4 Return
 has_bytes PLAYS01.CDB 0 "$before" || fail "the second shuffle has changed plays in use"
 are_shuffles 11 14 || fail "the second shuffle: $(bytes PLAYS01.CDB 640 256)"
 nothing_behind 14 || fail "the second shuffle has made more than four plays"

@@ -1,11 +1,13 @@
 #include "wheels/PartialWheel.h"
 
 #include "plays/PlayMethodCode.h"
+#include "support/Combinations.h"
 #include "support/Plays.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <numeric>
 #include <string>
 
@@ -83,6 +85,18 @@ TEST(QuirkPartialWheelPlace1, AWheelBehindPlaysInUseReplacesTheFirstPlays) {
     EXPECT_EQ(plays.lastPlay, 13);
 }
 
+// Not a bug: PARTIAL-WHEEL-FIRST-1 in docs/not-bugs.md.
+TEST(QuirkPartialWheelFirst1, OnlyTheFirstCombinationsOfALargeWheelAreTaken) {
+    PlayPicks table = EmptyPlays();
+    PlayStretch plays{1, 10, 10};
+    std::vector<std::int16_t> twenty(20);
+    std::iota(twenty.begin(), twenty.end(), std::int16_t{1});
+    PartialWheelPass({mainPicks, twenty, 6}, plays, table);
+
+    EXPECT_EQ(PicksText(table, mainPicks, 1, 5), "1 2 3 4 5 6|1 2 3 4 5 8|1 2 3 4 5 10|1 2 3 4 5 12|1 2 3 4 5 14");
+    EXPECT_EQ(PicksText(table, mainPicks, 6, 11), "1 2 3 4 5 7|1 2 3 4 5 9|1 2 3 4 5 11|1 2 3 4 5 13|1 2 3 4 5 15|");
+}
+
 TEST(PartialWheel, TheLastPlaysCanBeReachedWithoutWritingBehindThem) {
     PlayPicks table = EmptyPlays();
     PlayStretch plays{4999, 5000, 5000};
@@ -98,18 +112,8 @@ RC_GTEST_PROP(PartialWheel, PlaysAreTheRowsOfOddAndThenOfEvenPlaces, ()) {
     const int total = *rc::gen::inRange(2, 150);
     std::vector<std::int16_t> pool(static_cast<std::size_t>(n));
     std::iota(pool.begin(), pool.end(), std::int16_t{0});
-    std::vector<std::vector<int>> rows;
-    std::vector<int> mask(static_cast<std::size_t>(n), 0);
-    std::fill(mask.begin(), mask.begin() + k, 1);
-    do {
-        std::vector<int> row;
-        for (int pick = 0; pick < n; ++pick) {
-            if (mask[static_cast<std::size_t>(pick)] == 1) {
-                row.push_back(pick);
-            }
-        }
-        rows.push_back(row);
-    } while (std::prev_permutation(mask.begin(), mask.end()) && std::ssize(rows) < total);
+    support::Combinations rows = support::AllCombinations({pool.begin(), pool.end()}, k);
+    rows.resize(std::min(rows.size(), static_cast<std::size_t>(total)));
     PlayPicks expected = EmptyPlays();
     int play = 0;
     for (const std::size_t parity : {0U, 1U}) {

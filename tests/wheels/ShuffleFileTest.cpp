@@ -289,7 +289,8 @@ TEST_F(ShuffleFile, AListWithAHoleComesBackClosedUpInItsOrder) {
     EXPECT_EQ(Chosen(mainPicks), (Cells{9, 3, 5}));
 }
 
-TEST_F(ShuffleFile, ACellAbove99ComesBackAsItsFirstTwoDigits) {
+// Not a bug: PICK-TWO-DIGITS-1 in docs/not-bugs.md.
+TEST_F(ShuffleFile, QuirkPickTwoDigits1ACellAbove99ComesBackAsItsFirstTwoDigits) {
     Choose(mainPicks, {99, 100, 105});
     SaveShuffleFile();
     EXPECT_EQ(shuffleFormat.Record(Bytes(), 4), Padded("99 10 10", 320));

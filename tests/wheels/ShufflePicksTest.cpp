@@ -171,6 +171,25 @@ TEST_F(ShufflePicks, WithAHundredChosenANewOneIsDroppedWithoutAWord) {
     EXPECT_TRUE(appState.ShuffleTable == before);
 }
 
+TEST_F(ShufflePicks, WithAHundredChosenTheHoleOfOneTakenOffTakesTheNext) {
+    Use(NumberGame().Picks(10).From(0).To(10).WithDuplicates());
+    for (int cell = 0; cell < 100; ++cell) {
+        Click(cell);
+    }
+    Click(100);
+    EXPECT_FALSE(Chosen(mainPicks).ends_with(" 100"));
+    Click(42);
+    Click(100);
+    ChosenPicks expected;
+    for (int slot = 1; slot <= 100; ++slot) {
+        expected(mainPicks, slot) = static_cast<std::int16_t>(slot - 1);
+    }
+    expected(mainPicks, 43) = 100;
+    EXPECT_TRUE(appState.ShuffleTable == expected);
+    Click(42);
+    EXPECT_TRUE(appState.ShuffleTable == expected);
+}
+
 TEST_F(ShufflePicks, EachChangeIsSavedAtOnce) {
     Use(NumberGame());
     ClickAll({6, 48});

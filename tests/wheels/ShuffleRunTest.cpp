@@ -3,6 +3,7 @@
 #include "forms/PlaysForm.h"
 #include "platform/Services.h"
 #include "plays/PlayMethodCode.h"
+#include "support/Combinations.h"
 #include "support/Games.h"
 #include "support/MessageScript.h"
 #include "support/Plays.h"
@@ -13,11 +14,14 @@
 
 #include <algorithm>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <numeric>
 #include <random>
 #include <set>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ballhaven {
@@ -86,6 +90,9 @@ class Run : public testing::Test {
     void ExpectAsked(const std::string& text, BoxAnswer answer) {
         boxes.Expect("Ballhaven", text, BoxButtons::YesNo, BoxIcon::Question, answer);
     }
+
+    /// The question whether to empty the plays, which stands on No.
+    void ExpectClearQuestion(BoxAnswer answer) { boxes.ExpectBeforeLoss(clearFirst, BoxIcon::Question, answer); }
 
     static std::string Told(const RunResult& result) {
         return result.firstPlay + " to " + result.lastPlay + ", " + result.plays;
@@ -185,10 +192,17 @@ TEST_F(Run, ABonusKindThatDrawsNoBonusPicksNeedsNone) {
     EXPECT_EQ(PlaysInUse(appState.PlayTable, bonusPicks), 0);
 }
 
-TEST_F(Run, ADamagedCountOfPicksWritesBesideNoPlay) {
-    for (const int count : {0, 11, 99}) {
+TEST_F(Run, ADamagedCountOfPicksIsHeldAtOneAndAtTenAndWritesBesideNoPlay) {
+    Use(NumberGame().Picks(0).To(99), Cells(0, 12));
+    EXPECT_EQ(RunShuffleOrWheel(WheelMode::FullWheel, "").plays, "12");
+    EXPECT_EQ(Main(1, 3) + "|" + Main(12, 13), "0|1|2|11|");
+    for (const int count : {11, 99}) {
         Use(NumberGame().Picks(count).To(99), Cells(0, 12));
-        EXPECT_EQ(RunShuffleOrWheel(WheelMode::FullWheel, "").end, End::Done) << count;
+        EXPECT_EQ(RunShuffleOrWheel(WheelMode::FullWheel, "").plays, "66") << count;
+        EXPECT_EQ(Main(1, 2), "0 1 2 3 4 5 6 7 8 9|0 1 2 3 4 5 6 7 8 10") << count;
+        EXPECT_EQ(Main(66, 67), "2 3 4 5 6 7 8 9 10 11|") << count;
+        EXPECT_EQ(appState.PlayTable(mainPicks, 67, 0), 0) << count;
+        EXPECT_EQ(PlaysInUse(appState.PlayTable, bonusPicks), 0) << count;
     }
 }
 
@@ -226,14 +240,14 @@ TEST_F(Run, LettersAndAnEmptyBoxAreRefusedInBothModesThatReadIt) {
 TEST_F(Run, AHalfGoesToTheEvenNumber) {
     Use(NumberGame().Picks(2), {1, 2, 3});
     EXPECT_EQ(RunShuffleOrWheel(WheelMode::Shuffle, "2.5").plays, "2");
-    ExpectAsked(clearFirst, BoxAnswer::Yes);
+    ExpectClearQuestion(BoxAnswer::Yes);
     EXPECT_EQ(RunShuffleOrWheel(WheelMode::Shuffle, "3.5").plays, "4");
 }
 
 TEST_F(Run, AHalfIsRoundedTogetherWithThePlaysInUse) {
     Use(NumberGame().Picks(2), {1, 2, 3});
     UsePlays(1, 1);
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::Shuffle, "2.5")), "1.B to 1.D, 3");
 }
 
@@ -255,7 +269,7 @@ TEST_F(Run, YesEmptiesEveryPlayAndTheNewOnesBeginWithTheFirst) {
     UsePlays(1, 4);
     UsePlays(4000, 4000);
     PutPicks(appState.PlayTable, bonusPicks, 4500, {9});
-    ExpectAsked(clearFirst, BoxAnswer::Yes);
+    ExpectClearQuestion(BoxAnswer::Yes);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::FullWheel, "")), "1.A to 1.C, 3");
     EXPECT_EQ(Main(1, 4), "1 2|1 3|2 3|");
     EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 3);
@@ -272,19 +286,74 @@ TEST_F(Run, WaitingEventsAreLetInAfterAYesAlone) {
     };
     Use(NumberGame().Picks(2), {1, 2, 3});
     RunShuffleOrWheel(WheelMode::FullWheel, "");
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     RunShuffleOrWheel(WheelMode::FullWheel, "");
     EXPECT_EQ(calls, 0);
-    ExpectAsked(clearFirst, BoxAnswer::Yes);
+    ExpectClearQuestion(BoxAnswer::Yes);
     RunShuffleOrWheel(WheelMode::FullWheel, "");
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(inUse, 0);
 }
 
+class RunLettingEventsIn : public Run {
+  protected:
+    /// What waits while the plays in use are cleared, and the run that clears them.
+    RunResult RunMeeting(std::function<void()> events) {
+        toolkit.pendingEvents = std::move(events);
+        Use(NumberGame().Picks(2), {1, 2, 3});
+        UsePlays(1, 4);
+        appState.shuffleWindowOpen = true;
+        ExpectClearQuestion(BoxAnswer::Yes);
+        return RunShuffleOrWheel(WheelMode::FullWheel, "");
+    }
+
+    support::PointerKeeper toolkit;
+};
+
+TEST_F(RunLettingEventsIn, ARunWithinARunIsRefusedWithoutAWord) {
+    RunResult inner{.end = End::Done};
+    const RunResult outer = RunMeeting([&inner] { inner = RunShuffleOrWheel(WheelMode::Shuffle, "40"); });
+    EXPECT_EQ(inner.end, End::Refused);
+    EXPECT_EQ(boxes.Answered(), 1U);
+    EXPECT_EQ(Told(outer), "1.A to 1.C, 3");
+    EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 3);
+}
+
+TEST_F(RunLettingEventsIn, TheNextRunIsNoneWithinARun) {
+    RunMeeting([] {});
+    ExpectClearQuestion(BoxAnswer::No);
+    EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::FullWheel, "")), "1.D to 2.A, 3");
+}
+
+TEST_F(RunLettingEventsIn, AfterAFailureTheNextRunIsNoneWithinARunEither) {
+    EXPECT_THROW(RunMeeting([] { throw std::runtime_error("of an event"); }), std::runtime_error);
+    EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::FullWheel, "")), "1.A to 1.C, 3");
+}
+
+TEST_F(RunLettingEventsIn, AnotherGameGetsNoPlaysOfThePicksOfTheOneBefore) {
+    const RunResult result = RunMeeting([] {
+        SetUpGame(NumberGame().Picks(2).InSlot(2));
+        PutPicks(appState.PlayTable, mainPicks, 7, {8, 9});
+    });
+    EXPECT_EQ(result.end, End::Refused);
+    EXPECT_EQ(Main(1, 8), "||||||8 9|");
+    EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 1);
+}
+
+TEST_F(RunLettingEventsIn, OtherRulesOfTheGameEndTheRun) {
+    EXPECT_EQ(RunMeeting([] { appState.mainPickCount = 3; }).end, End::Refused);
+    EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 0);
+}
+
+TEST_F(RunLettingEventsIn, WithoutItsWindowTheRunEnds) {
+    EXPECT_EQ(RunMeeting([] { appState.shuffleWindowOpen = false; }).end, End::Refused);
+    EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 0);
+}
+
 TEST_F(Run, NoPutsTheNewPlaysBehindTheLastOneInUse) {
     Use(NumberGame().Picks(2), {1, 2, 3});
     UsePlays(1, 10);
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::Shuffle, "3")), "3.A to 3.C, 3");
     EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 13);
     EXPECT_EQ(Main(10, 10), "60 61");
@@ -294,7 +363,7 @@ TEST_F(Run, NoPutsTheNewPlaysBehindTheLastOneInUse) {
 TEST_F(Run, GapsBelowTheLastPlayInUseStayGaps) {
     Use(NumberGame().Picks(2), {1, 2, 3});
     UsePlays(7, 7);
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::FullWheel, "")), "2.C to 2.E, 3");
     EXPECT_EQ(Main(1, 11), "||||||60 61|1 2|1 3|2 3|");
 }
@@ -303,12 +372,12 @@ TEST_F(Run, TheLastPlaysAreFilledExactlyAndNoneBehindThem) {
     Use(NumberGame().Picks(2), {1, 2, 3});
     UsePlays(4998, 4998);
     const PlayPicks before = appState.PlayTable;
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     ExpectTold(noRoomToShuffle, BoxIcon::Information);
     EXPECT_EQ(RunShuffleOrWheel(WheelMode::Shuffle, "3").end, End::Refused);
     EXPECT_TRUE(appState.PlayTable == before);
     EXPECT_FALSE(appState.playsDirty);
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::Shuffle, "2")), "1000.D to 1000.E, 2");
     EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 3);
 }
@@ -317,7 +386,7 @@ TEST_F(Run, AWheelWithoutRoomIsToldAsAWheel) {
     Use(NumberGame().Picks(2), {1, 2, 3});
     UsePlays(5000, 5000);
     for (const WheelMode mode : {WheelMode::PartialWheel, WheelMode::FullWheel}) {
-        ExpectAsked(clearFirst, BoxAnswer::No);
+        ExpectClearQuestion(BoxAnswer::No);
         ExpectTold(noRoomToWheel, BoxIcon::Information);
         EXPECT_EQ(RunShuffleOrWheel(mode, "2").end, End::Refused);
     }
@@ -326,7 +395,7 @@ TEST_F(Run, AWheelWithoutRoomIsToldAsAWheel) {
 TEST_F(Run, AfterAYesThereIsRoomForAsManyAsThereAre) {
     Use(NumberGame().Picks(2), {1, 2, 3});
     UsePlays(5000, 5000);
-    ExpectAsked(clearFirst, BoxAnswer::Yes);
+    ExpectClearQuestion(BoxAnswer::Yes);
     EXPECT_EQ(RunShuffleOrWheel(WheelMode::Shuffle, "5000").plays, "5000");
 }
 
@@ -401,7 +470,7 @@ TEST_F(Run, APartialWheelThatIsCompleteBeforeItsTotalIsReportedAsFarAsItGoes) {
 TEST_F(Run, QuirkPartialWheelPlace1APartialWheelBehindPlaysInUseReplacesTheFirstOnes) {
     Use(NumberGame().Picks(2), {1, 2, 3, 4});
     UsePlays(1, 10);
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::PartialWheel, "3")), "3.A to 3.C, 3");
     EXPECT_EQ(Main(1, 4), "1 2|1 4|1 3|60 61");
     EXPECT_EQ(Main(10, 14), "60 61||||");
@@ -417,7 +486,7 @@ TEST_F(Run, AFullWheelThatDoesNotFitStopsAtTheLastPlayAfterAYes) {
 TEST_F(Run, AFullWheelBehindPlaysInUseFillsTheRestAfterAYes) {
     Use(NumberGame().Picks(2), Cells(0, 6));
     UsePlays(4989, 4989);
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     ExpectAsked(tooManyForTheRest, BoxAnswer::Yes);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::FullWheel, "")), "998.E to 1000.E, 11");
     EXPECT_EQ(Main(4988, 4991), "|60 61|0 1|0 2");
@@ -439,7 +508,7 @@ TEST_F(Run, QuirkFullWheelNo1WithABonusAndPlaysInUseADeclinedWheelIsReportedWith
     Use(NumberGame().Picks(6).Bonus(1, BonusPool::Separate), Cells(0, 16), {1, 2});
     UsePlays(1, 10);
     const PlayPicks before = appState.PlayTable;
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     ExpectAsked(tooManyForTheRest, BoxAnswer::No);
     EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::FullWheel, "")), "3.A to 2.E, 0");
     EXPECT_TRUE(appState.PlayTable == before);
@@ -469,7 +538,7 @@ class RunWithSlipsOpen : public Run {
         UsePlays(lastUsedPlay, lastUsedPlay);
         appState.playsWindowOpen = true;
         appState.currentSlip = static_cast<std::int16_t>(slipBefore);
-        ExpectAsked(clearFirst, BoxAnswer::No);
+        ExpectClearQuestion(BoxAnswer::No);
         RunShuffleOrWheel(WheelMode::Shuffle, total);
         return std::to_string(appState.currentSlip) + *frmPlays.lblPlaySlip.text;
     }
@@ -507,14 +576,14 @@ TEST_F(RunWithSlipsOpen, WithATotalOfZeroItGoesToTheSlipBehindThePlaysInUse) {
     Use(NumberGame().Picks(6).Bonus(1, BonusPool::Separate), Cells(0, 16), {1, 2});
     UsePlays(1, 10);
     appState.playsWindowOpen = true;
-    ExpectAsked(clearFirst, BoxAnswer::No);
+    ExpectClearQuestion(BoxAnswer::No);
     ExpectAsked(tooManyForTheRest, BoxAnswer::No);
     RunShuffleOrWheel(WheelMode::FullWheel, "");
     EXPECT_EQ(appState.currentSlip, 3);
 }
 
 // Not a bug: SLIP-0-1 in docs/not-bugs.md.
-TEST_F(RunWithSlipsOpen, QuirkSlip0AfterADeclinedWheelOnEmptySlipsItGoesToSlipZero) {
+TEST_F(RunWithSlipsOpen, QuirkSlip01AfterADeclinedWheelOnEmptySlipsItGoesToSlipZero) {
     Use(NumberGame().Picks(6), Cells(0, 16));
     appState.playsWindowOpen = true;
     ExpectAsked(tooManyForTheSlips, BoxAnswer::No);
@@ -525,30 +594,19 @@ TEST_F(RunWithSlipsOpen, QuirkSlip0AfterADeclinedWheelOnEmptySlipsItGoesToSlipZe
 
 // Beside a plain reckoning
 
-double Combinations(int n, int k) {
-    double count = 1;
-    for (int i = 1; i <= k; ++i) {
-        count = count * (n - k + i) / i;
-    }
-    return count;
-}
-
 // The proof that users care for: of the chosen picks each combination stands in one play, and none in two.
 TEST_F(Run, AFullWheelHoldsEveryCombinationOnceForAllPicksThatFit) {
     int wheels = 0;
     for (int k = 1; k <= picksPerPlay; ++k) {
-        for (int v = k + 1; v <= 99 && Combinations(v, k) <= playCount; ++v) {
+        for (int v = k + 1; v <= 99 && support::CombinationCount(v, k) <= playCount; ++v) {
             Use(NumberGame().Picks(k).To(99), Cells(0, v));
             const int plays = std::stoi(RunShuffleOrWheel(WheelMode::FullWheel, "").plays);
-            std::set<std::vector<std::int16_t>> different;
+            support::Combinations combinations;
             for (int play = 1; play <= plays; ++play) {
                 const auto picks = appState.PlayTable.Slots(mainPicks, play).first(static_cast<std::size_t>(k));
-                EXPECT_TRUE(std::ranges::is_sorted(picks, std::less_equal<>()));
-                EXPECT_TRUE(0 <= picks.front() && picks.back() < v);
-                different.emplace(picks.begin(), picks.end());
+                combinations.emplace_back(picks.begin(), picks.end());
             }
-            EXPECT_EQ(different.size(), static_cast<std::size_t>(plays)) << k << " of " << v;
-            EXPECT_EQ(plays, std::lround(Combinations(v, k))) << k << " of " << v;
+            support::ExpectEachOnce(combinations, v, k);
             EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), plays) << k << " of " << v;
             ++wheels;
         }
@@ -575,23 +633,6 @@ struct PlainRun {
     int last;
     int aimed;
 
-    /// Row by row all combinations of k picks, those of the first picks first.
-    static std::vector<std::vector<int>> AllRows(const std::vector<int>& pool, int k) {
-        std::vector<std::vector<int>> rows;
-        std::vector<int> mask(pool.size(), 0);
-        std::fill(mask.begin(), mask.begin() + k, 1);
-        do {
-            std::vector<int> row;
-            for (std::size_t place = 0; place < pool.size(); ++place) {
-                if (mask[place] == 1) {
-                    row.push_back(pool[place]);
-                }
-            }
-            rows.push_back(row);
-        } while (std::prev_permutation(mask.begin(), mask.end()));
-        return rows;
-    }
-
     void Put(PickColumn list, int play, int method, const std::vector<int>& picks) {
         plays(list, play, 0) = static_cast<std::int16_t>(method);
         PutPicks(plays, list, play, picks);
@@ -599,7 +640,7 @@ struct PlainRun {
 
     /// False where the user has to be asked.
     bool FullWheel(PickColumn list, const std::vector<int>& pool, int k) {
-        const auto rows = AllRows(pool, k);
+        const auto rows = support::AllCombinations(pool, k);
         const bool fits = static_cast<int>(rows.size()) <= last + 1 - first;
         if (list == mainPicks && fits) {
             last = first + static_cast<int>(rows.size()) - 1;
@@ -611,7 +652,7 @@ struct PlainRun {
     }
 
     void PartialWheel(PickColumn list, const std::vector<int>& pool, int k) {
-        const auto rows = AllRows(pool, k);
+        const auto rows = support::AllCombinations(pool, k);
         if (list == mainPicks) {
             last = std::min(last, first + static_cast<int>(rows.size()) - 1);
         }
@@ -694,7 +735,7 @@ RC_GTEST_FIXTURE_PROP(Run, GivesWhatAPlainReckoningGives, ()) {
     const bool clears = lastUsed > 0 && *rc::gen::arbitrary<bool>();
     const int total = *rc::gen::inRange(2, 50);
     if (lastUsed > 0) {
-        ExpectAsked(clearFirst, clears ? BoxAnswer::Yes : BoxAnswer::No);
+        ExpectClearQuestion(clears ? BoxAnswer::Yes : BoxAnswer::No);
     }
     const int used = clears ? 0 : lastUsed;
     PlainRun plain{method, clears ? empty : appState.PlayTable, used + 1, used + total, used + total};

@@ -4,6 +4,7 @@
 #include "forms/PlaysForm.h"
 #include "forms/ShuffleForm.h"
 #include "platform/Services.h"
+#include "platform/files/FileSystem.h"
 #include "state/AppState.h"
 #include "support/Plays.h"
 #include "support/qt/RunningProgram.h"
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 
@@ -72,6 +74,11 @@ class WheelAndShuffle : public support::RunningProgram {
     }
 
     [[nodiscard]] std::string TextIn(const char* box) const { return Find<QLineEdit>(box).text().toStdString(); }
+
+    static int PicksChosen() {
+        const auto chosen = appState.ShuffleTable.Slots(mainPicks);
+        return static_cast<int>(std::ranges::count_if(chosen, [](std::int16_t pick) { return pick >= 0; }));
+    }
 
     static std::string Result() {
         return *frmShuffle.lblShuffle[0].text + " to " + *frmShuffle.lblShuffle[1].text + ", " +
@@ -187,6 +194,18 @@ TEST_F(WheelAndShuffle, ClicksChooseAndTakeOff) {
     EXPECT_EQ(ColorOf(6), paper);
     EXPECT_EQ(StoredPicks(1), "3           ");
     EXPECT_FALSE(appState.playsDirty);
+}
+
+TEST_F(WheelAndShuffle, AClickBesideTheCellsChoosesNothingAndTakesNothingOff) {
+    Open({.high = 49});
+    const QPoint beside(40, Find(board).height() - 1);
+    ClickAt(board, beside);
+    EXPECT_EQ(PicksChosen(), 0);
+    ClickCells({6});
+    ClickAt(board, beside);
+    ClickAt(board, {40, 0});
+    EXPECT_EQ(PicksChosen(), 1);
+    EXPECT_EQ(ColorOf(6), black);
 }
 
 TEST_F(WheelAndShuffle, AMoveWithoutAClickChoosesNothing) {
@@ -366,7 +385,7 @@ TEST_F(WheelAndShuffle, EachModeReadsItsOwnBox) {
     EXPECT_EQ(Result(), "1.A to 2.B, 7");
     Click("optShuffle(1)");
     Type("5");
-    ExpectAsked(clearFirst, BoxAnswer::Yes);
+    boxes.ExpectBeforeLoss(clearFirst, BoxIcon::Question, BoxAnswer::Yes);
     Click("cmdStart");
     EXPECT_EQ(Result(), "1.A to 1.E, 5");
     EXPECT_EQ(Main(1, 6), "0 1|0 3|1 3|0 2|1 2|");
@@ -382,6 +401,26 @@ TEST_F(WheelAndShuffle, TheHourglassStandsDuringARun) {
         return number = number < 0.5F ? number + 0.34F : 0.0F;
     };
     Click("cmdStart");
+    EXPECT_TRUE(waited);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(WheelAndShuffle, TheHourglassStandsWhileThePicksAreErasedAndWhileTheSlipsOpen) {
+    Open({.high = 49});
+    bool waited = false;
+    platform::fileSystem.rename = [&waited](const std::string& from, const std::string& to) {
+        waited = QApplication::overrideCursor() != nullptr;
+        return platform::SystemFiles().rename(from, to);
+    };
+    Click("cmdErasePlay(5)");
+    EXPECT_TRUE(waited);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    waited = false;
+    frmPlays.window.layout = [&waited, layout = frmPlays.window.layout] {
+        waited = QApplication::overrideCursor() != nullptr;
+        layout();
+    };
+    Click("cmdButton");
     EXPECT_TRUE(waited);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
@@ -430,7 +469,7 @@ TEST_F(WheelAndShuffle, AFullWheelThatWasDeclinedBlanksTheResult) {
     Click("cmdStart");
     EXPECT_EQ(Result(), "1.A to 1.B, 2");
     Click("optShuffle(2)");
-    ExpectAsked(clearFirst, BoxAnswer::Yes);
+    boxes.ExpectBeforeLoss(clearFirst, BoxIcon::Question, BoxAnswer::Yes);
     ExpectAsked(
         "The number of plays required to do a full wheel\nexceeds the total number of plays allowed.\nDo you wish to "
         "continue?",
@@ -488,8 +527,13 @@ TEST_F(WheelAndShuffle, QuirkSlip01SlipZeroIsEmptyAndTakesNoPicks) {
     ClickCell("grdPlays(0)", 0, 3);
     Click("cmdErasePlay(1)");
     EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 0);
+    support::PutPicks(appState.PlayTable, mainPicks, 1, {7});
     EXPECT_EQ(CellText("grdPlays(0)", 0, 3), "4");
     EXPECT_EQ(CellColor("grdPlays(0)", 0, 3), paper);
+    const PlayPicks before = appState.PlayTable;
+    boxes.ExpectBeforeLoss("Erase Play Slip # 0?", BoxIcon::Question, BoxAnswer::Yes);
+    Click("cmdErasePlay(0)");
+    EXPECT_TRUE(appState.PlayTable == before);
     Click("cmdScrollPlaySlips(1)");
     EXPECT_EQ(*frmPlays.lblPlaySlip.text, " 1 Play Slip  ");
 }
@@ -537,6 +581,39 @@ TEST_F(WheelAndShuffle, ThePicksAreSavedBeforeTheDialogOfANewGameGoesOverTheRule
     Click("cmdButton(10)");
     EXPECT_EQ(StoredPicks(21), "5           ");
     EXPECT_TRUE(frmShuffle.window.IsLoaded());
+}
+
+TEST_F(WheelAndShuffle, NothingOfTheStoredPicksIsLostWhenANewGameIsCancelledBesideIt) {
+    Open({.gameType = 2, .mainPicks = 5, .bonusPicks = 1, .high = 49, .bonusHigh = 9});
+    ClickCells({6, 48, 108 + 3, 108 + 5});
+    Click("optShuffle(2)");
+    InGameDialog([this] { ClickToClose("cmdNewGame(0)"); });
+    Click("cmdButton(10)");
+    ASSERT_TRUE(frmShuffle.window.IsLoaded());
+    const std::string stored = directory.Read("SHUFFLE.CDB");
+    EXPECT_EQ(StoredPicks(1) + StoredPicks(21), "6  48       3  5        ");
+    EXPECT_EQ(StoredOption(1), "FW");
+    // The board is that of the slot which was to become the new game's, and takes no picks.
+    frmShuffle.window.ShowInFront();
+    ClickAt(board, {40, 20});
+    Click("cmdClose");
+    EXPECT_EQ(directory.Read("SHUFFLE.CDB"), stored);
+    Close();
+    EXPECT_EQ(directory.Read("SHUFFLE.CDB"), stored);
+}
+
+TEST_F(WheelAndShuffle, AGameLoadedAnewWhileItIsOpenShowsItsPicksClosedUp) {
+    Open({.high = 49, .inOrder = true});
+    ClickCells({0, 3});
+    ClickCells({0});
+    EXPECT_EQ(ColorOf(3), QColor(0, 0x80, 0));
+    appState.gameDialogMode = 2;
+    frmMainForm.window.ShowInFront();
+    ASSERT_TRUE(IsInFront(frmMainForm.window));
+    Settle();
+    appState.gameDialogMode = 0;
+    EXPECT_EQ(appState.ShuffleTable(mainPicks, 1), 3);
+    EXPECT_EQ(ColorOf(3), black);
 }
 
 TEST_F(WheelAndShuffle, AGameLoadedAnewWhileItIsOpenKeepsItsPicks) {

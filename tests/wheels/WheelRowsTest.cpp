@@ -1,11 +1,12 @@
 #include "wheels/WheelRows.h"
 
 #include "plays/PlayMethodCode.h"
+#include "support/Combinations.h"
+#include "support/Plays.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include <cmath>
 #include <numeric>
 #include <string>
 
@@ -95,21 +96,17 @@ TEST(FillWheelRows, BonusCombinationsThatEndAtThePlannedEndAreDone) {
     EXPECT_EQ(Text(rows, 1, 6, 1), "4|5|6|4|5|6");
 }
 
-/// The combinations of k out of n places by the plainest way: all masks of n bits with k ones.
-std::vector<std::vector<int>> PlainCombinations(int n, int k) {
-    std::vector<std::vector<int>> all;
-    std::vector<int> chosen(static_cast<std::size_t>(n), 0);
-    std::fill(chosen.begin(), chosen.begin() + k, 1);
-    do {
-        std::vector<int> places;
-        for (int place = 0; place < n; ++place) {
-            if (chosen[static_cast<std::size_t>(place)] == 1) {
-                places.push_back(place);
-            }
-        }
-        all.push_back(places);
-    } while (std::prev_permutation(chosen.begin(), chosen.end()));
-    return all;
+TEST(PutRowIntoPlay, TheMethodAndThePicksOfThePassReplaceThePlaysOwnAndTheOtherSlotsStay) {
+    PlayStretch plays{1, 5000, 5000};
+    const PickPass pass{bonusPicks, Pool{7, 3, 9}, 2};
+    WheelRows rows = FillWheelRows(pass, plays);
+    PlayPicks table = support::EmptyPlays();
+    support::PutPicks(table, bonusPicks, 40, {1, 2, 5});
+    PutRowIntoPlay(rows[2], pass, table, 40);
+
+    EXPECT_EQ(support::PicksText(table, bonusPicks, 39, 41), "|7 9 5|");
+    EXPECT_EQ(support::PicksText(table, mainPicks, 40, 40), "");
+    EXPECT_EQ(table(bonusPicks, 40, 0), byFullWheel);
 }
 
 RC_GTEST_PROP(FillWheelRows, GivesWhatAPlainEnumerationGives, ()) {
@@ -123,14 +120,13 @@ RC_GTEST_PROP(FillWheelRows, GivesWhatAPlainEnumerationGives, ()) {
     PlayStretch plays{first, last, last};
     WheelRows rows = FillWheelRows({list, pool, k}, plays);
 
-    const auto combinations = PlainCombinations(n, k);
+    const auto combinations = support::AllCombinations({pool.begin(), pool.end()}, k);
     const auto count = static_cast<int>(combinations.size());
     const int written = list == mainPicks ? std::min(last + 1 - first, count) : last + 1 - first;
     for (int i = 0; i < written; ++i) {
-        const auto& places = combinations[static_cast<std::size_t>(i % count)];
+        const auto& picks = combinations[static_cast<std::size_t>(i % count)];
         for (int slot = 1; slot <= k; ++slot) {
-            RC_ASSERT(rows[first + i][static_cast<std::size_t>(slot)] ==
-                      10 + places[static_cast<std::size_t>(slot - 1)]);
+            RC_ASSERT(rows[first + i][static_cast<std::size_t>(slot)] == picks[static_cast<std::size_t>(slot - 1)]);
         }
     }
     RC_ASSERT(rows[first + written][0] == 0);
@@ -148,19 +144,12 @@ TEST(FillWheelRows, AFullWheelHoldsEveryCombinationOnceForAllPicksThatFit) {
             if (!rows.done) {
                 break;  // more combinations than plays, for all larger pools too
             }
-            std::vector<std::vector<std::int16_t>> seen;
+            support::Combinations combinations;
             for (int row = 1; row <= rows.endRow; ++row) {
                 const auto picks = rows[row].subspan(1, static_cast<std::size_t>(k));
-                EXPECT_TRUE(std::is_sorted(picks.begin(), picks.end(), std::less_equal<>()));
-                seen.emplace_back(picks.begin(), picks.end());
+                combinations.emplace_back(picks.begin(), picks.end());
             }
-            std::sort(seen.begin(), seen.end());
-            EXPECT_EQ(std::adjacent_find(seen.begin(), seen.end()), seen.end()) << k << " of " << n;
-            double combinations = 1;
-            for (int i = 1; i <= k; ++i) {
-                combinations = combinations * (n - k + i) / i;
-            }
-            EXPECT_EQ(rows.endRow, std::lround(combinations)) << k << " of " << n;
+            support::ExpectEachOnce(combinations, n, k);
             ++wheels;
         }
     }
