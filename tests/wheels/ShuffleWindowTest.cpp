@@ -602,20 +602,6 @@ TEST_F(WheelAndShuffle, NothingOfTheStoredPicksIsLostWhenANewGameIsCancelledBesi
     EXPECT_EQ(directory.Read("SHUFFLE.CDB"), stored);
 }
 
-TEST_F(WheelAndShuffle, AGameLoadedAnewWhileItIsOpenShowsItsPicksClosedUp) {
-    Open({.high = 49, .inOrder = true});
-    ClickCells({0, 3});
-    ClickCells({0});
-    EXPECT_EQ(ColorOf(3), QColor(0, 0x80, 0));
-    appState.gameDialogMode = 2;
-    frmMainForm.window.ShowInFront();
-    ASSERT_TRUE(IsInFront(frmMainForm.window));
-    Settle();
-    appState.gameDialogMode = 0;
-    EXPECT_EQ(appState.ShuffleTable(mainPicks, 1), 3);
-    EXPECT_EQ(ColorOf(3), black);
-}
-
 TEST_F(WheelAndShuffle, AGameLoadedAnewWhileItIsOpenKeepsItsPicks) {
     Open({.high = 49});
     appState.gameDialogMode = 2;
