@@ -2,14 +2,13 @@
 
 #include "platform/qt/grid/GridNames.h"
 #include "platform/qt/grid/GridWidget.h"
+#include "platform/qt/widgets/ToldCells.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPointer>
 
-#include <map>
 #include <optional>
-#include <utility>
 
 namespace ballhaven::platform {
 
@@ -20,25 +19,18 @@ int ColumnsOf(const GridWidget& grid) {
 }
 
 /// A cell of the table. It is told by its place, so that it says what stands there at the time.
-class JoinedCell final : public QAccessibleInterface,
-                         public QAccessibleTableCellInterface,
-                         public QAccessibleActionInterface {
+class JoinedCell final : public ToldCell, public QAccessibleTableCellInterface, public QAccessibleActionInterface {
   public:
     JoinedCell(GridWidget& gridWidget, int shownRow, int shownColumn)
         : widget(&gridWidget), row(shownRow), column(shownColumn) {}
 
+    [[nodiscard]] int Number() const override { return row * ColumnsOf(*widget) + column; }
     [[nodiscard]] bool isValid() const override {
         return !widget.isNull() && row < widget->Panes().Rows() && column < ColumnsOf(*widget);
     }
-    [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QAccessibleInterface* parent() const override {
         return QAccessible::queryAccessibleInterface(widget);
     }
-    [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
-    [[nodiscard]] QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Cell; }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         return isValid() && kind == QAccessible::Name ? Cells().CellDescription(Place()) : QString();
@@ -122,19 +114,12 @@ class JoinedTable final : public QAccessibleWidget, public QAccessibleTableInter
   public:
     explicit JoinedTable(GridWidget& gridWidget) : QAccessibleWidget(&gridWidget, QAccessible::Table) {}
 
-    ~JoinedTable() override {
-        for (const auto& [place, id] : cells) {
-            QAccessible::deleteAccessibleInterface(id);
-        }
-    }
-
     [[nodiscard]] int childCount() const override { return rowCount() * columnCount(); }
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
         return 0 <= index && index < childCount() ? cellAt(index / columnCount(), index % columnCount()) : nullptr;
     }
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* cell) const override {
-        const auto* const joined = dynamic_cast<const JoinedCell*>(cell);
-        return joined == nullptr ? -1 : joined->rowIndex() * columnCount() + joined->columnIndex();
+        return ToldCells::NumberOf(cell);
     }
     [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override {
         const std::optional<GridCell> cell = Served().Panes().CellAt(Served().mapFromGlobal(QPoint(x, y)));
@@ -152,11 +137,8 @@ class JoinedTable final : public QAccessibleWidget, public QAccessibleTableInter
         if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) {
             return nullptr;
         }
-        const auto [known, isNew] = cells.try_emplace({row, column});
-        if (isNew) {
-            known->second = QAccessible::registerAccessibleInterface(new JoinedCell(Served(), row, column));
-        }
-        return QAccessible::accessibleInterface(known->second);
+        return cells.At(row * Served().Shown().ColumnCount() + column,
+                        [this, row, column] { return new JoinedCell(Served(), row, column); });
     }
     [[nodiscard]] QString columnDescription(int column) const override {
         return NameOfColumn(Served().Shown(),
@@ -194,7 +176,7 @@ class JoinedTable final : public QAccessibleWidget, public QAccessibleTableInter
         return child(IndexInTable(Served().Shown(), Served().Shown().CurrentCell()));
     }
 
-    mutable std::map<std::pair<int, int>, QAccessible::Id> cells;
+    mutable ToldCells cells;
 };
 
 /// A pane whose cells the joined table tells of.

@@ -3,12 +3,13 @@
 #include "platform/Guard.h"
 #include "platform/qt/widgets/Conversions.h"
 #include "platform/qt/widgets/DrawingSurfaceWidget.h"
+#include "platform/qt/widgets/ToldCells.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPointer>
 
-#include <map>
+#include <algorithm>
 #include <vector>
 
 namespace ballhaven::platform {
@@ -24,28 +25,20 @@ std::vector<SurfaceCell> CellsOf(const DrawingSurface& surface) {
 }
 
 /// A cell is told by its number, so that it says what is drawn at the time.
-class ToldCell final : public QAccessibleInterface {
+class DrawnCell final : public ToldCell {
   public:
-    ToldCell(DrawingSurfaceWidget& surfaceWidget, int cellNumber) : widget(&surfaceWidget), number(cellNumber) {}
+    DrawnCell(DrawingSurfaceWidget& surfaceWidget, int cellNumber) : widget(&surfaceWidget), number(cellNumber) {}
 
-    [[nodiscard]] int Number() const { return number; }
-
+    [[nodiscard]] int Number() const override { return number; }
     [[nodiscard]] bool isValid() const override {
         return !widget.isNull() && number < static_cast<int>(CellsOf(widget->Shown()).size());
     }
-    [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QAccessibleInterface* parent() const override {
         return QAccessible::queryAccessibleInterface(widget);
     }
-    [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
-    [[nodiscard]] QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Cell; }
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         return isValid() && kind == QAccessible::Name ? ToQString(Cell().name) : QString();
     }
-    void setText(QAccessible::Text, const QString&) override {}
     [[nodiscard]] QRect rect() const override {
         if (!isValid()) {
             return {};
@@ -73,42 +66,28 @@ class ToldSurface final : public QAccessibleWidget {
   public:
     explicit ToldSurface(DrawingSurfaceWidget& surface) : QAccessibleWidget(&surface, QAccessible::Grouping) {}
 
-    ~ToldSurface() override {
-        for (const auto& [number, id] : cells) {
-            QAccessible::deleteAccessibleInterface(id);
-        }
-    }
-
     [[nodiscard]] int childCount() const override { return static_cast<int>(CellsOf(Surface().Shown()).size()); }
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
-        if (index < 0 || index >= childCount()) {
-            return nullptr;
-        }
-        const auto [known, isNew] = cells.try_emplace(index);
-        if (isNew) {
-            known->second = QAccessible::registerAccessibleInterface(new ToldCell(Surface(), index));
-        }
-        return QAccessible::accessibleInterface(known->second);
+        return 0 <= index && index < childCount()
+                   ? cells.At(index, [this, index] { return new DrawnCell(Surface(), index); })
+                   : nullptr;
     }
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* cell) const override {
-        const auto* const told = dynamic_cast<const ToldCell*>(cell);
-        return told == nullptr ? -1 : told->Number();
+        return ToldCells::NumberOf(cell);
     }
     [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override {
         const QPoint place = Surface().mapFromGlobal(QPoint(x, y));
         const std::vector<SurfaceCell> all = CellsOf(Surface().Shown());
-        for (std::size_t number = 0; number < all.size(); ++number) {
-            if (all[number].place.Holds({place.x(), place.y()})) {
-                return child(static_cast<int>(number));
-            }
-        }
-        return nullptr;
+        const auto found = std::ranges::find_if(all, [place](const SurfaceCell& cell) {
+            return cell.place.Holds({place.x(), place.y()});
+        });
+        return found == all.end() ? nullptr : child(static_cast<int>(found - all.begin()));
     }
 
   private:
     [[nodiscard]] DrawingSurfaceWidget& Surface() const { return static_cast<DrawingSurfaceWidget&>(*widget()); }
 
-    mutable std::map<int, QAccessible::Id> cells;
+    mutable ToldCells cells;
 };
 
 QAccessibleInterface* TellOf(const QString&, QObject* object) {

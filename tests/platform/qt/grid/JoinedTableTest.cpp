@@ -38,9 +38,12 @@ TEST_F(JoinedTable, IsOneTableOfAllColumnsThatAreShown) {
     EXPECT_EQ(Name(&Told()), "Historical Log");
     EXPECT_EQ(Table().rowCount(), 40);
     EXPECT_EQ(Table().columnCount(), 11);
+    QAccessibleInterface* const cell = Table().cellAt(1, 1);
     grid.Column(10).visible = false;
     EXPECT_EQ(Table().columnCount(), 10);
     EXPECT_EQ(Told().childCount(), 400);
+    EXPECT_EQ(Table().cellAt(1, 1), cell);
+    EXPECT_EQ(Name(Told().child(12)), cells[1][2]);
 }
 
 TEST_F(JoinedTable, ItsColumnsBearTheirHeadingsAndItsRowsTheirNames) {
