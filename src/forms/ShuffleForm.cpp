@@ -36,6 +36,8 @@ constexpr int BoardWidth(int columns, int columnWidth) {
     return columns * columnWidth + boardEdges;
 }
 
+constexpr platform::Bounds boardPlace{120, 585, BoardWidth(mostColumns, numberColumnWidth), boardHeight};
+
 platform::Control* const input = &frmShuffle.fraShuffle[0];
 platform::Control* const configuration = &frmShuffle.fraShuffle[1];
 platform::Control* const output = &frmShuffle.fraShuffle[2];
@@ -44,7 +46,7 @@ const platform::PlacedControl places[] = {
     // clang-format off
     {frmShuffle.fraShuffle[0],   "fraShuffle",   0, nullptr,       { edge,  edge, 4860, inputHeight}},
     {frmShuffle.lblShuffle[7],   "lblShuffle",   7, input,         { 120,  330, 1920,  210}},
-    {frmShuffle.grdShuffle,      "grdShuffle",  -1, input,         { 120,  585, BoardWidth(mostColumns, numberColumnWidth), boardHeight}, "Chosen picks"},
+    {frmShuffle.grdShuffle,      "grdShuffle",  -1, input,         boardPlace, "Chosen picks"},
     {frmShuffle.cmdErasePlay[5], "cmdErasePlay", 5, input,         {2040,  285,  300,  300}},
     {frmShuffle.lblShuffle[3],   "lblShuffle",   3, input,         {2400,  615, 2340,  210}},
     {frmShuffle.lblShuffle[4],   "lblShuffle",   4, input,         {2400,  840, 2340,  420}},

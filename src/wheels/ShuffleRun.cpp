@@ -91,7 +91,7 @@ int LastUsedPlay(const PlayPicks& table, int slotCount) {
     return play;
 }
 
-/// Asks the user whether to empty the plays, and does; whether they have been emptied.
+/// Asks the user whether to empty the plays, and does, letting waiting events in after it; whether they were emptied.
 bool AskAndClearPlays() {
     if (!platform::AskBeforeLoss("Would you like to clear all of the Play Slips first?", platform::BoxIcon::Question)) {
         return false;
