@@ -5,6 +5,7 @@
 #include "forms/PrintForm.h"
 #include "platform/Pointer.h"
 #include "platform/printing/PrinterDevice.h"
+#include "plays/PlayScreen.h"
 #include "printing/DataReport.h"
 #include "printing/PlaySlipReport.h"
 #include "state/AppState.h"
@@ -56,21 +57,22 @@ void LimitSize() {
 }
 
 void KeepSelection(int section) {
-    const bool ticked = BoxOf(section).IsTicked();
-    if (ticked && frmPrint.frmPrintLoading) {
-        return;
+    if (!frmPrint.frmPrintLoading) {
+        SetField(appState.systemRecord, SelectionOf(section), BoxOf(section).IsTicked() ? "1" : "0");
+        SaveSystemRecord();
     }
-    SetField(appState.systemRecord, SelectionOf(section), ticked ? "1" : "0");
-    SaveSystemRecord();
 }
 
-/// A printer that fails further down than in a page head ends this report without a word, as it ends the other one.
+/// A printer that fails further down than in a page head ends this report without a word, as it ends the other one. It
+/// has sorted the plays then too, so the boards show them as they are now.
 void PrintPlays() {
     try {
         playSlipReport();
     } catch (const platform::PrinterFailure&) {
+        RefreshPlayGrids();
         return;
     }
+    RefreshPlayGrids();
 }
 
 void Print() {

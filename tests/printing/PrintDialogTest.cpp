@@ -79,6 +79,8 @@ TEST_F(PrintDialog, OpensWithTheNumberOfGamesAndTheKeptBoxes) {
         EXPECT_EQ(Ticked(), "14");
         EXPECT_EQ(frmPrint.window.Width(), 4125);
         EXPECT_EQ(frmPrint.window.Height(), 3425);
+        EXPECT_EQ(frmPrint.window.Top() / 15, 1190 / 15);  // in whole pixels
+        EXPECT_EQ(frmPrint.window.Left() / 15, 150 / 15);
         EXPECT_FALSE(frmPrint.frmPrintLoading);
         ClickToClose("cmdPrint(0)");
     });
@@ -99,6 +101,19 @@ TEST_F(PrintDialog, OpeningRewritesNothing) {
     const auto files = directory.Files();
     InDialog([this] { ClickToClose("cmdPrint(0)"); });
     EXPECT_EQ(directory.Files(), files);
+    EXPECT_TRUE(saved.empty());
+}
+
+TEST_F(PrintDialog, OpeningWithOtherBoxesThanTheLastTimeRewritesNothing) {
+    StartWith("110000");
+    InDialog([this] { ClickToClose("cmdPrint(0)"); });
+    appState.systemRecord.replace(7, 6, "0 1000");
+    WatchSaves();
+    InDialog([this] {
+        EXPECT_EQ(Ticked(), "2");
+        ClickToClose("cmdPrint(0)");
+    });
+    EXPECT_EQ(appState.systemRecord.substr(7, 6), "0 1000");
     EXPECT_TRUE(saved.empty());
 }
 
