@@ -28,7 +28,7 @@ build=$(mktemp -d)
 trap 'rm -rf "$build"' EXIT
 cmake -S "$sources" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DBALLHAVEN_TESTS=OFF >/dev/null ||
     fail "CMake cannot set up a release"
-commands=$(grep '"command":.* -c [^ ]*/src/' "$build/compile_commands.json")
+commands=$(grep '"command":.* -c .*/src/[^ ]*\.cpp' "$build/compile_commands.json")
 [[ -n $commands ]] || fail "the release compiles nothing"
 every_source_has() { # flag, what is missing without it
     local without
