@@ -1,64 +1,23 @@
 #include "plays/PlayFile.h"
 
 #include "plays/PickSlots.h"
-#include "plays/PlayMethodCode.h"
+#include "plays/PlayRecord.h"
 #include "plays/PlayScreen.h"
 #include "state/AppState.h"
 #include "state/FullSizeFile.h"
 #include "state/modUTILS.h"
 
 #include <string>
-#include <string_view>
 
 namespace ballhaven {
 
 namespace {
 
-// The older form comes from a version that kept 1000 plays.
-constexpr FileSizes fileSizes{.recordLength = 64, .recordCount = playCount, .olderRecordCount = 1000};
-
-// A play's record: its method in columns 1-2, then the main picks from column 6 on and the bonus picks from column 36
-// on, each in two columns behind a blank.
-constexpr int methodColumn = 1;
-constexpr std::size_t pickWidth = 2;
-
-constexpr int PickFieldColumn(int pickColumn, int slot) {
-    return 3 * (pickColumn * picksPerPlay + slot) + 3;
-}
+constexpr FileSizes fileSizes{
+    .recordLength = playRecordLength, .recordCount = playCount, .olderRecordCount = olderPlayFileRecords};
 
 std::string PathOf(const std::string& directory, int slot) {
     return directory + "PLAYS" + modUTILS::ZeroPadded(slot, 2) + ".CDB";
-}
-
-void DecodePlay(std::string_view record, PlayPicks& plays, int play) {
-    if (record.find_first_not_of(' ') == std::string_view::npos) {  // most plays are empty
-        EmptyPlay(plays, play);
-        return;
-    }
-    plays(mainPicks, play, 0) = MethodOfCode(record.substr(methodColumn - 1, methodCodeWidth));
-    for (const int pickColumn : {mainPicks, bonusPicks}) {
-        for (int slot = 1; slot <= picksPerPlay; ++slot) {
-            const auto start = static_cast<std::size_t>(PickFieldColumn(pickColumn, slot) - 1);
-            plays(pickColumn, play, slot) = modUTILS::PickOfField(record.substr(start, pickWidth));
-        }
-    }
-}
-
-std::string EncodePlay(const PlayPicks& plays, int play) {
-    std::string record(static_cast<std::size_t>(fileSizes.recordLength), ' ');
-    modUTILS::SetColumns(record, methodColumn, CodeOfMethod(plays(mainPicks, play, 0)));
-    for (const int pickColumn : {mainPicks, bonusPicks}) {
-        for (int slot = 1; slot <= picksPerPlay; ++slot) {
-            const std::int16_t pick = plays(pickColumn, play, slot);
-            if (pick >= 0) {
-                // QUIRK PICK-TWO-DIGITS-1: of a cell number above 99 its first two digits are stored, so the last cells
-                // of a board where numbers can repeat come back as cell 10. A wider field would make files that other
-                // copies of the program read wrongly.
-                modUTILS::SetColumns(record, PickFieldColumn(pickColumn, slot), modUTILS::PickField(pick));
-            }
-        }
-    }
-    return record;
 }
 
 }  // namespace
@@ -66,8 +25,9 @@ std::string EncodePlay(const PlayPicks& plays, int play) {
 void LoadPlayFile() {
     const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory, appState.currentGame), fileSizes);
     appState.PlayTable = PlayPicks();
+    std::string padded;
     for (int play = 1; play <= playCount; ++play) {
-        DecodePlay(file.Read(play), appState.PlayTable, play);
+        DecodePlay(file.View(play, padded), appState.PlayTable, play);
     }
 }
 

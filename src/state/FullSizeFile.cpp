@@ -17,8 +17,8 @@ void FillUp(RecordFile& file, const FileSizes& sizes) {
     for (int record = firstMissing; record <= sizes.recordCount; ++record) {
         file.Write(record, "");
     }
-    if (!sizes.header.empty()) {
-        file.Write(1, sizes.header);
+    if (sizes.headerFor != nullptr) {
+        file.Write(1, sizes.headerFor(file.Read(1)));
     }
 }
 

@@ -3,7 +3,6 @@
 #include "state/RecordFile.h"
 
 #include <string>
-#include <string_view>
 
 namespace ballhaven {
 
@@ -12,7 +11,8 @@ struct FileSizes {
     int recordLength;  ///< in bytes
     int recordCount;
     int olderRecordCount;
-    std::string_view header = {};  ///< what record 1 begins with where the program fills the file up; empty for none
+    std::string (*headerFor)(const std::string& found) =
+        nullptr;  ///< record 1 of a file that is filled up; null for none
 };
 
 /// Opens a data file and sees that it has its full size: a missing or empty one gets blank records in all places, one

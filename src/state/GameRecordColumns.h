@@ -22,6 +22,7 @@ namespace systemField {
 inline constexpr RecordField shownSlot{1, 2};        // two digits
 inline constexpr RecordField sortOrder{4, 1};        // "0" the newest draw first, "1" the oldest
 inline constexpr RecordField printSelections{8, 6};  // "1" for each report section that is ticked, else "0"
+inline constexpr RecordField mendedMark{64, 1};      // "M" in a mended folder, else blank
 
 }  // namespace systemField
 

@@ -41,6 +41,14 @@ std::string RecordFile::Read(int record) const {
     return text;
 }
 
+std::string_view RecordFile::View(int record, std::string& padded) const {
+    const auto width = static_cast<std::size_t>(recordLength);
+    if (const std::size_t begin = OffsetOf(record); begin + width <= content.size()) {
+        return std::string_view(content).substr(begin, width);
+    }
+    return padded = Read(record);
+}
+
 void RecordFile::Write(int record, std::string_view text) {
     std::string bytes(text.substr(0, static_cast<std::size_t>(recordLength)));
     bytes.resize(static_cast<std::size_t>(recordLength), ' ');

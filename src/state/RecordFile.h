@@ -27,6 +27,10 @@ class RecordFile {
     /// Raises the subscript failure for a record that the format does not have.
     [[nodiscard]] std::string Read(int record) const;
 
+    /// The same, without a copy where the file has the whole record; else `padded` takes it. Valid until the next write
+    /// here or to `padded`.
+    [[nodiscard]] std::string_view View(int record, std::string& padded) const;
+
     /// Puts a record, cut or padded with blanks to its length, into its place. A gap before it becomes blanks.
     /// Raises the subscript failure for a record that the format does not have.
     void Write(int record, std::string_view text);

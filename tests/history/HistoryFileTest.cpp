@@ -1,6 +1,7 @@
 #include "history/HistoryFile.h"
 
 #include "state/AppState.h"
+#include "state/MendedFolder.h"
 #include "support/PointerKeeper.h"
 #include "support/RecordBytes.h"
 
@@ -288,6 +289,49 @@ TEST_F(QuirkHistoryDateFourDigits1, TheNineteenthOfMay2011ComesBackAsADateOf1986
     LoadHistory();
     EXPECT_EQ(appState.HistoryTable(0, 0), support::SerialOf("05/18/2011"));
     EXPECT_EQ(appState.HistoryTable(0, 1), support::SerialOf("09/27/1986"));
+}
+
+/// Marks the folder as one in which nothing that was entered is lost.
+void Mend() {
+    appState.systemRecord = WithMendedMark("01/1/1/000000");
+}
+
+const std::string markedHeader = Padded(header, 63) + "M";
+
+TEST_F(QuirkHistoryDateFourDigits1, InAMendedFolderADateComesBackAsItIsFromItsFirstSaveOn) {
+    Mend();
+    LoadHistory();
+    EXPECT_TRUE(historyFormat.Same(historyFormat.File({{1, header}}), Bytes())) << "a new file has nothing to tell";
+    SetUpDraws({{"05/18/2011", {1, 2, 3}}, {"05/19/2011", {4, 5, 6}}, {"11/22/2026", {7, 8, 9}}});
+    SaveHistory(0);
+    EXPECT_TRUE(historyFormat.Same(
+        historyFormat.File({{1, markedHeader}, {2, "9999  1  2  3"}, {3, "10000 4  5  6"}, {4, "15666 7  8  9"}}),
+        Bytes()));
+    LoadHistory();
+    EXPECT_EQ(appState.HistoryTable(0, 0), support::SerialOf("05/18/2011"));
+    EXPECT_EQ(appState.HistoryTable(0, 1), support::SerialOf("05/19/2011"));
+    EXPECT_EQ(appState.HistoryTable(0, 2), support::SerialOf("11/22/2026"));
+}
+
+TEST_F(QuirkHistoryDateFourDigits1, InAMendedFolderAFileWithoutTheMarkIsReadByFourDigits) {
+    Mend();
+    Load(historyFormat.File({{1, header}, {2, "10005 1  2  3"}}));
+    EXPECT_EQ(Row(0), (Cells{1000, 1, 2, 3}));
+}
+
+TEST_F(QuirkHistoryDateFourDigits1, AFileWithTheMarkKeepsItsFormInAnOrdinaryFolder) {
+    const std::string file = historyFormat.File({{1, markedHeader}, {2, "15666 7  8  9"}});
+    Load(file);
+    EXPECT_EQ(Row(0), (Cells{15666, 7, 8, 9}));
+    appState.HistoryTable(1, 0) = 10;
+    SaveHistory(1);
+    EXPECT_TRUE(historyFormat.Same(historyFormat.File({{1, markedHeader}, {2, "1566610  8  9"}}), Bytes()));
+}
+
+TEST_F(QuirkHistoryDateFourDigits1, AFileWithTheMarkThatWasCutShortKeepsItWhenItIsFilledUp) {
+    Load((markedHeader + Padded("15666 7  8  9", 64)).substr(0, 128));
+    EXPECT_TRUE(historyFormat.Same(historyFormat.File({{1, markedHeader}, {2, "15666 7  8  9"}}), Bytes()));
+    EXPECT_EQ(Row(0), (Cells{15666, 7, 8, 9}));
 }
 
 TEST_F(HistoryFile, ARowWithoutADateBecomesBlanksWhateverItsPicks) {

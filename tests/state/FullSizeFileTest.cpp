@@ -11,7 +11,12 @@
 namespace ballhaven {
 namespace {
 
-constexpr FileSizes sizes{.recordLength = 4, .recordCount = 5, .olderRecordCount = 3, .header = "head"};
+/// The header of these files keeps a "+" in its last column.
+std::string HeaderFor(const std::string& found) {
+    return found.back() == '+' ? "hea+" : "head";
+}
+
+constexpr FileSizes sizes{.recordLength = 4, .recordCount = 5, .olderRecordCount = 3, .headerFor = HeaderFor};
 constexpr FileSizes sizesWithoutHeader{.recordLength = 4, .recordCount = 5, .olderRecordCount = 3};
 
 class FullSizeFile : public support::DataFileTest {
@@ -34,6 +39,10 @@ TEST_F(FullSizeFile, AMissingOrEmptyFileGetsBlankRecordsAndTheHeader) {
 TEST_F(FullSizeFile, AFileOfTheOlderFormKeepsItsRecordsBehindANewHeader) {
     EXPECT_EQ(Opened("old1rec2rec3"), "headrec2rec3" + blank + blank);
     EXPECT_EQ(Opened("old1re"), "headre  " + blank + blank + blank) << "a shorter one likewise";
+}
+
+TEST_F(FullSizeFile, TheHeaderMayKeepWhatItFinds) {
+    EXPECT_EQ(Opened("old+rec2"), "hea+rec2" + blank + blank + blank);
 }
 
 TEST_F(FullSizeFile, WithoutAHeaderTheFirstRecordStays) {

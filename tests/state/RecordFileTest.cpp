@@ -72,6 +72,17 @@ TEST_F(RecordFileTest, AMissingFileComesIntoBeingEmpty) {
     EXPECT_EQ(directory.Files(), (Files{{"DATA", ""}}));
 }
 
+TEST_F(RecordFileTest, AViewIsTheRecordAndNeedsNoCopyOfAWholeOne) {
+    directory.Write("DATA", "abcdef");
+    const RecordFile file(path, 4, 3);
+    std::string padded;
+    EXPECT_EQ(file.View(1, padded), "abcd");
+    EXPECT_EQ(padded, "");
+    EXPECT_EQ(file.View(2, padded), "ef  ");
+    EXPECT_EQ(file.View(3, padded), "    ");
+    EXPECT_THROW(static_cast<void>(file.View(4, padded)), RuntimeFailure);
+}
+
 TEST_F(RecordFileTest, RecordsStandOneBehindTheOtherWithoutMarks) {
     RecordFile file(path, 4, 3);
     file.Write(1, "abcd");
