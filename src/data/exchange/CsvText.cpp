@@ -1,0 +1,187 @@
+#include "data/exchange/CsvText.h"
+
+#include "data/folder/Refusal.h"
+
+#include <algorithm>
+#include <array>
+#include <istream>
+#include <map>
+
+namespace ballhaven::data {
+
+namespace {
+
+constexpr char quote = '"';
+constexpr std::size_t longestRecord = 65'536;
+
+constexpr std::array<char, 3> usualDelimiters = {',', ';', '\t'};
+constexpr int linesToJudgeBy = 20;
+
+bool IsLineEnd(char character) {
+    return character == '\n' || character == '\r';
+}
+
+/// How well a delimiter divides the first lines: how many of them have the same number of fields, two at least, and how
+/// many fields that are.
+struct Division {
+    int lines = 0;
+    std::size_t fields = 0;
+
+    auto operator<=>(const Division&) const = default;
+};
+
+Division DivisionBy(std::istream& bytes, char delimiter) {
+    Rewind(bytes);
+    std::map<std::size_t, int> linesOfWidth;
+    try {
+        CsvText text(bytes, delimiter);
+        for (int line = 0; line < linesToJudgeBy && text.Next(); ++line) {
+            ++linesOfWidth[text.Fields().size()];
+        }
+    } catch (const Refusal&) {
+        // Under a delimiter that is not the text's own a quote can seem to open in the middle of a field.
+        return {};
+    }
+    linesOfWidth.erase(1);
+    Division best;
+    for (const auto& [fields, lines] : linesOfWidth) {
+        best = std::max(best, Division{lines, fields});
+    }
+    return best;
+}
+
+}  // namespace
+
+bool CsvText::Next() {
+    while (HasByte()) {
+        ReadRecord();
+        if (HasText()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool CsvText::HasByte() {
+    if (chunk.empty()) {
+        chunk = source.Next();
+    }
+    return !chunk.empty();
+}
+
+char CsvText::Take() {
+    const char character = chunk.front();
+    chunk.remove_prefix(1);
+    return character;
+}
+
+void CsvText::Keep(std::string_view piece) {
+    if (text.size() + ends.size() + piece.size() > longestRecord) {
+        throw Refusal("line " + std::to_string(firstLine) + " is longer than " + std::to_string(longestRecord) +
+                      " bytes, so it holds no draw; a quote may be missing in it");
+    }
+    text += piece;
+}
+
+bool CsvText::IsBlank(char character) const {
+    return (character == ' ' || character == '\t') && character != delimiter;
+}
+
+bool CsvText::EndsField(char character) const {
+    return character == delimiter || IsLineEnd(character);
+}
+
+void CsvText::ReadRecord() {
+    text.clear();
+    ends.clear();
+    firstLine = line;
+    for (bool isLast = false; !isLast;) {
+        ReadField();
+        ends.push_back(text.size());
+        isLast = !HasByte() || IsLineEnd(Peek());
+        if (!isLast) {
+            Take();
+            Keep({});
+        }
+    }
+    if (HasByte()) {
+        TakeLineEnd();
+    }
+    fields.clear();
+    std::size_t begin = 0;
+    for (const std::size_t end : ends) {
+        fields.push_back(std::string_view(text).substr(begin, end - begin));
+        begin = end;
+    }
+}
+
+void CsvText::ReadField() {
+    while (HasByte() && IsBlank(Peek())) {
+        Take();
+    }
+    if (HasByte() && Peek() == quote) {
+        ReadQuoted();
+    }
+    while (HasByte() && !EndsField(Peek())) {
+        const auto* const end = std::ranges::find_if(chunk, [this](char each) { return EndsField(each); });
+        const auto length = static_cast<std::size_t>(end - chunk.begin());
+        Keep(chunk.substr(0, length));
+        chunk.remove_prefix(length);
+    }
+}
+
+void CsvText::ReadQuoted() {
+    const std::int64_t openedIn = line;
+    Take();
+    while (HasByte()) {
+        if (IsLineEnd(Peek())) {
+            TakeLineEnd();
+            Keep("\n");
+            continue;
+        }
+        const char character = Take();
+        if (character == quote) {
+            if (!HasByte() || Peek() != quote) {
+                return;
+            }
+            Take();
+        }
+        Keep(std::string_view(&character, 1));
+    }
+    throw Refusal("the quote that opens in line " + std::to_string(openedIn) + " never closes");
+}
+
+void CsvText::TakeLineEnd() {
+    if (Take() == '\r' && HasByte() && Peek() == '\n') {
+        Take();
+    }
+    ++line;
+}
+
+bool CsvText::HasText() const {
+    return text.find_first_not_of(" \t\n") != std::string::npos;
+}
+
+char RecognisedDelimiter(std::istream& bytes) {
+    char best = 0;
+    Division bestDivision;
+    for (const char delimiter : usualDelimiters) {
+        const Division division = DivisionBy(bytes, delimiter);
+        if (division > bestDivision) {
+            best = delimiter;
+            bestDivision = division;
+        }
+    }
+    Rewind(bytes);
+    if (best == 0) {
+        throw Refusal("no comma, semicolon or tab divides its lines into fields; name what does with --delimiter");
+    }
+    return best;
+}
+
+void Rewind(std::istream& bytes) {
+    bytes.clear();
+    bytes.seekg(0);
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "data/exchange/TextSource.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ballhaven::data {
+
+/// The records of a text whose fields a delimiter divides. A field can stand in quotes, with a quote of its own
+/// doubled, and may then hold delimiters and line ends. Lines end in LF, CR LF or CR; those without any text are passed
+/// over. No more than one record is ever in memory.
+class CsvText {
+  public:
+    /// Reads from where the stream stands. The delimiter is no quote, blank or line end.
+    CsvText(std::istream& bytes, char fieldDelimiter) : source(bytes), delimiter(fieldDelimiter) {}
+
+    /// Takes the next record; false at the end. Throws Refusal for a record of more than 64 KiB, a quote that never
+    /// closes, and what `TextSource` refuses.
+    [[nodiscard]] bool Next();
+
+    /// The record's fields, one at least, without the blanks before them; they live until the next record.
+    [[nodiscard]] const std::vector<std::string_view>& Fields() const { return fields; }
+
+    /// The line, from 1, in which the record begins.
+    [[nodiscard]] std::int64_t Line() const { return firstLine; }
+
+  private:
+    [[nodiscard]] bool HasByte();
+    [[nodiscard]] char Peek() const { return chunk.front(); }
+    char Take();
+    void Keep(std::string_view piece);
+    [[nodiscard]] bool IsBlank(char character) const;
+    [[nodiscard]] bool EndsField(char character) const;
+
+    void ReadRecord();
+    void ReadField();
+    void ReadQuoted();
+    void TakeLineEnd();
+    [[nodiscard]] bool HasText() const;
+
+    TextSource source;
+    char delimiter;
+    std::string_view chunk;         ///< what is left of the source's last one
+    std::string text;               ///< the record's fields, one behind the other
+    std::vector<std::size_t> ends;  ///< where each ends in it
+    std::vector<std::string_view> fields;
+    std::int64_t line = 1;
+    std::int64_t firstLine = 1;
+};
+
+/// The delimiter of a text, a comma, a semicolon or a tab: the one that most of the first lines agree on. Leaves the
+/// stream at its beginning. Throws Refusal where none divides them.
+[[nodiscard]] char RecognisedDelimiter(std::istream& bytes);
+
+/// Puts a stream back to its beginning.
+void Rewind(std::istream& bytes);
+
+}  // namespace ballhaven::data

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ballhaven::data {
+
+/// In which order a date's numbers stand where its year is the last of them.
+enum class DateOrder { monthFirst, dayFirst, yearFirst };
+
+/// What an order is called on the command line: "m/d/y", "d.m.y" or "y-m-d".
+[[nodiscard]] std::string_view NameOf(DateOrder order);
+
+/// The order with a name, whatever separates its three letters; none for any other text.
+[[nodiscard]] std::optional<DateOrder> OrderNamed(std::string_view name);
+
+/// The date that a text holds; it may be none of the calendar, as 31 February. None where the text is no date in the
+/// order. Its parts are divided by hyphens, strokes, points or blanks, and the year has four digits. A year that stands
+/// first (20110521 too) and a month by its English name tell themselves, whatever the order. A weekday before the date
+/// and a time of day behind it are passed over.
+[[nodiscard]] std::optional<std::chrono::year_month_day> DateIn(std::string_view text, DateOrder order);
+
+/// The days from 1 January 1984 to a date of the calendar.
+[[nodiscard]] int SerialOf(const std::chrono::year_month_day& date);
+
+/// The date of a serial as year-month-day.
+[[nodiscard]] std::string IsoText(int serial);
+
+/// Finds the order of the dates of a column by looking at all of them.
+class DateOrderFinder {
+  public:
+    /// Looks at the text of a date in a line. What is no date tells nothing.
+    void Look(std::string_view text, std::int64_t line);
+
+    /// The only order in which all dates seen are days of the calendar; with points between them the day stands first.
+    /// Throws Refusal where two orders are left, and where some dates ask for the one and some for the other.
+    [[nodiscard]] DateOrder Order() const;
+
+  private:
+    /// A date that tells something, the first of its kind.
+    struct Sight {
+        std::int64_t line = 0;
+        std::string text;
+    };
+
+    static void Note(std::optional<Sight>& sight, std::string_view text, std::int64_t line);
+
+    std::optional<Sight> onlyMonthFirst;
+    std::optional<Sight> onlyDayFirst;
+    std::optional<Sight> either;
+    bool yearStandsLast = false;
+    bool hasPoints = false;
+};
+
+}  // namespace ballhaven::data

@@ -1,0 +1,129 @@
+#include "data/exchange/CsvText.h"
+
+#include "data/folder/Refusal.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace ballhaven::data {
+namespace {
+
+using Record = std::vector<std::string>;
+using Records = std::vector<Record>;
+
+Records RecordsOf(const std::string& bytes, char delimiter = ',') {
+    std::istringstream stream(bytes);
+    CsvText text(stream, delimiter);
+    Records records;
+    while (text.Next()) {
+        records.emplace_back(text.Fields().begin(), text.Fields().end());
+    }
+    return records;
+}
+
+std::vector<std::int64_t> LinesOf(const std::string& bytes) {
+    std::istringstream stream(bytes);
+    CsvText text(stream, ',');
+    std::vector<std::int64_t> lines;
+    while (text.Next()) {
+        lines.push_back(text.Line());
+    }
+    return lines;
+}
+
+std::string RefusalOf(const std::string& bytes) {
+    try {
+        (void)RecordsOf(bytes);
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    }
+    return "none";
+}
+
+char DelimiterOf(const std::string& bytes) {
+    std::istringstream stream(bytes);
+    return RecognisedDelimiter(stream);
+}
+
+TEST(CsvText, TheDelimiterDividesTheFields) {
+    EXPECT_EQ(RecordsOf("a,b,c\nd,,\n"), (Records{{"a", "b", "c"}, {"d", "", ""}}));
+    EXPECT_EQ(RecordsOf("a,b;c", ';'), (Records{{"a,b", "c"}}));
+    EXPECT_EQ(RecordsOf("a\t\tb c", '\t'), (Records{{"a", "", "b c"}}));
+}
+
+TEST(CsvText, LinesEndInAnyOfTheThreeWaysAndTheLastOneNeedNot) {
+    const Records expected{{"a"}, {"b"}, {"c"}};
+    EXPECT_EQ(RecordsOf("a\nb\nc\n"), expected);
+    EXPECT_EQ(RecordsOf("a\r\nb\r\nc\r\n"), expected);
+    EXPECT_EQ(RecordsOf("a\rb\rc"), expected);
+}
+
+TEST(CsvText, LinesWithoutTextArePassedOverAndCounted) {
+    EXPECT_EQ(RecordsOf("\n\na,1\n ,\t\n;\n\n"), (Records{{"a", "1"}, {";"}}));
+    EXPECT_EQ(LinesOf("\r\n\r\na\r\n,,\r\nb"), (std::vector<std::int64_t>{3, 5}));
+    EXPECT_EQ(RecordsOf(""), Records{});
+    EXPECT_EQ(RecordsOf("\n\n"), Records{});
+}
+
+TEST(CsvText, AFieldInQuotesHoldsDelimitersQuotesAndLineEnds) {
+    EXPECT_EQ(RecordsOf("\"a,b\",\"say \"\"so\"\"\"\n"), (Records{{"a,b", "say \"so\""}}));
+    EXPECT_EQ(RecordsOf("\"a\r\nb\",c\nd"), (Records{{"a\nb", "c"}, {"d"}}));
+    EXPECT_EQ(LinesOf("\"a\nb\r\nc\",1\nd"), (std::vector<std::int64_t>{1, 4}));
+    EXPECT_EQ(RecordsOf("\"\",\"\""), Records{}) << "nothing but empty fields";
+}
+
+TEST(CsvText, AQuoteMayFollowBlanksAndTextMayFollowTheQuote) {
+    EXPECT_EQ(RecordsOf("1, \"2\" ,3"), (Records{{"1", "2 ", "3"}}));
+    EXPECT_EQ(RecordsOf("5\" disc,b"), (Records{{"5\" disc", "b"}}));
+}
+
+TEST(CsvText, AQuoteThatNeverClosesIsToldWithItsLine) {
+    EXPECT_EQ(RefusalOf("a\nb,\"c\nd\n"), "the quote that opens in line 2 never closes");
+}
+
+TEST(CsvText, ARecordOfMoreThan64KiBIsRefusedWhateverItIsMadeOf) {
+    const std::string words = "line 2 is longer than 65536 bytes, so it holds no draw; a quote may be missing in it";
+    EXPECT_EQ(RecordsOf("a\n" + std::string(65'536, 'x')).size(), 2U);
+    EXPECT_EQ(RefusalOf("a\n" + std::string(65'537, 'x')), words);
+    EXPECT_EQ(RefusalOf("a\n" + std::string(65'537, ',')), words);
+    EXPECT_EQ(RefusalOf("a\n\"" + std::string(65'537, '\n')), words);
+    EXPECT_EQ(RefusalOf("a\n" + std::string(200'000, ' ') + "b"), "none") << "blanks before a field are not kept";
+}
+
+TEST(CsvText, FieldsAndLineEndsThatAChunkCutsComeWhole) {
+    for (std::size_t length = 65'530; length < 65'540; ++length) {
+        const std::string first(length / 2, 'x');
+        const std::string second(length - length / 2 - 1, 'y');
+        EXPECT_EQ(RecordsOf(first + "\n" + second + "\r\n\"z\"\"z\"\r\nw"),
+                  (Records{{first}, {second}, {"z\"z"}, {"w"}}));
+    }
+}
+
+TEST(RecognisedDelimiter, IsTheOneThatMostLinesAgreeOn) {
+    EXPECT_EQ(DelimiterOf("date,a,b\n2011-05-21,1,2\n"), ',');
+    EXPECT_EQ(DelimiterOf("date;a;b\n2011-05-21;1;2\n"), ';');
+    EXPECT_EQ(DelimiterOf("date\ta\tb\n2011-05-21\t1\t2\n"), '\t');
+    EXPECT_EQ(DelimiterOf("Sat, 21 May 2011;1;2\nWed, 25 May 2011;3;4\n"), ';');
+    EXPECT_EQ(DelimiterOf("Draws, as told\ndate;a;b\n2011-05-21;1;2\n"), ';');
+    EXPECT_EQ(DelimiterOf("\"May 21, 2011\"\t1\n\"May 25, 2011\"\t2\n"), '\t');
+}
+
+TEST(RecognisedDelimiter, LeavesTheStreamAtItsBeginning) {
+    std::istringstream stream("a;b\nc;d\n");
+    EXPECT_EQ(RecognisedDelimiter(stream), ';');
+    CsvText text(stream, ';');
+    ASSERT_TRUE(text.Next());
+    EXPECT_EQ(text.Fields().front(), "a");
+}
+
+TEST(RecognisedDelimiter, IsAskedForWhereNothingDividesTheLines) {
+    EXPECT_THROW((void)DelimiterOf("2011-05-21 1 2 3\n"), Refusal);
+    EXPECT_THROW((void)DelimiterOf(""), Refusal);
+    EXPECT_THROW((void)DelimiterOf("\"a,b;c\n"), Refusal);
+}
+
+}  // namespace
+}  // namespace ballhaven::data
