@@ -11,6 +11,7 @@
 #include "platform/Pointer.h"
 #include "platform/Services.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/FolderChange.h"
 #include "platform/files/Paths.h"
 #include "plays/PlaySlipsWindow.h"
 #include "printing/PrintDialog.h"
@@ -20,6 +21,7 @@
 #include "state/DateText.h"
 #include "wheels/ShuffleWindow.h"
 
+#include <stdexcept>
 #include <string>
 #include <system_error>
 
@@ -44,6 +46,22 @@ bool BringEarlierInstanceForward() {
 void TellOfTheFolder(const std::string& whatIsWrong, const std::string& wayOut) {
     const std::string folder = platform::TextOfSystem(platform::services.executableDirectory());
     platform::Tell(whatIsWrong + "\n" + folder + "\n\n" + wayOut, platform::BoxIcon::Critical);
+}
+
+/// Whether no change of several files that was decided in the folder waits to be finished, now at the latest. The
+/// companion on the command line begins such changes, and may have been stopped in the middle of one.
+bool IsWhole() {
+    try {
+        platform::FinishFolderChange(platform::services.executableDirectory());
+        return true;
+    } catch (const std::system_error& error) {
+        TellOfTheFolder("Ballhaven cannot finish a change that was begun in the folder",
+                        "The system says: " + platform::TextOfSystem(error.code().message()) +
+                            ". Make sure that you may write there, and start Ballhaven again.");
+        return false;
+    } catch (const std::runtime_error&) {
+        return true;  // a folder that the system does not tell is passed over, as the main window does
+    }
 }
 
 /// Whether the folder of the program is this process's own. Where it is not, an earlier instance has come to the front,
@@ -76,7 +94,7 @@ bool HasTheFolder() {
 
 void StartProgram() {
     const platform::WaitPointer waiting;
-    if (!HasTheFolder()) {
+    if (!HasTheFolder() || !IsWhole()) {
         platform::EndProcess();
         return;
     }

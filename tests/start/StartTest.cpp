@@ -99,6 +99,30 @@ TEST_F(Starting, AFolderThatCannotBeLockedIsToldAndNoWindowOpens) {
     EXPECT_FALSE(frmMainForm.window.IsLoaded());
 }
 
+TEST_F(Starting, AChangeThatWasDecidedInTheFolderIsFinishedFirst) {
+    const support::TemporaryDirectory folder;
+    folder.Write("GAME01.CDB.next", "new");
+    folder.Write("CHANGE", "put GAME01.CDB\nremove GAME02.CDB\n");
+    services.executableDirectory = [&folder] { return folder.Path(); };
+    StartProgram();
+    EXPECT_TRUE(frmMainForm.window.IsLoaded());
+    EXPECT_EQ(folder.Read("GAME01.CDB"), "new");
+    EXPECT_FALSE(folder.Has("CHANGE"));
+}
+
+TEST_F(Starting, AChangeThatCannotBeFinishedIsToldAndNoWindowOpens) {
+    services.executableDirectory = [] { return std::string("/far/away"); };
+    platform::fileSystem.open = [](const std::string&, platform::FileAccess) { return -EIO; };
+    StartProgram();
+    EXPECT_EQ(boxes, (std::vector<platform::MessageBoxRequest>{
+                         {"Ballhaven cannot finish a change that was begun in the folder\n/far/away\n\n"
+                          "The system says: Input/output error. Make sure that you may write there, and start Ballhaven "
+                          "again.",
+                          platform::BoxButtons::Ok, platform::BoxIcon::Critical, "Ballhaven"}}));
+    EXPECT_EQ(exitCodes, (std::vector<int>{0}));
+    EXPECT_FALSE(frmMainForm.window.IsLoaded());
+}
+
 TEST_F(Starting, WhatWantsTheProgramToEndClosesTheMainWindow) {
     StartProgram();
     bool closed = false;

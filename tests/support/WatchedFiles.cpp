@@ -16,6 +16,10 @@ namespace {
 
 std::string NameOf(FileAccess access) {
     switch (access) {
+        case FileAccess::Read:
+            return "open Read";
+        case FileAccess::Update:
+            return "open Update";
         case FileAccess::ReadOrCreate:
             return "open ReadOrCreate";
         case FileAccess::UpdateOrCreate:

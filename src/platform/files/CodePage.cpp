@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 
 namespace ballhaven::platform {
 
@@ -49,6 +50,11 @@ std::u16string ToUtf16(std::string_view text) {
         characters.push_back(CharacterOfByte(static_cast<unsigned char>(each)));
     }
     return characters;
+}
+
+std::string ToUtf8(std::string_view text) {
+    const std::u8string bytes = std::filesystem::path(ToUtf16(text)).u8string();
+    return {bytes.begin(), bytes.end()};
 }
 
 std::string FromUtf16(std::u16string_view text) {

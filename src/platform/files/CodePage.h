@@ -12,6 +12,9 @@ namespace ballhaven::platform {
 /// Text in Windows-1252 as UTF-16.
 [[nodiscard]] std::u16string ToUtf16(std::string_view text);
 
+/// Text in Windows-1252 as UTF-8.
+[[nodiscard]] std::string ToUtf8(std::string_view text);
+
 /// UTF-16 as text in Windows-1252; a character that has no byte there becomes "?".
 [[nodiscard]] std::string FromUtf16(std::u16string_view text);
 

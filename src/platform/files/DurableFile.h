@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,9 @@ struct FileHead {
 /// Reads the first `limit` bytes of a file, or all if it is shorter; a missing file comes into being empty. Removes the
 /// temporary file that a crash left beside it. Throws std::system_error, also where no regular file stands.
 [[nodiscard]] FileHead ReadHead(const std::string& path, std::int64_t limit);
+
+/// The same of a file that is there, with nothing made or removed; none where nothing is there.
+[[nodiscard]] std::optional<FileHead> ReadHeadIfThere(const std::string& path, std::int64_t limit);
 
 /// Makes the file `head`, followed by what it held from byte `tailOffset` on, with the permissions that it had; a
 /// symbolic link goes on pointing to it, and a hole behind that byte stays one. Whatever the moment of a crash, of an

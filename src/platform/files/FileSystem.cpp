@@ -30,6 +30,10 @@ Result Answer(Result result) {
 int FlagsOf(FileAccess access) {
     constexpr int always = O_CLOEXEC | O_NONBLOCK;
     switch (access) {
+        case FileAccess::Read:
+            return always | O_RDONLY;
+        case FileAccess::Update:
+            return always | O_RDWR;
         case FileAccess::ReadOrCreate:
             return always | O_RDONLY | O_CREAT;
         case FileAccess::UpdateOrCreate:

@@ -9,6 +9,8 @@ namespace ballhaven::platform {
 
 /// What a file is opened for.
 enum class FileAccess {
+    Read,            ///< reading a file that is there
+    Update,          ///< reading a file that is there, where writing must be allowed too
     ReadOrCreate,    ///< reading; a missing file comes into being empty
     UpdateOrCreate,  ///< reading, where writing must be allowed too; a missing file comes into being empty
     CreateNew,       ///< writing a file of which nothing may be there yet, for the user alone to read

@@ -40,5 +40,9 @@ TEST(CodePage, TheCharactersBehindTheOwnBytesHaveNoByteOfTheSameNumber) {
     EXPECT_EQ(FromUtf16(u"\x9F"), "?");
 }
 
+TEST(CodePageTest, TextBecomesUtf8) {
+    EXPECT_EQ(ToUtf8("5 \x80, K\xF6nig"), "5 \xE2\x82\xAC, K\xC3\xB6nig");
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

@@ -1,0 +1,62 @@
+#include "data/folder/FolderFiles.h"
+
+#include "data/folder/Refusal.h"
+#include "platform/files/DurableFile.h"
+#include "platform/files/Paths.h"
+#include "state/AppState.h"
+#include "state/GameRecordColumns.h"
+#include "state/modUTILS.h"
+
+#include <system_error>
+
+namespace ballhaven::data {
+
+namespace {
+
+constexpr int chosenPicksRecordLength = 320;
+
+FolderFile FileOfSlot(const std::string& stem, int slot, int recordCount) {
+    return {stem + modUTILS::ZeroPadded(slot, 2) + ".CDB", gameRecordLength, recordCount};
+}
+
+}  // namespace
+
+FolderFile GameTableFile() {
+    return {"LOTTOSYS", gameRecordLength, 1 + gameSlots};
+}
+
+FolderFile HistoryFileOf(int slot) {
+    return FileOfSlot("GAME", slot, 1 + historyRows);
+}
+
+FolderFile PlayFileOf(int slot) {
+    return FileOfSlot("PLAYS", slot, playCount);
+}
+
+FolderFile ChosenPicksFile() {
+    return {"SHUFFLE.CDB", chosenPicksRecordLength, 2 * gameSlots};
+}
+
+std::vector<FolderFile> AllFolderFiles() {
+    std::vector<FolderFile> files{GameTableFile()};
+    for (int slot = 1; slot <= gameSlots; ++slot) {
+        files.push_back(HistoryFileOf(slot));
+    }
+    for (int slot = 1; slot <= gameSlots; ++slot) {
+        files.push_back(PlayFileOf(slot));
+    }
+    files.push_back(ChosenPicksFile());
+    return files;
+}
+
+std::optional<std::string> ReadFolderFile(const std::string& directory, const FolderFile& file) {
+    const std::string path = platform::WithSeparator(directory) + file.name;
+    try {
+        const auto head = platform::ReadHeadIfThere(path, file.FormatLength());
+        return head ? std::optional(head->bytes) : std::nullopt;
+    } catch (const std::system_error& error) {
+        throw Refusal(path + " cannot be read: " + error.code().message() + ".");
+    }
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ballhaven::data {
+
+/// A data file of a Ballhaven folder. All are text in records of a fixed length.
+struct FolderFile {
+    std::string name;
+    int recordLength = 0;  ///< in bytes
+    int recordCount = 0;   ///< of the format; what a file holds behind its last record is none of ours and stays
+
+    [[nodiscard]] std::int64_t FormatLength() const { return std::int64_t{recordLength} * recordCount; }
+};
+
+[[nodiscard]] FolderFile GameTableFile();
+[[nodiscard]] FolderFile HistoryFileOf(int slot);
+[[nodiscard]] FolderFile PlayFileOf(int slot);
+[[nodiscard]] FolderFile ChosenPicksFile();
+
+/// All of them: the table of games first, then by kind and slot.
+[[nodiscard]] std::vector<FolderFile> AllFolderFiles();
+
+/// What a file holds, up to the last record of its format; none where the folder has no such file. Makes nothing.
+/// Throws Refusal where it cannot be read.
+[[nodiscard]] std::optional<std::string> ReadFolderFile(const std::string& directory, const FolderFile& file);
+
+}  // namespace ballhaven::data
