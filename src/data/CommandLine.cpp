@@ -1,6 +1,9 @@
 #include "data/CommandLine.h"
 
+#include "data/GamesCommand.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/WorkFolder.h"
+#include "state/RuntimeFailure.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -18,6 +21,7 @@ class Commands {
         app.fallthrough();
         app.add_option("--folder", folder, "The folder of the data; without it the one that this program lies in")
             ->type_name("DIRECTORY");
+        AddGames();
     }
 
     /// Reads the line and runs its command. Throws CLI::ParseError and Refusal.
@@ -31,6 +35,18 @@ class Commands {
     }
 
   private:
+    /// A command of the line, which runs when the whole line has been read.
+    CLI::App& Add(const std::string& name, const std::string& what, const std::string& example) {
+        CLI::App& command = *app.add_subcommand(name, what);
+        command.footer("Example: ballhaven-data " + example);
+        return command;
+    }
+
+    void AddGames() {
+        CLI::App& games = Add("games", "Lists the games of the folder, with their draws and plays", "games");
+        games.callback([this] { ListGames(WorkFolder(folder), console); });
+    }
+
     std::string folder;
     const Console& console;
     CLI::App app{"Takes draws in and out of a Ballhaven folder, checks it and copies it."};
@@ -47,8 +63,10 @@ ExitCode RunCommandLine(std::vector<std::string> arguments, const std::string& o
         return commands.Explain(error);
     } catch (const Refusal& refusal) {
         console.notes << "ballhaven-data: " << refusal.what() << '\n';
-        return refused;
+    } catch (const RuntimeFailure& failure) {
+        console.notes << "ballhaven-data: " << failure.what() << '\n';
     }
+    return refused;
 }
 
 }  // namespace ballhaven::data

@@ -65,6 +65,11 @@ struct Services {
         return std::chrono::year{1984} / std::chrono::January / 1;
     };
 
+    /// The current time where the user is.
+    std::function<std::chrono::local_seconds()> now = [] {
+        return std::chrono::local_days{std::chrono::year{1984} / std::chrono::January / 1};
+    };
+
     /// The day with which the user's week begins.
     std::function<std::chrono::weekday()> firstDayOfWeek = [] { return std::chrono::Sunday; };
 

@@ -22,15 +22,16 @@ struct GameOnFile {
     [[nodiscard]] std::string Title() const;
 };
 
-/// The twenty games of a table's content, records of the older form brought to the present one. Records that the content
-/// lacks are those of unused slots.
+/// The twenty games of a table's content, records of the older form brought to the present one. Records that the
+/// content lacks are those of unused slots.
 [[nodiscard]] std::vector<GameOnFile> GamesOf(std::string_view tableContent);
 
 /// Those of a folder. Throws Refusal where it has no table of games, or none that can be read.
 [[nodiscard]] std::vector<GameOnFile> ReadGames(const std::string& directory);
 
-/// The game that a word of the command line means: the number of its slot, or its name in UTF-8, the case of letters left
-/// aside. Throws Refusal where there is none, where there are several, or where no game has been set up in the slot.
+/// The game that a word of the command line means: the number of its slot, or its name in UTF-8, the case of letters
+/// left aside. Throws Refusal where there is none, where there are several, or where no game has been set up in the
+/// slot.
 [[nodiscard]] const GameOnFile& FindGame(const std::vector<GameOnFile>& games, const std::string& word);
 
 }  // namespace ballhaven::data

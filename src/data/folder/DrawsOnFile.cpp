@@ -1,0 +1,58 @@
+#include "data/folder/DrawsOnFile.h"
+
+#include "data/folder/FolderFiles.h"
+#include "state/modUTILS.h"
+
+#include <algorithm>
+#include <span>
+
+namespace ballhaven::data {
+
+namespace {
+
+std::string_view RecordOf(std::string_view content, int record) {
+    const auto begin = static_cast<std::size_t>((record - 1) * drawRecordLength);
+    return begin < content.size() ? content.substr(begin, drawRecordLength) : std::string_view();
+}
+
+/// A record that the end of its file may have cut, at its full length.
+std::string WholeRecord(std::string_view record) {
+    return modUTILS::FixedWidth(record, drawRecordLength);
+}
+
+}  // namespace
+
+DrawsOnFile DrawsOf(std::string_view content, int picks) {
+    DrawsOnFile file;
+    file.digits = DateDigitsOf(WholeRecord(RecordOf(content, headerRecord)));
+    std::vector<std::int16_t> cells(static_cast<std::size_t>(1 + picks));
+    for (int record = firstDrawRecord; record <= drawFileRecords; ++record) {
+        if (DecodeDraw(WholeRecord(RecordOf(content, record)), file.digits, cells)) {
+            file.draws.push_back({cells.front(), {cells.begin() + 1, cells.end()}});
+        }
+    }
+    return file;
+}
+
+DrawsOnFile ReadDraws(const std::string& directory, const GameOnFile& game) {
+    return DrawsOf(ReadFolderFile(directory, HistoryFileOf(game.slot)).value_or(""), TotalPicksOf(game.rules));
+}
+
+std::string ContentOf(const DrawsOnFile& file, const std::optional<std::string>& oldContent) {
+    std::string header = oldContent ? WholeRecord(RecordOf(*oldContent, headerRecord)) : StampedHeader("");
+    if (file.digits == DateDigits::Five) {
+        header = WithFiveDigits(header);
+    }
+    std::string content = WholeRecord(header);
+    content.reserve(std::size_t{drawRecordLength} * drawFileRecords);
+    std::vector<std::int16_t> cells;
+    for (const DrawOnFile& draw : std::span(file.draws).first(std::min<std::size_t>(file.draws.size(), historyRows))) {
+        cells.assign(1, draw.date);
+        cells.insert(cells.end(), draw.picks.begin(), draw.picks.end());
+        content += WholeRecord(EncodeDraw(cells, file.digits));
+    }
+    content.resize(std::size_t{drawRecordLength} * drawFileRecords, ' ');
+    return content;
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,96 @@
+#include "data/folder/WorkFolder.h"
+
+#include "data/folder/FolderFiles.h"
+#include "data/folder/Refusal.h"
+#include "platform/Services.h"
+#include "platform/files/DurableFile.h"
+#include "platform/files/FolderChange.h"
+#include "platform/files/Paths.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+namespace ballhaven::data {
+
+namespace {
+
+constexpr const char* copiesFolder = "copies";
+
+const FolderFile& FileNamed(const std::vector<FolderFile>& known, const std::string& name) {
+    return *std::ranges::find(known, name, &FolderFile::name);
+}
+
+/// Such as "2026-11-22 09.30.05", which is a part of a file's name on every system.
+std::string TimeText(std::chrono::local_seconds time) {
+    const auto day = std::chrono::floor<std::chrono::days>(time);
+    const std::chrono::year_month_day date(day);
+    const std::chrono::hh_mm_ss clock(time - day);
+    std::string text(sizeof "2026-11-22 09.30.05", '\0');
+    const int length = std::snprintf(
+        text.data(), text.size(), "%04d-%02u-%02u %02d.%02d.%02d", static_cast<int>(date.year()),
+        static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
+        static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()));
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+std::string ReasonOf(const std::system_error& error) {
+    return error.code().message();
+}
+
+}  // namespace
+
+WorkFolder::WorkFolder(const std::string& folder) : directory(platform::WithSeparator(folder)) {
+    try {
+        lock = std::make_unique<platform::FolderLock>(directory);
+        if (!lock->Take()) {
+            throw Refusal(directory +
+                          " is in use by Ballhaven or by another run of this program. Close it, and try again.");
+        }
+        platform::FinishFolderChange(directory);
+    } catch (const std::system_error& error) {
+        throw Refusal(directory + " cannot be used: " + ReasonOf(error) + ".");
+    }
+}
+
+std::string WorkFolder::Change(const FileContents& files, const std::string& occasion) const {
+    const std::string copy = KeepCopy(files, occasion);
+    const std::vector<FolderFile> known = AllFolderFiles();
+    platform::FolderChange change(directory);
+    try {
+        for (const auto& [name, content] : files) {
+            if (content) {
+                change.Put(name, *content, FileNamed(known, name).FormatLength());
+            } else {
+                change.Remove(name);
+            }
+        }
+        change.Commit();
+    } catch (const std::system_error& error) {
+        throw Refusal(change.IsDecided()
+                          ? "The change could not be brought to its end: " + ReasonOf(error) +
+                                ". It will be when this program or Ballhaven is next started on " + directory + "."
+                          : "Nothing was changed: " + directory + " could not be written: " + ReasonOf(error) + ".");
+    }
+    return copy;
+}
+
+std::string WorkFolder::KeepCopy(const FileContents& files, const std::string& occasion) const {
+    const std::vector<FolderFile> known = AllFolderFiles();
+    FileContents old;
+    for (const auto& [name, content] : files) {
+        old[name] = ReadFolderFile(directory, FileNamed(known, name));
+    }
+    const std::string folder = directory + copiesFolder;
+    try {
+        std::filesystem::create_directory(folder);
+        return platform::NewFile(folder, TimeText(platform::services.now()) + " " + occasion, ".zip")
+            .Save(ArchiveOf(old));
+    } catch (const std::system_error& error) {
+        throw Refusal("Nothing was changed, since no copy could be kept in " + folder + ": " + ReasonOf(error) + ".");
+    }
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "data/folder/CopyArchive.h"
+#include "platform/files/FolderLock.h"
+
+#include <memory>
+#include <string>
+
+namespace ballhaven::data {
+
+/// A folder of Ballhaven that this process has for its own as long as this lives.
+class WorkFolder {
+  public:
+    /// Takes the folder, and finishes a change in it that was decided and not brought to its end. Throws Refusal where
+    /// it is in use, or is none that can be used.
+    explicit WorkFolder(const std::string& folder);
+
+    /// With a separator at its end.
+    [[nodiscard]] const std::string& Path() const { return directory; }
+
+    /// Changes files, all or nothing, up to the last record of their formats. What they held before is kept in a zip in
+    /// the folder "copies", named by the current time and the occasion, such as "import". Returns the path of that
+    /// zip. Throws Refusal; nothing has changed then, unless the words say otherwise.
+    std::string Change(const FileContents& files, const std::string& occasion) const;
+
+  private:
+    [[nodiscard]] std::string KeepCopy(const FileContents& files, const std::string& occasion) const;
+
+    std::string directory;
+    std::unique_ptr<platform::FolderLock> lock;
+};
+
+}  // namespace ballhaven::data

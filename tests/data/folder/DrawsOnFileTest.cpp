@@ -1,0 +1,70 @@
+#include "data/folder/DrawsOnFile.h"
+
+#include "support/TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
+namespace ballhaven::data {
+namespace {
+
+std::string Padded(std::string text) {
+    text.resize(64, ' ');
+    return text;
+}
+
+const std::string fiveDigitsHeader = "10-26-2002" + std::string(53, ' ') + "M";
+
+TEST(DrawsOnFileTest, RowsWithADateAreDraws) {
+    const DrawsOnFile file = DrawsOf(Padded("10-26-2002") + Padded("9999 1  22 ") + Padded("") + Padded("12   7 "), 3);
+    EXPECT_EQ(file.digits, DateDigits::Four);
+    EXPECT_EQ(file.draws, (std::vector<DrawOnFile>{{9999, {1, 22, -1}}, {12, {7, -1, -1}}}));
+}
+
+TEST(DrawsOnFileTest, AFileIsReadByItsOwnMark) {
+    const DrawsOnFile file = DrawsOf(fiveDigitsHeader + Padded("156661  22 "), 2);
+    EXPECT_EQ(file.digits, DateDigits::Five);
+    EXPECT_EQ(file.draws, (std::vector<DrawOnFile>{{15666, {1, 22}}}));
+}
+
+TEST(DrawsOnFileTest, ARecordThatTheEndCutsIsReadAsFarAsItGoes) {
+    EXPECT_EQ(DrawsOf(Padded("10-26-2002") + "9999 1  2", 2).draws, (std::vector<DrawOnFile>{{9999, {1, 2}}}));
+    EXPECT_TRUE(DrawsOf("10-26", 2).draws.empty());
+    EXPECT_TRUE(DrawsOf("", 2).draws.empty());
+}
+
+TEST(DrawsOnFileTest, AContentHasEveryRowAndKeepsTheOldHeader) {
+    const DrawsOnFile file{DateDigits::Four, {{9999, {1, 22}}, {12, {7, -1}}}};
+    const std::string content = ContentOf(file, Padded("10-26-2002 AB"));
+    EXPECT_EQ(content.size(), 1001U * 64);
+    EXPECT_EQ(content.substr(0, 4 * 64),
+              Padded("10-26-2002 AB") + Padded("9999  1 22") + Padded("12    7") + Padded(""));
+    EXPECT_EQ(DrawsOf(content, 2), file);
+}
+
+TEST(DrawsOnFileTest, ANewFileGetsTheHeaderOfItsForm) {
+    EXPECT_EQ(ContentOf({}, std::nullopt).substr(0, 64), Padded("10-26-2002"));
+    EXPECT_EQ(ContentOf({DateDigits::Five, {}}, std::nullopt).substr(0, 64), fiveDigitsHeader);
+}
+
+TEST(DrawsOnFileTest, NoMoreThanAThousandDrawsAreInAContent) {
+    DrawsOnFile file;
+    for (std::int16_t date = 1; date <= 1001; ++date) {
+        file.draws.push_back({date, {1}});
+    }
+    const std::string content = ContentOf(file, std::nullopt);
+    EXPECT_EQ(content.size(), 1001U * 64);
+    EXPECT_EQ(DrawsOf(content, 1).draws.back().date, 1000);
+}
+
+TEST(DrawsOnFileTest, AGameWithoutAFileHasNoDraws) {
+    const support::TemporaryDirectory directory;
+    GameOnFile game;
+    game.slot = 7;
+    game.rules.mainPickCount = 2;
+    EXPECT_TRUE(ReadDraws(directory.Path(), game).draws.empty());
+    directory.Write("GAME07.CDB", Padded("10-26-2002") + Padded("30   4   5 "));
+    EXPECT_EQ(ReadDraws(directory.Path(), game).draws, (std::vector<DrawOnFile>{{30, {4, 5}}}));
+}
+
+}  // namespace
+}  // namespace ballhaven::data
