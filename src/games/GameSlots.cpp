@@ -34,12 +34,9 @@ bool IsCurrentGameUndefined() {
 
 /// The first slot without a game, 0 if there is none.
 int FirstFreeSlot() {
-    for (int slot = 1; slot <= gameSlots; ++slot) {
-        if (CountsAsFree(ReadGameRecord(slot))) {
-            return slot;
-        }
-    }
-    return 0;
+    const auto records = ReadGameRecords();
+    const auto free = std::ranges::find_if(records, CountsAsFree);
+    return free == records.end() ? 0 : static_cast<int>(free - records.begin()) + 1;
 }
 
 /// Opens the dialog on a slot; the dialog's load goes over the game variables, so what is dirty is saved before it.

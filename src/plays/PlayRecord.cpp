@@ -15,6 +15,8 @@ namespace {
 constexpr int methodColumn = 1;
 constexpr std::size_t pickWidth = 2;
 
+const std::string emptyRecord(playRecordLength, ' ');
+
 constexpr int PickFieldColumn(int pickColumn, int slot) {
     return 3 * (pickColumn * picksPerPlay + slot) + 3;
 }
@@ -22,7 +24,7 @@ constexpr int PickFieldColumn(int pickColumn, int slot) {
 }  // namespace
 
 void DecodePlay(std::string_view record, PlayPicks& plays, int play) {
-    if (record.find_first_not_of(' ') == std::string_view::npos) {  // most plays are empty
+    if (record == emptyRecord) {  // as most are
         EmptyPlay(plays, play);
         return;
     }

@@ -39,14 +39,22 @@ std::string InWhichGame() {
     return name.empty() ? std::string() : " in the game \"" + name + "\"";
 }
 
+/// For a failure that comes again at each start: the companion changes what is shown first, or how much of it.
+std::string Companion(const std::string& words) {
+    return "type in the folder of the program: ballhaven-data set " + words + ".";
+}
+
 std::string WayOut(const std::exception& failure, bool inReading) {
     if (IsFileError(failure)) {
         return "The program ends. The files are as they were when they were last saved. Make it possible to read and "
-               "write this one, and start again.";
+               "write this one, and start again. To start with another game, such as the one in slot 2, " +
+               Companion("--shown 2");
     }
     if (inReading) {
         return "This came up while draws were counted or shown" + InWhichGame() +
-               ". The program ends; your draws and plays are saved. Choose a smaller history set for this game.";
+               ". The program ends; your draws and plays are saved. Choose a smaller history set for this game. If it "
+               "ends again before you can, " +
+               Companion(std::to_string(appState.currentGame) + " --history-set 100");
     }
     return "This came up" + InWhichGame() +
            ". The program ends. The files are as they were when they were last saved; start again, and choose a "

@@ -23,7 +23,9 @@ using support::Draw;
 constexpr const char* overflowInDrawing =
     "Overflow: a number does not fit into 16 bits.\n\nThis came up while draws were counted or shown in the game \"Six "
     "of "
-    "49\". The program ends; your draws and plays are saved. Choose a smaller history set for this game.";
+    "49\". The program ends; your draws and plays are saved. Choose a smaller history set for this game. If it ends "
+    "again "
+    "before you can, type in the folder of the program: ballhaven-data set 1 --history-set 100.";
 
 /// What ends the program: one box that names the failure and the way out, and no file half written.
 class FailuresOfTheProgram : public support::RunningProgram {
@@ -121,7 +123,8 @@ TEST_F(FailuresOfTheProgram, AFileThatCannotBeReadIsNamedAtTheStart) {
     boxes.Expect("Ballhaven",
                  FileError("LOTTOSYS", "Input/output error") +
                      "\n\nThe program ends. The files are as they were when they were last saved. Make it possible to "
-                     "read and write this one, and start again.",
+                     "read and write this one, and start again. To start with another game, such as the one in slot 2, "
+                     "type in the folder of the program: ballhaven-data set --shown 2.",
                  BoxButtons::Ok, BoxIcon::Critical);
     support::ResetState();
     StartProgram();

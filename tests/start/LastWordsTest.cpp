@@ -41,14 +41,16 @@ TEST_F(TheLastWords, OfACountNameTheGameAndASmallerHistorySetAsTheWayOut) {
         Told(RuntimeFailure(Kind::Overflow), true),
         "Overflow: a number does not fit into 16 bits.\n\nThis came up while draws were counted or shown in the "
         "game \"Super Lotto\". The program ends; your draws and plays are saved. Choose a smaller history set for "
-        "this game.");
+        "this game. If it ends again before you can, type in the folder of the program: ballhaven-data set 1 "
+        "--history-set 100.");
 }
 
 TEST_F(TheLastWords, OfAFileNameItAndTheReason) {
     EXPECT_EQ(
         Told(RuntimeFailure("/data/LOTTOSYS", "Input/output error"), false),
         "File error: /data/LOTTOSYS\nInput/output error\n\nThe program ends. The files are as they were when they "
-        "were last saved. Make it possible to read and write this one, and start again.");
+        "were last saved. Make it possible to read and write this one, and start again. To start with another game, "
+        "such as the one in slot 2, type in the folder of the program: ballhaven-data set --shown 2.");
 }
 
 TEST_F(TheLastWords, OfAnyOtherFailureSayThatNothingWasSaved) {
