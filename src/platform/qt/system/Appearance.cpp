@@ -56,9 +56,11 @@ QPalette CalmPalette() {
 
 QFont ProgramFont() {
     QFont font;
-    // All have letters of the same widths, so that every caption has room in each of them.
+    // All have letters of the same widths, and the last one's are about as wide, so that every caption has room in each
+    // of them.
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"), QStringLiteral("Arial"),
-                      QStringLiteral("Nimbus Sans"), QStringLiteral("TeX Gyre Heros"), QStringLiteral("Helvetica")});
+                      QStringLiteral("Nimbus Sans"), QStringLiteral("TeX Gyre Heros"), QStringLiteral("Helvetica"),
+                      QStringLiteral("DejaVu Sans Condensed")});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(fontHeight);
     return font;

@@ -28,8 +28,8 @@ TEST(Appearance, TheFontIsTheOneThatTheProgramAsksFor) {
 }
 
 TEST(Appearance, FontsOfTheSameMeasuresStandInForTheFont) {
-    EXPECT_EQ(QApplication::font().families(),
-              (QStringList{"Liberation Sans", "Arimo", "Arial", "Nimbus Sans", "TeX Gyre Heros", "Helvetica"}));
+    EXPECT_EQ(QApplication::font().families(), (QStringList{"Liberation Sans", "Arimo", "Arial", "Nimbus Sans",
+                                                            "TeX Gyre Heros", "Helvetica", "DejaVu Sans Condensed"}));
 }
 
 TEST(Appearance, AFontOfTheDesktopDoesNotTakeTheProgramsPlace) {
