@@ -14,7 +14,12 @@ namespace {
 constexpr char quote = '"';
 constexpr std::size_t longestRecord = 65'536;
 
-constexpr std::array<char, 3> usualDelimiters = {',', ';', '\t'};
+struct NamedDelimiter {
+    char delimiter;
+    std::string_view name;
+};
+
+constexpr std::array<NamedDelimiter, 3> usualDelimiters = {{{',', "comma"}, {';', "semicolon"}, {'\t', "tab"}}};
 constexpr int linesToJudgeBy = 20;
 
 bool IsLineEnd(char character) {
@@ -165,7 +170,7 @@ bool CsvText::HasText() const {
 char RecognisedDelimiter(std::istream& bytes) {
     char best = 0;
     Division bestDivision;
-    for (const char delimiter : usualDelimiters) {
+    for (const auto& [delimiter, name] : usualDelimiters) {
         const Division division = DivisionBy(bytes, delimiter);
         if (division > bestDivision) {
             best = delimiter;
@@ -177,6 +182,22 @@ char RecognisedDelimiter(std::istream& bytes) {
         throw Refusal("no comma, semicolon or tab divides its lines into fields; name what does with --delimiter");
     }
     return best;
+}
+
+std::optional<char> DelimiterNamed(std::string_view name) {
+    const auto* const usual = std::ranges::find(usualDelimiters, name, &NamedDelimiter::name);
+    if (usual != usualDelimiters.end()) {
+        return usual->delimiter;
+    }
+    constexpr std::string_view marks = "!#$%&'()*+,-./:;<=>?@[\\]^_`{|}~";
+    return name == "\t" || (name.size() == 1 && marks.find(name.front()) != std::string_view::npos)
+               ? std::optional(name.front())
+               : std::nullopt;
+}
+
+std::string NameOfDelimiter(char delimiter) {
+    const auto* const usual = std::ranges::find(usualDelimiters, delimiter, &NamedDelimiter::delimiter);
+    return usual != usualDelimiters.end() ? std::string(usual->name) : std::string(1, delimiter);
 }
 
 void Rewind(std::istream& bytes) {

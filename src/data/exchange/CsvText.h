@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,6 +57,13 @@ class CsvText {
 /// The delimiter of a text, a comma, a semicolon or a tab: the one that most of the first lines agree on. Leaves the
 /// stream at its beginning. Throws Refusal where none divides them.
 [[nodiscard]] char RecognisedDelimiter(std::istream& bytes);
+
+/// The delimiter with a name: "comma", "semicolon", "tab", or any character of ASCII itself but letters, digits,
+/// quotes, blanks and control codes. None for any other text.
+[[nodiscard]] std::optional<char> DelimiterNamed(std::string_view name);
+
+/// What a delimiter is called.
+[[nodiscard]] std::string NameOfDelimiter(char delimiter);
 
 /// Puts a stream back to its beginning.
 void Rewind(std::istream& bytes);

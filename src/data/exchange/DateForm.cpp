@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 
 namespace ballhaven::data {
 
@@ -224,13 +223,6 @@ std::optional<year_month_day> DateIn(std::string_view text, DateOrder order) {
 
 int SerialOf(const year_month_day& date) {
     return static_cast<int>((sys_days{date} - dayOfSerial0).count());
-}
-
-std::string IsoText(int serial) {
-    const year_month_day date{dayOfSerial0 + std::chrono::days{serial}};
-    return modUTILS::ZeroPadded(static_cast<int>(date.year()), 4) + "-" +
-           modUTILS::ZeroPadded(static_cast<unsigned>(date.month()), 2) + "-" +
-           modUTILS::ZeroPadded(static_cast<unsigned>(date.day()), 2);
 }
 
 void DateOrderFinder::Look(std::string_view text, std::int64_t line) {

@@ -26,9 +26,6 @@ enum class DateOrder { monthFirst, dayFirst, yearFirst };
 /// The days from 1 January 1984 to a date of the calendar.
 [[nodiscard]] int SerialOf(const std::chrono::year_month_day& date);
 
-/// The date of a serial as year-month-day.
-[[nodiscard]] std::string IsoText(int serial);
-
 /// Finds the order of the dates of a column by looking at all of them.
 class DateOrderFinder {
   public:

@@ -39,7 +39,12 @@ DrawsOnFile ReadDraws(const std::string& directory, const GameOnFile& game) {
 }
 
 std::string ContentOf(const DrawsOnFile& file, const std::optional<std::string>& oldContent) {
-    std::string header = oldContent ? WholeRecord(RecordOf(*oldContent, headerRecord)) : StampedHeader("");
+    // A content of the older form, or none, is filled up, and gets the stamp as the program gives it.
+    const std::string_view old = oldContent ? std::string_view(*oldContent) : std::string_view();
+    std::string header = WholeRecord(RecordOf(old, headerRecord));
+    if (old.size() <= std::size_t{drawRecordLength} * olderDrawFileRecords) {
+        header = StampedHeader(header);
+    }
     if (file.digits == DateDigits::Five) {
         header = WithFiveDigits(header);
     }

@@ -144,9 +144,7 @@ std::string NewFile::PathOf(int copy) const {
 
 std::string NewFile::Save(std::string_view bytes) {
     const OpenFile directory(folder, FileAccess::Directory);
-    temporary->File().Write(bytes);
-    temporary->File().Flush();
-    temporary->File().Close();
+    Write(bytes);
     int copy = 1;
     while (!temporary->RenameToFree(PathOf(copy))) {
         if (++copy > mostCopies) {
@@ -155,6 +153,21 @@ std::string NewFile::Save(std::string_view bytes) {
     }
     directory.FlushEntries();
     return PathOf(copy);
+}
+
+void NewFile::SaveUnderItsName(std::string_view bytes) {
+    const OpenFile directory(folder, FileAccess::Directory);
+    Write(bytes);
+    if (!temporary->RenameToFree(PathOf(1))) {
+        Fail(EEXIST);
+    }
+    directory.FlushEntries();
+}
+
+void NewFile::Write(std::string_view bytes) const {
+    temporary->File().Write(bytes);
+    temporary->File().Flush();
+    temporary->File().Close();
 }
 
 }  // namespace ballhaven::platform

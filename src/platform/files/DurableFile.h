@@ -43,10 +43,14 @@ class NewFile {
     /// file then, except where the flush of the directory, the last step, has failed.
     std::string Save(std::string_view bytes);
 
+    /// The same under the name itself; throws std::system_error with EEXIST where something stands there.
+    void SaveUnderItsName(std::string_view bytes);
+
   private:
     class Temporary;
 
     [[nodiscard]] std::string PathOf(int copy) const;
+    void Write(std::string_view bytes) const;
 
     const std::string folder;
     const std::string stem;

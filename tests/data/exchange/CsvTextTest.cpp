@@ -125,5 +125,18 @@ TEST(RecognisedDelimiter, IsAskedForWhereNothingDividesTheLines) {
     EXPECT_THROW((void)DelimiterOf("\"a,b;c\n"), Refusal);
 }
 
+TEST(DelimiterNamed, TakesAWordOrTheCharacterItself) {
+    EXPECT_EQ(DelimiterNamed("comma"), ',');
+    EXPECT_EQ(DelimiterNamed("semicolon"), ';');
+    EXPECT_EQ(DelimiterNamed("tab"), '\t');
+    EXPECT_EQ(DelimiterNamed("\t"), '\t');
+    EXPECT_EQ(DelimiterNamed("|"), '|');
+    for (const char* name : {"", "a", "7", " ", "\"", "\n", "\r", "||", "\xE9", "colon"}) {
+        EXPECT_EQ(DelimiterNamed(name), std::nullopt) << name;
+    }
+    EXPECT_EQ(NameOfDelimiter('\t'), "tab");
+    EXPECT_EQ(NameOfDelimiter('|'), "|");
+}
+
 }  // namespace
 }  // namespace ballhaven::data

@@ -102,7 +102,6 @@ TEST(SerialOf, CountsFromTheFirstDayOf1984AsTheProgramDoes) {
     EXPECT_EQ(SerialOf(year_month_day{year{1983} / 12 / 31}), -1);
     for (int serial = 1; serial < 32'767; serial += 13) {
         const auto text = TextOfSerial(static_cast<std::int16_t>(serial), "y-m-d");
-        EXPECT_EQ(IsoText(serial), text);
         EXPECT_EQ(SerialOf(*DateIn(text, yearFirst)), serial);
     }
 }

@@ -34,7 +34,7 @@ TEST(DrawsOnFileTest, ARecordThatTheEndCutsIsReadAsFarAsItGoes) {
 
 TEST(DrawsOnFileTest, AContentHasEveryRowAndKeepsTheOldHeader) {
     const DrawsOnFile file{DateDigits::Four, {{9999, {1, 22}}, {12, {7, -1}}}};
-    const std::string content = ContentOf(file, Padded("10-26-2002 AB"));
+    const std::string content = ContentOf(file, Padded("10-26-2002 AB") + std::string(1000UL * 64, ' '));
     EXPECT_EQ(content.size(), 1001U * 64);
     EXPECT_EQ(content.substr(0, 4 * 64),
               Padded("10-26-2002 AB") + Padded("9999  1 22") + Padded("12    7") + Padded(""));
@@ -44,6 +44,12 @@ TEST(DrawsOnFileTest, AContentHasEveryRowAndKeepsTheOldHeader) {
 TEST(DrawsOnFileTest, ANewFileGetsTheHeaderOfItsForm) {
     EXPECT_EQ(ContentOf({}, std::nullopt).substr(0, 64), Padded("10-26-2002"));
     EXPECT_EQ(ContentOf({DateDigits::Five, {}}, std::nullopt).substr(0, 64), fiveDigitsHeader);
+}
+
+TEST(DrawsOnFileTest, AnEmptyContentAndOneOfTheOlderFormGetTheStamp) {
+    EXPECT_EQ(ContentOf({}, "").substr(0, 64), Padded("10-26-2002"));
+    EXPECT_EQ(ContentOf({}, Padded("AB") + std::string(100UL * 64, ' ')).substr(0, 64), Padded("10-26-2002"));
+    EXPECT_EQ(ContentOf({}, Padded("AB") + std::string(101UL * 64, ' ')).substr(0, 64), Padded("AB"));
 }
 
 TEST(DrawsOnFileTest, NoMoreThanAThousandDrawsAreInAContent) {

@@ -523,5 +523,21 @@ TEST_F(NewFileTest, GivesUpWhereNoNameIsFree) {
     EXPECT_EQ(directory.Files(), Files{});
 }
 
+TEST_F(NewFileTest, UnderItsOwnNameItTakesNoOther) {
+    const auto saveHere = [this] { NewFile(directory.Path(), "Draws", ".csv").SaveUnderItsName("draws"); };
+    saveHere();
+    EXPECT_EQ(directory.Files(), (Files{{"Draws.csv", "draws"}}));
+    directory.Write("Draws.csv", "the user's");
+    EXPECT_EQ(ErrorOf(saveHere), EEXIST);
+    EXPECT_EQ(directory.Files(), (Files{{"Draws.csv", "the user's"}}));
+}
+
+TEST_F(NewFileTest, UnderItsOwnNameItReachesTheDiskBeforeItBearsThat) {
+    support::WatchedFiles watched;
+    NewFile(directory.Path(), "Draws", ".csv").SaveUnderItsName("draws");
+    EXPECT_EQ(watched.Names(), (Names{"remove", "open CreateNew", "open Directory", "write", "flush", "close",
+                                      "renameToFree", "flush", "close"}));
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

@@ -1,0 +1,163 @@
+#include "data/ImportCommand.h"
+
+#include "data/exchange/CsvText.h"
+#include "data/exchange/DrawImport.h"
+#include "data/exchange/DrawMerge.h"
+#include "data/folder/DrawsOnFile.h"
+#include "data/folder/FolderFiles.h"
+#include "data/folder/GamesOnFile.h"
+#include "data/folder/IsoDate.h"
+#include "data/folder/Refusal.h"
+#include "state/MendedFolder.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <optional>
+#include <ranges>
+#include <system_error>
+
+namespace ballhaven::data {
+
+namespace {
+
+constexpr int lastDateOfFourDigits = 9999;
+constexpr std::size_t datesNamed = 20;
+
+/// A game of a folder as it stands before the import.
+struct Target {
+    GameOnFile game;
+    std::optional<std::string> content;  ///< of its file of draws
+    DrawsOnFile before;                  ///< with as many digits of its dates as the file is to have
+
+    [[nodiscard]] int LastDate() const {
+        return before.digits == DateDigits::Five ? std::numeric_limits<std::int16_t>::max() : lastDateOfFourDigits;
+    }
+};
+
+Target ReadTarget(const std::string& directory, const std::string& word) {
+    const std::vector<GameOnFile> games = ReadGames(directory);
+    Target target;
+    target.game = FindGame(games, word);
+    target.content = ReadFolderFile(directory, HistoryFileOf(target.game.slot));
+    target.before = DrawsOf(target.content.value_or(""), TotalPicksOf(target.game.rules));
+    if (IsMended(ReadFolderFile(directory, GameTableFile()).value_or(""))) {
+        target.before.digits = DateDigits::Five;
+    }
+    return target;
+}
+
+std::ifstream Opened(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    if (!error && std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+        throw Refusal(path + " is no file.");
+    }
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw Refusal(path + " cannot be opened: " + std::generic_category().message(errno) + ".");
+    }
+    return file;
+}
+
+std::string Count(std::int64_t number, const std::string& one) {
+    return std::to_string(number) + " " + one + (number == 1 ? "" : "s");
+}
+
+std::string Range(const std::vector<DrawOnFile>& draws) {
+    return draws.empty() ? std::string() : ", " + IsoDate(draws.front().date) + " to " + IsoDate(draws.back().date);
+}
+
+std::string Listed(const std::vector<int>& dates) {
+    std::string list;
+    for (const int date : dates | std::views::take(datesNamed)) {
+        list += (list.empty() ? "" : ", ") + IsoDate(date);
+    }
+    return list + (dates.size() > datesNamed ? " and " + std::to_string(dates.size() - datesNamed) + " more" : "");
+}
+
+/// Tells the faults of a file, and refuses it for them.
+void RefuseForFaults(const std::string& path, const FaultList& faults, std::ostream& notes) {
+    if (faults.Count() == 0) {
+        return;
+    }
+    for (const LineFault& fault : faults.First()) {
+        notes << path << ", line " << fault.line << ": " << fault.words << '\n';
+    }
+    const auto others = faults.Count() - std::ssize(faults.First());
+    if (others > 0) {
+        notes << path << ": and " << Count(others, "line") << " more\n";
+    }
+    throw Refusal(path + " has " + Count(faults.Count(), "line") +
+                  " that cannot be taken. Nothing was changed: correct or remove them, and try again.");
+}
+
+struct ImportedFile {
+    FileForm form;
+    ImportedDraws content;
+};
+
+ImportedFile ReadImportedFile(const ImportOptions& options, const Target& target) {
+    std::ifstream file = Opened(options.file);
+    try {
+        const FileForm form = RecognisedForm(file, options.form, TotalPicksOf(target.game.rules));
+        return {form, ImportDraws(file, form, target.game.rules, target.LastDate())};
+    } catch (const Refusal& refusal) {
+        throw Refusal(options.file + ": " + refusal.what() + ".");
+    }
+}
+
+void TellOfFile(const ImportOptions& options, const ImportedFile& file, std::ostream& out) {
+    out << options.file << " (" << NameOfDelimiter(file.form.delimiter) << (file.form.hasHeader ? ", header" : "")
+        << ", dates " << NameOf(file.form.dates) << "): " << Count(std::ssize(file.content.draws), "draw")
+        << Range(file.content.draws) << '\n';
+    if (file.content.incomplete > 0) {
+        out << "  " << Count(file.content.incomplete, "draw") << " without all picks\n";
+    }
+}
+
+void TellOfMerge(const Target& target, const MergedDraws& merged, bool replaces, std::ostream& out) {
+    out << "Slot " << target.game.slot << ", " << target.game.Title() << ": "
+        << Count(std::ssize(target.before.draws), "draw") << " before\n"
+        << "  new: " << merged.added << '\n';
+    if (!merged.alike.empty()) {
+        out << "  there already with the same picks: " << merged.alike.size() << " (" << Listed(merged.alike) << ")\n";
+    }
+    if (!merged.different.empty()) {
+        out << "  there already with other picks, "
+            << (replaces ? "replaced" : "left alone (--replace takes those of the file)") << ": "
+            << merged.different.size() << " (" << Listed(merged.different) << ")\n";
+    }
+    if (!merged.leftOut.empty()) {
+        out << "  left out, since a game keeps the newest " << historyRows << ": " << merged.leftOut.size()
+            << ", up to " << IsoDate(merged.leftOut.back());
+        if (merged.leftOutOfGame > 0) {
+            out << ", " << merged.leftOutOfGame << " of them from the game";
+        }
+        out << '\n';
+    }
+    out << "  then: " << Count(std::ssize(merged.draws), "draw") << Range(merged.draws) << '\n';
+}
+
+}  // namespace
+
+void ImportFile(const WorkFolder& folder, const ImportOptions& options, const Console& console) {
+    const Target target = ReadTarget(folder.Path(), options.game);
+    const ImportedFile file = ReadImportedFile(options, target);
+    RefuseForFaults(options.file, file.content.faults, console.notes);
+    const MergedDraws merged = Merged(target.before.draws, file.content.draws, options.replaces);
+    TellOfFile(options, file, console.out);
+    TellOfMerge(target, merged, options.replaces, console.out);
+    if (!merged.changesGame) {
+        console.out << "There is nothing to change.\n";
+    } else if (!options.applies) {
+        console.out << "Nothing was changed: this is what would happen. Add --apply to do it.\n";
+    } else {
+        const std::string content = ContentOf({target.before.digits, merged.draws}, target.content);
+        const std::string copy = folder.Change({{HistoryFileOf(target.game.slot).name, content}}, "import");
+        console.out << "Done. What the game held before is kept in " << copy << ".\n";
+    }
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,68 @@
+#include "data/folder/NewOutput.h"
+
+#include "data/folder/Refusal.h"
+#include "support/TemporaryDirectory.h"
+#include "support/WatchedFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+
+namespace ballhaven::data {
+namespace {
+
+using Files = std::map<std::string, std::string>;
+
+std::string RefusalOf(const std::string& path) {
+    try {
+        SaveNewOutput(path, "bytes");
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    }
+    return "none";
+}
+
+TEST(SaveNewOutput, MakesTheFileWhole) {
+    const support::TemporaryDirectory directory;
+    SaveNewOutput(directory / "draws.csv", "bytes");
+    EXPECT_EQ(directory.Files(), (Files{{"draws.csv", "bytes"}}));
+}
+
+TEST(SaveNewOutput, APathWithoutAFolderIsOneOfTheCurrentFolder) {
+    const support::TemporaryDirectory directory;
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(directory.Path());
+    SaveNewOutput("draws.csv", "bytes");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(directory.Files(), (Files{{"draws.csv", "bytes"}}));
+}
+
+TEST(SaveNewOutput, OverwritesNothing) {
+    const support::TemporaryDirectory directory;
+    directory.Write("draws.csv", "the user's");
+    EXPECT_EQ(RefusalOf(directory / "draws.csv"),
+              directory / "draws.csv is there already, and is not overwritten. Name another file.");
+    EXPECT_EQ(directory.Files(), (Files{{"draws.csv", "the user's"}}));
+}
+
+TEST(SaveNewOutput, OnAFullDiskThereIsNoFile) {
+    const support::TemporaryDirectory directory;
+    for (std::size_t room = 0; room < 5; ++room) {
+        support::WatchedFiles watched;
+        watched.room = room;
+        EXPECT_EQ(RefusalOf(directory / "draws.csv"),
+                  directory / "draws.csv could not be made: No space left on device.");
+        EXPECT_EQ(directory.Files(), Files{});
+    }
+}
+
+TEST(SaveNewOutput, AFolderThatIsNotThereIsNotMade) {
+    const support::TemporaryDirectory directory;
+    EXPECT_EQ(RefusalOf(directory / "missing/draws.csv"),
+              directory / "missing/draws.csv could not be made: No such file or directory.");
+    EXPECT_EQ(directory.Files(), Files{});
+}
+
+}  // namespace
+}  // namespace ballhaven::data
