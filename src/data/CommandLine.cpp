@@ -2,7 +2,9 @@
 
 #include "data/ExportCommand.h"
 #include "data/GamesCommand.h"
+#include "data/GuaranteeCommand.h"
 #include "data/ImportCommand.h"
+#include "data/WinnersCommand.h"
 #include "data/exchange/CsvText.h"
 #include "data/folder/Refusal.h"
 #include "data/folder/WorkFolder.h"
@@ -29,6 +31,8 @@ class Commands {
         AddGames();
         AddImport();
         AddExport();
+        AddWinners();
+        AddGuarantee();
     }
 
     /// Reads the line and runs its command. Throws CLI::ParseError and Refusal.
@@ -94,6 +98,45 @@ class Commands {
         command.callback([this] { ExportGame(WorkFolder(folder), exporting, console); });
     }
 
+    void AddWinners() {
+        CLI::App& command = Add("winners", "Tells how often the plays of a game have hit how much in its draws",
+                                "winners Lotto --from 2010-01-01 --top 10");
+        AddGame(command, winners.game);
+        command.add_flag("--draws-as-tickets", winners.drawsAsTickets, "Holds past draws against the draws, not plays");
+        command.add_option("--from", winners.from, "The first day of the draws: 2010-01-01");
+        command.add_option("--to", winners.to, "The last day of the draws");
+        command.add_option("--last", winners.last, "Takes of these draws so many of the newest alone")
+            ->check(CLI::PositiveNumber);
+        command.add_option("--top", winners.top, "How many winners are told, the best first; else 20, or all as CSV")
+            ->check(CLI::PositiveNumber);
+        command.add_flag("--csv", winners.csv, "Tells the winners alone, as CSV");
+        command.callback([this] { ShowWinners(WorkFolder(folder), winners, console); });
+    }
+
+    void AddGuarantee() {
+        CLI::App& command =
+            Add("guarantee",
+                "Reckons what the plays of a game guarantee: the sets of the chosen numbers that no play hits, and "
+                "in how many plays the others hit at least",
+                "guarantee Lotto --numbers 1-16 --drawn 5 --hits 4 --proof missed.csv");
+        AddGame(command, guarantee.game);
+        command.add_option("--numbers", guarantee.numbers,
+                           "The chosen numbers; without it those of the plays: 3,7,20-25");
+        command.add_flag("--chosen", guarantee.chosenPicks, "The chosen numbers are those chosen for the wheels")
+            ->excludes("--numbers");
+        command.add_option("-m,--drawn", guarantee.drawn, "How many of the chosen numbers are drawn")
+            ->check(CLI::PositiveNumber);
+        command.add_option("-t,--hits", guarantee.hits, "How many of them a play has to hold")
+            ->check(CLI::PositiveNumber);
+        command
+            .add_option("--proof", guarantee.proof,
+                        "A new file for the sets that no play hits, or, where there are none, for a play of each set")
+            ->option_text("FILE")
+            ->needs("--drawn")
+            ->needs("--hits");
+        command.callback([this] { ShowGuarantee(folder, guarantee, console); });
+    }
+
     /// An option whose text `read` turns into a value; a text that is none is wrong usage.
     template <typename Value>
     static void AddChecked(CLI::App& command, const std::string& name, const std::string& what,
@@ -110,6 +153,8 @@ class Commands {
     std::string folder;
     ImportOptions importing;
     ExportOptions exporting;
+    WinnersOptions winners;
+    GuaranteeOptions guarantee;
     const Console& console;
     CLI::App app{"Takes draws in and out of a Ballhaven folder, checks it and copies it."};
 };

@@ -6,14 +6,13 @@
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
 #include "state/modUTILS.h"
+#include "wheels/ChosenRecord.h"
 
 #include <system_error>
 
 namespace ballhaven::data {
 
 namespace {
-
-constexpr int chosenPicksRecordLength = 320;
 
 FolderFile FileOfSlot(const std::string& stem, int slot, int recordCount) {
     return {stem + modUTILS::ZeroPadded(slot, 2) + ".CDB", gameRecordLength, recordCount};
@@ -34,7 +33,7 @@ FolderFile PlayFileOf(int slot) {
 }
 
 FolderFile ChosenPicksFile() {
-    return {"SHUFFLE.CDB", chosenPicksRecordLength, 2 * gameSlots};
+    return {"SHUFFLE.CDB", chosenRecordLength, 2 * gameSlots};
 }
 
 std::vector<FolderFile> AllFolderFiles() {

@@ -1,12 +1,32 @@
 #pragma once
 
+#include "platform/files/DurableFile.h"
+
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace ballhaven::data {
 
-/// Makes a file of these bytes under a path that the user named, whole or not at all. Throws Refusal where something
-/// stands there already, and where the file cannot be made.
+/// A file under a path that the user named. It comes into being whole, and never in another one's place.
+class NewOutput {
+  public:
+    /// Throws Refusal where something stands there already, and where the file cannot be made.
+    explicit NewOutput(std::string userPath);
+
+    /// Puts text behind what the file has. Throws Refusal where it cannot be written.
+    void Add(std::string_view more);
+
+    /// Gives the file its name. Throws Refusal; there is no file then.
+    void Save();
+
+  private:
+    std::string path;
+    std::unique_ptr<platform::NewFile> file;
+    std::string text;  ///< not written yet
+};
+
+/// Makes a file of these bytes under a path that the user named, whole or not at all. Throws Refusal as above.
 void SaveNewOutput(const std::string& path, std::string_view bytes);
 
 }  // namespace ballhaven::data

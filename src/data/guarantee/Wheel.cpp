@@ -43,6 +43,14 @@ Wheel WheelOf(const GameRules& rules, const PlayPicks& plays, const std::vector<
     return wheel;
 }
 
+std::vector<int> NumbersAt(const Wheel& wheel, std::span<const int> places) {
+    std::vector<int> numbers;
+    for (const int place : places) {
+        numbers.push_back(wheel.numbers[static_cast<std::size_t>(place)]);
+    }
+    return numbers;
+}
+
 std::vector<int> ChosenNumbers(const GameRules& rules, const ChosenPicks& chosen) {
     std::set<int> numbers;
     for (const std::int16_t cell : chosen.Slots(mainPicks)) {

@@ -3,6 +3,7 @@
 #include "state/AppState.h"
 #include "state/GameRules.h"
 
+#include <span>
 #include <vector>
 
 namespace ballhaven::data {
@@ -17,6 +18,9 @@ struct Wheel {
 
 /// The wheel of the plays over the chosen numbers, ascending; without any, over all that its plays hold.
 [[nodiscard]] Wheel WheelOf(const GameRules& rules, const PlayPicks& plays, const std::vector<int>& chosen);
+
+/// The chosen numbers at some of their places.
+[[nodiscard]] std::vector<int> NumbersAt(const Wheel& wheel, std::span<const int> places);
 
 /// The main picks that were chosen for wheels, ascending, each once.
 [[nodiscard]] std::vector<int> ChosenNumbers(const GameRules& rules, const ChosenPicks& chosen);

@@ -144,7 +144,7 @@ std::string NewFile::PathOf(int copy) const {
 
 std::string NewFile::Save(std::string_view bytes) {
     const OpenFile directory(folder, FileAccess::Directory);
-    Write(bytes);
+    Finish(bytes);
     int copy = 1;
     while (!temporary->RenameToFree(PathOf(copy))) {
         if (++copy > mostCopies) {
@@ -157,15 +157,19 @@ std::string NewFile::Save(std::string_view bytes) {
 
 void NewFile::SaveUnderItsName(std::string_view bytes) {
     const OpenFile directory(folder, FileAccess::Directory);
-    Write(bytes);
+    Finish(bytes);
     if (!temporary->RenameToFree(PathOf(1))) {
         Fail(EEXIST);
     }
     directory.FlushEntries();
 }
 
-void NewFile::Write(std::string_view bytes) const {
+void NewFile::Add(std::string_view bytes) {
     temporary->File().Write(bytes);
+}
+
+void NewFile::Finish(std::string_view bytes) {
+    Add(bytes);
     temporary->File().Flush();
     temporary->File().Close();
 }

@@ -27,8 +27,8 @@ struct FileHead {
 /// std::system_error; the file is the old one then, except where the flush of the directory, the last step, has failed.
 void ReplaceHead(const std::string& path, std::string_view head, std::int64_t tailOffset);
 
-/// A file that comes into being whole, and never in another one's place. Until it is saved it is empty and its name
-/// ends in ".new"; at the end of the scope it is gone, unless it was saved.
+/// A file that comes into being whole, and never in another one's place. Until it is saved its name ends in
+/// ".new"; at the end of the scope it is gone, unless it was saved.
 class NewFile {
   public:
     /// Begins a file in a folder, with a name of two parts such as "Report" and ".pdf". Removes what a crash left of an
@@ -38,9 +38,13 @@ class NewFile {
     NewFile(const NewFile&) = delete;
     NewFile& operator=(const NewFile&) = delete;
 
-    /// Saves the file with these bytes, for the user alone to read, under the first name that is free: "Report.pdf",
-    /// else "Report (2).pdf", and so on. Returns its path when it is on the disk. Throws std::system_error; there is no
-    /// file then, except where the flush of the directory, the last step, has failed.
+    /// Puts the first bytes of the file, and then those behind them; what is added last can come with the save. Throws
+    /// std::system_error.
+    void Add(std::string_view bytes);
+
+    /// Saves the file with these bytes at its end, for the user alone to read, under the first name that is free:
+    /// "Report.pdf", else "Report (2).pdf", and so on. Returns its path when it is on the disk. Throws
+    /// std::system_error; there is no file then, except where the flush of the directory, the last step, has failed.
     std::string Save(std::string_view bytes);
 
     /// The same under the name itself; throws std::system_error with EEXIST where something stands there.
@@ -50,7 +54,7 @@ class NewFile {
     class Temporary;
 
     [[nodiscard]] std::string PathOf(int copy) const;
-    void Write(std::string_view bytes) const;
+    void Finish(std::string_view bytes);
 
     const std::string folder;
     const std::string stem;

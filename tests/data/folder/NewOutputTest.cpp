@@ -64,5 +64,47 @@ TEST(SaveNewOutput, AFolderThatIsNotThereIsNotMade) {
     EXPECT_EQ(directory.Files(), Files{});
 }
 
+TEST(NewOutput, HasItsNameWhenItIsSavedAndItsTextInOrder) {
+    const support::TemporaryDirectory directory;
+    NewOutput output(directory / "proof.csv");
+    std::string all;
+    for (int piece = 0; piece < 30; ++piece) {
+        const std::string text(100'000, static_cast<char>('a' + piece % 26));
+        output.Add(text);
+        all += text;
+    }
+    EXPECT_FALSE(directory.Has("proof.csv"));
+
+    output.Save();
+    EXPECT_EQ(directory.Files(), (Files{{"proof.csv", all}}));
+}
+
+TEST(NewOutput, WithoutASaveThereIsNoFile) {
+    const support::TemporaryDirectory directory;
+    {
+        NewOutput output(directory / "proof.csv");
+        output.Add(std::string(3 << 20, 'x'));
+        EXPECT_TRUE(directory.Has("proof.csv.new"));
+    }
+    EXPECT_EQ(directory.Files(), Files{});
+}
+
+TEST(NewOutput, ANameThatIsTakenMeanwhileIsRefusedToo) {
+    const support::TemporaryDirectory directory;
+    NewOutput output(directory / "proof.csv");
+    directory.Write("proof.csv", "the user's");
+
+    EXPECT_THROW(output.Save(), Refusal);
+    EXPECT_EQ(directory.Read("proof.csv"), "the user's");
+}
+
+TEST(NewOutput, AFullDiskIsToldWhereverItIsMet) {
+    const support::TemporaryDirectory directory;
+    NewOutput output(directory / "proof.csv");
+    support::WatchedFiles watched;
+    watched.room = 1000;
+    EXPECT_THROW(output.Add(std::string(3 << 20, 'x')), Refusal);
+}
+
 }  // namespace
 }  // namespace ballhaven::data

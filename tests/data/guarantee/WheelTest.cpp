@@ -57,6 +57,13 @@ TEST(Wheel, EmptyPlaysMakeAWheelOfNothing) {
     EXPECT_TRUE(wheel.partPlays.empty());
 }
 
+TEST(Wheel, PlacesStandForItsNumbers) {
+    const Wheel wheel{.numbers = {7, 12, 41}};
+
+    EXPECT_EQ(NumbersAt(wheel, Numbers{0, 2}), (Numbers{7, 41}));
+    EXPECT_EQ(NumbersAt(wheel, {}), Numbers{});
+}
+
 TEST(Wheel, ThePicksThatWereChosenForWheelsAreCellsToo) {
     ChosenPicks chosen;
     chosen(mainPicks, 1) = 40;

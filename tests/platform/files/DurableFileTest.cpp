@@ -539,5 +539,15 @@ TEST_F(NewFileTest, UnderItsOwnNameItReachesTheDiskBeforeItBearsThat) {
                                       "renameToFree", "flush", "close"}));
 }
 
+TEST_F(NewFileTest, WhatIsAddedStandsBeforeWhatIsSaved) {
+    NewFile file(directory.Path(), "Draws", ".csv");
+    file.Add("first ");
+    file.Add("second ");
+    EXPECT_EQ(directory.Files(), (Files{{"Draws.csv.new", "first second "}}));
+
+    file.SaveUnderItsName("third");
+    EXPECT_EQ(directory.Files(), (Files{{"Draws.csv", "first second third"}}));
+}
+
 }  // namespace
 }  // namespace ballhaven::platform

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "data/Console.h"
+#include "data/folder/WorkFolder.h"
+
+#include <optional>
+#include <string>
+
+namespace ballhaven::data {
+
+/// What a user wants to have held against which draws of a game.
+struct WinnersOptions {
+    std::string game{};           ///< slot or name
+    bool drawsAsTickets = false;  ///< its draws themselves, instead of its plays
+    std::string from{};           ///< the first and the last day of the draws, year-month-day; empty for no limit
+    std::string to{};
+    int last = 0;              ///< the newest so many draws of those; 0 for all
+    std::optional<int> top{};  ///< how many winners are told
+    bool csv = false;          ///< the winners alone, as CSV
+};
+
+/// Tells how often the plays of a game have hit how much in its draws, and the best of them. Without `top` it tells of
+/// 20, as CSV of all. Throws Refusal.
+void ShowWinners(const WorkFolder& folder, const WinnersOptions& options, const Console& console);
+
+}  // namespace ballhaven::data
