@@ -9,6 +9,7 @@
 #include "platform/controls/Keys.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
+#include "state/MendedFolder.h"
 #include "state/modUTILS.h"
 
 #include <string>
@@ -55,9 +56,6 @@ void Save() {
     SaveGameRecord(appState.gameDialogSlot);
     appState.currentGame = appState.gameDialogSlot;
     ListGames();
-    // QUIRK GAME-DIALOG-MODE-1: the mode stays as it is, so the main window loads the game anew not only when it comes
-    // back now, but each time it comes back from another window, until the dialog is cancelled. The first of these
-    // loads is what shows the game: clearing the mode here would leave the old game's tables on screen.
     frmNewGame.saved = true;
     frmNewGame.window.Unload();
 }
@@ -66,9 +64,10 @@ void Save() {
 void Unload() {
     if (!frmNewGame.saved) {
         // QUIRK GAME-CANCEL-1: after an add the game variables describe the free slot, while the main window still
-        // shows the old game's draws and tables, until the next switch. Habits rest on it.
+        // shows the old game's draws and tables, until the next switch. Habits rest on it. In a mended folder they are
+        // those of the game that is shown: with the others a history set chosen now would be stored over its record.
         appState.gameDialogMode = 0;
-        LoadGameRecord(appState.gameDialogSlot);
+        LoadGameRecord(FolderIsMended() ? appState.currentGame : appState.gameDialogSlot);
     }
 }
 

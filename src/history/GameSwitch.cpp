@@ -66,10 +66,10 @@ void ShowHotTableFromTheTop() {
 
 void EmptyTables() {
     appState.historyView = Table(appState.totalPicks + 1, 1);
-    appState.hotNumberTable = Table(4, 1);
-    appState.hotPairTable = Table(4, 1);
-    appState.pairedOnceTable = Table(3, 1);
-    appState.repeaterTable = Table(3, 1);
+    appState.hotNumberTable = CountTable(4, 1);
+    appState.hotPairTable = CountTable(4, 1);
+    appState.pairedOnceTable = CountTable(3, 1);
+    appState.repeaterTable = CountTable(3, 1);
 }
 
 /// The row of the newest draw in a view up to `last`.

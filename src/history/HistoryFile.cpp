@@ -48,9 +48,14 @@ void LoadHistory() {
     const DateDigits digits = DateDigitsOf(file.Read(headerRecord));
     appState.HistoryTable = Table(1 + appState.totalPicks, historyRows);
     appState.historyLast = -1;
+    const bool closesGaps = FolderIsMended();
     std::string padded;
     for (int row = 0; row < historyRows; ++row) {
-        if (DecodeDraw(file.View(firstDrawRecord + row, padded), digits, appState.HistoryTable.Row(row))) {
+        // QUIRK HISTORY-GAPS-1: a row keeps its place in the file, while the last one is found by counting the draws:
+        // one date that cannot be read hides the newest draw, and the next new one takes its place. Files rest on the
+        // places. In a mended folder the rows close up.
+        const int place = closesGaps ? appState.historyLast + 1 : row;
+        if (DecodeDraw(file.View(firstDrawRecord + row, padded), digits, appState.HistoryTable.Row(place))) {
             ++appState.historyLast;
         }
     }

@@ -98,7 +98,7 @@ bool PrintPlays(ReportPage& page, const SectionHead& head, const PlayPicks& play
 void playSlipReport() {
     const bool hasBonus = HasBonus(appState.gameType);
     const std::int16_t last = LastUsedPlay(appState.PlayTable, hasBonus);
-    sortPlaysForReport(last);
+    const PlayPicks plays = sortPlaysForReport(last);
     platform::Printer printer(platform::services.openPrinter(ReportTitle("Play Slips")));
     ReportPage page(printer);
     if (!page.Begin()) {
@@ -110,7 +110,7 @@ void playSlipReport() {
         page.PrintRemark("No Plays Found");
     }
     const PickCounts counts{appState.mainPickCount, hasBonus ? appState.bonusPickCount : 0};
-    if (PrintPlays(page, head, appState.PlayTable, last, counts)) {
+    if (PrintPlays(page, head, plays, last, counts)) {
         printer.EndDoc();
     }
 }

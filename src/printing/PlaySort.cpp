@@ -1,6 +1,7 @@
 #include "printing/PlaySort.h"
 
 #include "state/GameRecordColumns.h"
+#include "state/MendedFolder.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -26,9 +27,6 @@ void SortSlots(std::span<const std::int16_t> slots, int count, int high, int mos
 
 }  // namespace
 
-// QUIRK PLAY-SORT-1: cells that get no pick hold 0, the first cell of the board, and not -1, in all 5000 plays, which
-// also lose the way in which they were made. The report that is printed next finds all of them in use, and the next
-// save takes them to the file. Habits rest on it.
 PlayPicks SortedPlays(const PlayPicks& plays, int lastUsedPlay, const PlaySortRules& rules) {
     PlayPicks sorted;
     for (int play = 1; play <= lastUsedPlay; ++play) {
@@ -40,14 +38,22 @@ PlayPicks SortedPlays(const PlayPicks& plays, int lastUsedPlay, const PlaySortRu
     return sorted;
 }
 
-void sortPlaysForReport(int lastUsedPlay) {
+PlayPicks sortPlaysForReport(int lastUsedPlay) {
     if (lastUsedPlay == 0 || FieldText(appState.gameRecord, gameField::order) == "Y") {
-        return;
+        return appState.PlayTable;
     }
     const int bonusCount = HasBonus(appState.gameType) ? appState.bonusPickCount : 0;
-    appState.PlayTable =
+    PlayPicks sorted =
         SortedPlays(appState.PlayTable, lastUsedPlay,
                     {appState.mainPickCount, bonusCount, appState.totalPicks, appState.mainHigh, appState.bonusHigh});
+    // QUIRK PLAY-SORT-1: the plays in memory are sorted. Cells that get no pick hold 0, the first cell of the board,
+    // and not -1, in all 5000 plays, which also lose the way in which they were made. The report that is printed next
+    // finds all of them in use, and the next save takes them to the file. Files and habits rest on it. In a mended
+    // folder only what is printed is sorted.
+    if (!FolderIsMended()) {
+        appState.PlayTable = sorted;
+    }
+    return sorted;
 }
 
 }  // namespace ballhaven

@@ -17,8 +17,9 @@ struct PlaySortRules {
 /// above the highest pick are left out. All its other cells hold 0.
 [[nodiscard]] PlayPicks SortedPlays(const PlayPicks& plays, int lastUsedPlay, const PlaySortRules& rules);
 
-/// Sorts the picks of `PlayTable` in memory, up to the last used play (0 for none), as `SortedPlays` does; neither
-/// where there is none nor in a game whose order matters. `playsDirty` stays as it is.
-void sortPlaysForReport(int lastUsedPlay);
+/// The plays as they are printed, up to the last used play (0 for none): as `SortedPlays` gives them, but as they are
+/// where there is none and in a game whose order matters. `PlayTable` takes them; in a mended folder it stays as it is.
+/// `playsDirty` stays as it is.
+PlayPicks sortPlaysForReport(int lastUsedPlay);
 
 }  // namespace ballhaven

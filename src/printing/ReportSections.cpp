@@ -52,8 +52,8 @@ const SectionWords& WordsOf(ReportSection section, int gameType) {
 }
 
 /// The cells of a row of a section's hot table, of which there must be so many.
-std::span<const std::int16_t> CellsOf(ReportSection section, int row, std::size_t count) {
-    const std::span<const std::int16_t> cells = CellsOfRow(TableOfSection(section), row);
+std::span<const std::int32_t> CellsOf(ReportSection section, int row, std::size_t count) {
+    const std::span<const std::int32_t> cells = CellsOfRow(TableOfSection(section), row);
     if (cells.size() < count) {
         throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
     }
@@ -78,10 +78,11 @@ std::optional<ReportLine> LogRow(const Table& view, int row, int picks) {
 
 ReportLine FiguresRow(ReportSection section, const std::string& picks, int games, int hits) {
     const auto& columns = sectionWords.at(static_cast<std::size_t>(section)).rowColumns;
+    const FigureRange figures = FiguresOfFolder();
     return {{columns[0], picks},
             {columns[1], std::to_string(hits)},
-            {columns[2], std::to_string(HotPercentage(games, hits)) + "%"},
-            {columns[3], IntervalText(games, hits)}};
+            {columns[2], std::to_string(HotPercentage(games, hits, figures)) + "%"},
+            {columns[3], IntervalText(games, hits, figures)}};
 }
 
 }  // namespace

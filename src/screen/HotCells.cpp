@@ -6,7 +6,6 @@
 #include "state/GameRules.h"
 #include "state/PickText.h"
 #include "state/modUTILS.h"
-#include "statistics/HotFigures.h"
 #include "statistics/HotTables.h"
 
 #include <array>
@@ -48,8 +47,8 @@ BoxRange CountedBoxes(CountedPicks counted, const GameRules& rules) {
 
 }  // namespace
 
-std::optional<std::string> HotCellText(HotTable table, std::span<const std::int16_t> cells, int column, int games,
-                                       int gameType) {
+std::optional<std::string> HotCellText(HotTable table, std::span<const std::int32_t> cells, int column, int games,
+                                       int gameType, FigureRange figures) {
     const auto [isPair, isCounted] = rowLayouts.at(static_cast<std::size_t>(table) - 1);
     const std::size_t picks = isPair ? 2 : 1;
     if (cells.size() < picks + (isCounted ? 1 : 0)) {
@@ -62,15 +61,15 @@ std::optional<std::string> HotCellText(HotTable table, std::span<const std::int1
     if (!isCounted) {
         return std::string();
     }
-    const std::int16_t hits = cells[picks];
+    const std::int32_t hits = cells[picks];
     if (column == 1) {
         return std::to_string(hits);
     }
     if (column == 2) {
-        return std::to_string(HotPercentage(games, hits));
+        return std::to_string(HotPercentage(games, hits, figures));
     }
     // A pair whose lower pick lies below the main picks leaves a row of zeros, which has no interval to tell.
-    return table == HotTable::HotPairs && hits == 0 ? std::string() : IntervalText(games, hits);
+    return table == HotTable::HotPairs && hits == 0 ? std::string() : IntervalText(games, hits, figures);
 }
 
 platform::Color SuitColor(std::string_view cards) {
@@ -96,7 +95,7 @@ std::optional<std::string> HotCellValue(int row, int column) {
         return std::nullopt;
     }
     return HotCellText(ShownHotTable(), CellsOfRow(ShownHotTable(), row), column, appState.historyViewLast + 1,
-                       appState.gameType);
+                       appState.gameType, FiguresOfFolder());
 }
 
 void HotCellStyle(int row, int column, platform::CellStyle& style) {

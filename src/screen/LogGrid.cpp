@@ -10,6 +10,7 @@
 #include "screen/LogCells.h"
 #include "state/AppState.h"
 #include "state/GameRules.h"
+#include "state/MendedFolder.h"
 #include "statistics/HotTables.h"
 
 namespace ballhaven {
@@ -27,8 +28,14 @@ bool AcceptPick(int column, const std::string& text) {
     return false;
 }
 
+// QUIRK LOG-DIRTY-1: a press of the mouse marks the history as changed, whether anything is changed after it or not,
+// and typing alone does not. Marking on each typed pick would write the file for a cell that was only tried. In a
+// mended folder that is the lesser evil.
 void TakePick(int column, const std::string& text) {
     PostLogEdit(column, text);
+    if (FolderIsMended()) {
+        appState.historyDirty = true;
+    }
     ComputeHotTable();
     if (column == appState.totalPicks) {
         frmMainForm.grdHist.ReadAgain();
@@ -71,8 +78,6 @@ void SelectRowByMargin(int x, int y) {
     }
 }
 
-// QUIRK LOG-DIRTY-1: a press of the mouse marks the history as changed, whether anything is changed after it or not,
-// and typing alone does not. Marking on each typed pick would write the file for a cell that was only tried.
 void TakePress(int x, int y) {
     appState.historyDirty = true;
     SelectRowByMargin(x, y);

@@ -17,6 +17,7 @@
 #include "screen/MainMenu.h"
 #include "screen/Selectors.h"
 #include "state/AppState.h"
+#include "state/MendedFolder.h"
 #include "state/modUTILS.h"
 
 #include <exception>
@@ -60,6 +61,13 @@ void ReloadGame() {
     const platform::GridPause pause(frmMainForm.grdHist);
     SaveBeforeReload();
     SwitchGame();
+    // QUIRK GAME-DIALOG-MODE-1: the mode that "Save" leaves stands, so the main window loads the game anew not only
+    // now, but each time it comes back from another window, until the dialog is cancelled. This first load is what
+    // shows the game: clearing the mode before it would leave the old game's tables on screen. In a mended folder it is
+    // the only one.
+    if (FolderIsMended()) {
+        appState.gameDialogMode = 0;
+    }
 }
 
 void Activate() {

@@ -119,15 +119,15 @@ struct AppState {
     std::string logDateText;          ///< of the cell whose date is being changed
 
     // Statistics
-    Table hotNumberTable;  ///< columns 1 the pick, 2 the hits
+    CountTable hotNumberTable;  ///< columns 1 the pick, 2 the hits
     std::int16_t hotNumberLast = 0;
-    Table hotPairTable;  ///< columns 1 and 2 the picks, 3 the hits
+    CountTable hotPairTable;  ///< columns 1 and 2 the picks, 3 the hits
     std::int16_t hotPairLast = 0;
-    Table pairedOnceTable;  ///< columns 1 and 2 the picks
+    CountTable pairedOnceTable;  ///< columns 1 and 2 the picks
     std::int16_t pairedOnceLast = 0;
-    Table repeaterTable;  ///< columns 1 the pick, 2 the repeats
+    CountTable repeaterTable;  ///< columns 1 the pick, 2 the repeats
     std::int16_t repeaterLast = 0;
-    std::vector<std::int16_t> noHitterTable;
+    std::vector<std::int32_t> noHitterTable;
     std::int16_t noHitterLast = 0;
     bool hotPairStale = false;
     bool pairedOnceStale = false;

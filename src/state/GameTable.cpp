@@ -3,6 +3,7 @@
 #include "state/GameRecord.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameRules.h"
+#include "state/MendedFolder.h"
 #include "state/RecordFile.h"
 
 #include <string_view>
@@ -55,8 +56,9 @@ void LoadGameRecord(int slot) {
     // QUIRK LOAD-STORES-UNDER-CURRENT-1: the record is stored under the current game, not under the slot that was
     // asked for. Adding a game while another one is current gives up the current game's slot, which the list shows as
     // "un-defined" from then on, while its draws and plays stay. A guard, or storing under `slot`, would leave a table
-    // in which that slot is still configured.
-    SaveGameRecord(appState.currentGame);
+    // in which that slot is still configured: that is what a mended folder has.
+    const int storedUnder = FolderIsMended() ? slot : appState.currentGame;
+    SaveGameRecord(storedUnder);
 
     appState.historySortOrder = FieldValue(appState.systemRecord, systemField::sortOrder);
     appState.nextLogDate = 0;
@@ -66,7 +68,7 @@ void LoadGameRecord(int slot) {
     appState.currentPlay = 1;
     if (!HasConversionMark(appState.gameRecord)) {
         appState.gameRecord = WithConversionMark(appState.gameRecord);
-        SaveGameRecord(appState.currentGame);
+        SaveGameRecord(storedUnder);
     }
     TakeRules(RulesOf(appState.gameRecord));
     appState.historySetSize = HistorySetOf(appState.gameRecord);

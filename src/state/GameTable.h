@@ -15,7 +15,7 @@ void OpenGameTable();
 void SaveSystemRecord();
 
 /// Reads the record of a slot (1 to 20) into `gameRecord`, converts one of an older form, and fills the game variables.
-/// The record is stored under `currentGame`, whatever the slot.
+/// The record is stored under `currentGame`, whatever the slot; in a mended folder under the slot.
 void LoadGameRecord(int slot);
 
 /// Writes `gameRecord` as the record of a slot (1 to 20).

@@ -9,14 +9,15 @@
 
 namespace ballhaven {
 
-/// A two-dimensional table of 16-bit integers, addressed by column and row from 0. A table that was never dimensioned
-/// has no columns and no rows.
-class Table {
+/// A two-dimensional table of integers, addressed by column and row from 0. A table that was never dimensioned has no
+/// columns and no rows.
+template <typename Cell>
+class TableOfCells {
   public:
-    Table() = default;
+    TableOfCells() = default;
 
     /// A table of `columns` times `rows` cells, all holding `value`.
-    Table(int columns, int rows, std::int16_t value = 0)
+    TableOfCells(int columns, int rows, Cell value = 0)
         : columnCount(columns),
           rowCount(rows),
           cells(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), value) {}
@@ -29,19 +30,19 @@ class Table {
     }
 
     /// A cell. Raises the subscript failure for one that the table does not have.
-    std::int16_t& operator()(int column, int row) { return cells[Index(column, row)]; }
-    std::int16_t operator()(int column, int row) const { return cells[Index(column, row)]; }
+    Cell& operator()(int column, int row) { return cells[Index(column, row)]; }
+    Cell operator()(int column, int row) const { return cells[Index(column, row)]; }
 
     /// The pick in a cell, -1 (an empty cell) where the table has no such cell.
-    [[nodiscard]] std::int16_t PickAt(int column, int row) const {
-        return Has(column, row) ? cells[Index(column, row)] : std::int16_t{-1};
+    [[nodiscard]] Cell PickAt(int column, int row) const {
+        return Has(column, row) ? cells[Index(column, row)] : Cell{-1};
     }
 
     /// The cells of a row, from column 0. Raises the subscript failure for a row that the table does not have.
-    [[nodiscard]] std::span<std::int16_t> Row(int row) { return {&cells[Index(0, row)], Width()}; }
-    [[nodiscard]] std::span<const std::int16_t> Row(int row) const { return {&cells[Index(0, row)], Width()}; }
+    [[nodiscard]] std::span<Cell> Row(int row) { return {&cells[Index(0, row)], Width()}; }
+    [[nodiscard]] std::span<const Cell> Row(int row) const { return {&cells[Index(0, row)], Width()}; }
 
-    bool operator==(const Table&) const = default;
+    bool operator==(const TableOfCells&) const = default;
 
   private:
     [[nodiscard]] std::size_t Width() const { return static_cast<std::size_t>(columnCount); }
@@ -55,7 +56,13 @@ class Table {
 
     int columnCount = 0;
     int rowCount = 0;
-    std::vector<std::int16_t> cells;
+    std::vector<Cell> cells;
 };
+
+/// Draws: dates and picks.
+using Table = TableOfCells<std::int16_t>;
+
+/// Picks with what was counted of them.
+using CountTable = TableOfCells<std::int32_t>;
 
 }  // namespace ballhaven

@@ -68,7 +68,7 @@ void CountHotNumbers() {
 std::vector<std::int16_t> HotNumberPicks() {
     std::vector<std::int16_t> picks;
     for (int row = 0; row <= appState.hotNumberLast; ++row) {
-        picks.push_back(appState.hotNumberTable(1, row));
+        picks.push_back(static_cast<std::int16_t>(appState.hotNumberTable(1, row)));
     }
     return picks;
 }

@@ -1,6 +1,7 @@
 #include "statistics/HotPairs.h"
 
 #include "state/AppState.h"
+#include "state/MendedFolder.h"
 #include "state/Table.h"
 #include "statistics/HotCaptions.h"
 #include "statistics/HotNumbers.h"
@@ -14,11 +15,11 @@ namespace ballhaven {
 
 namespace {
 
-constexpr std::ptrdiff_t mostPairs = 501;
 constexpr int fewestHits = 2;
 
 /// The pairs in the order of their candidates.
-FoundRows<PairHits> PairsOfSeveralGames(const Table& jointGames, std::span<const std::int16_t> candidates) {
+FoundRows<PairHits> PairsOfSeveralGames(const Table& jointGames, std::span<const std::int16_t> candidates,
+                                        std::ptrdiff_t mostPairs) {
     FoundRows<PairHits> found;
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         for (std::size_t j = i + 1; j < candidates.size(); ++j) {
@@ -26,8 +27,6 @@ FoundRows<PairHits> PairsOfSeveralGames(const Table& jointGames, std::span<const
             if (hits < fewestHits) {
                 continue;
             }
-            // QUIRK PAIR-LIMIT-1: one pair more than the work table takes ends the program. A list that was cut off
-            // there would pass for a whole one.
             if (std::ssize(found.rows) == mostPairs) {
                 found.failure = RuntimeFailure::Kind::SubscriptOutOfRange;
                 return found;
@@ -40,8 +39,9 @@ FoundRows<PairHits> PairsOfSeveralGames(const Table& jointGames, std::span<const
 
 }  // namespace
 
-FoundRows<PairHits> FindHotPairs(const DrawRows& draws, std::span<const std::int16_t> candidates, PickRange mainPicks) {
-    FoundRows<PairHits> found = PairsOfSeveralGames(CountJointGames(draws, candidates), candidates);
+FoundRows<PairHits> FindHotPairs(const DrawRows& draws, std::span<const std::int16_t> candidates, PickRange mainPicks,
+                                 std::ptrdiff_t mostPairs) {
+    FoundRows<PairHits> found = PairsOfSeveralGames(CountJointGames(draws, candidates), candidates, mostPairs);
     if (!found.failure) {
         SortRows(found.rows, mainPicks);
     }
@@ -49,8 +49,11 @@ FoundRows<PairHits> FindHotPairs(const DrawRows& draws, std::span<const std::int
 }
 
 void ComputeHotPairs() {
+    // QUIRK PAIR-LIMIT-1: one pair more than the table takes ends the program. A list that was cut off there would pass
+    // for a whole one. In a mended folder the table takes them all.
+    const std::ptrdiff_t mostPairs = FolderIsMended() ? noLimit : mostHotPairs;
     const FoundRows<PairHits> found =
-        FindHotPairs(ViewedDraws(), HotNumberPicks(), {appState.mainLow, appState.mainHigh});
+        FindHotPairs(ViewedDraws(), HotNumberPicks(), {appState.mainLow, appState.mainHigh}, mostPairs);
     appState.hotPairLast = static_cast<std::int16_t>(std::ssize(found.rows) - 1);
     if (found.failure) {
         throw RuntimeFailure(*found.failure);

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <array>
 #include <compare>
+#include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <tuple>
 #include <vector>
@@ -32,10 +34,10 @@ struct PickRange {
 /// A pick with its hits, or its repeats.
 struct PickHits {
     std::int16_t pick = 0;
-    std::int16_t hits = 0;
+    std::int32_t hits = 0;
 
     [[nodiscard]] bool IsWithin(PickRange range) const { return range.Holds(pick); }
-    [[nodiscard]] std::array<std::int16_t, 2> Cells() const { return {pick, hits}; }
+    [[nodiscard]] std::array<std::int32_t, 2> Cells() const { return {pick, hits}; }
 
     auto operator<=>(const PickHits& other) const { return std::tie(other.hits, pick) <=> std::tie(hits, other.pick); }
     bool operator==(const PickHits&) const = default;
@@ -47,7 +49,7 @@ struct PickPair {
     std::int16_t higher = 0;
 
     [[nodiscard]] bool IsWithin(PickRange range) const { return range.Holds(lower) && range.Holds(higher); }
-    [[nodiscard]] std::array<std::int16_t, 2> Cells() const { return {lower, higher}; }
+    [[nodiscard]] std::array<std::int32_t, 2> Cells() const { return {lower, higher}; }
 
     auto operator<=>(const PickPair&) const = default;
 };
@@ -63,13 +65,16 @@ struct PairHits {
     std::int16_t hits = 0;
 
     [[nodiscard]] bool IsWithin(PickRange range) const { return picks.IsWithin(range); }
-    [[nodiscard]] std::array<std::int16_t, 3> Cells() const { return {picks.lower, picks.higher, hits}; }
+    [[nodiscard]] std::array<std::int32_t, 3> Cells() const { return {picks.lower, picks.higher, hits}; }
 
     auto operator<=>(const PairHits& other) const {
         return std::tie(other.hits, picks) <=> std::tie(hits, other.picks);
     }
     bool operator==(const PairHits&) const = default;
 };
+
+/// For a table that takes as many rows, and as many repeats, as there are.
+inline constexpr std::ptrdiff_t noLimit = std::numeric_limits<std::ptrdiff_t>::max();
 
 /// What was found for a table.
 template <typename Row>
@@ -84,9 +89,8 @@ template <typename Row>
 void SortRows(std::vector<Row>& rows, PickRange mainPicks) {
     const auto count = rows.size();
     // QUIRK PAIR-ZEROS-1: a pair with a pick below the main range has a row, but the sort, which walks the main range,
-    // never comes to it, and the row stays 0, 0 at the end. Habits rest on the number of rows.
-    // QUIRK REPEATER-ZEROS-1: so does a repeater below the main range, and the interval of its row is a division by
-    // zero.
+    // never comes to it, and the row stays 0, 0 at the end. Habits rest on the number of rows. So does a repeater below
+    // the main range.
     std::erase_if(rows, [mainPicks](const Row& row) { return !row.IsWithin(mainPicks); });
     std::ranges::sort(rows);
     rows.resize(count);
@@ -94,8 +98,8 @@ void SortRows(std::vector<Row>& rows, PickRange mainPicks) {
 
 /// A table of so many columns with these rows in its columns 1 and up.
 template <typename Row>
-[[nodiscard]] Table TableOf(const std::vector<Row>& rows, int columns) {
-    Table table(columns, static_cast<int>(rows.size()));
+[[nodiscard]] CountTable TableOf(const std::vector<Row>& rows, int columns) {
+    CountTable table(columns, static_cast<int>(rows.size()));
     for (int line = 0; const Row& row : rows) {
         std::ranges::copy(row.Cells(), table.Row(line++).begin() + 1);
     }

@@ -25,7 +25,7 @@ struct KeptTable {
     void (*build)();
     bool AppState::*stale;
     std::int16_t AppState::*last;
-    Table AppState::*rows;
+    CountTable AppState::*rows;
 };
 
 /// By `hotTableChoice` - 1.
@@ -81,14 +81,14 @@ std::int16_t LastRowOf(HotTable table) {
     return appState.*Kept(table).last;
 }
 
-std::span<const std::int16_t> CellsOfRow(HotTable table, int row) {
-    const std::vector<std::int16_t>& noHitters = appState.noHitterTable;
+std::span<const std::int32_t> CellsOfRow(HotTable table, int row) {
+    const std::vector<std::int32_t>& noHitters = appState.noHitterTable;
     if (table == HotTable::NoHitters) {
         return 0 <= row && row < std::ssize(noHitters) ? std::span(noHitters).subspan(static_cast<std::size_t>(row), 1)
-                                                       : std::span<const std::int16_t>();
+                                                       : std::span<const std::int32_t>();
     }
-    const Table& rows = appState.*Kept(table).rows;
-    return rows.Has(1, row) ? rows.Row(row).subspan(1) : std::span<const std::int16_t>();
+    const CountTable& rows = appState.*Kept(table).rows;
+    return rows.Has(1, row) ? rows.Row(row).subspan(1) : std::span<const std::int32_t>();
 }
 
 }  // namespace ballhaven

@@ -24,6 +24,6 @@ void RefreshHotTable(HotTable table);
 
 /// The cells of a row from column 1 on: a pick or the two of a pair, and behind them what the table counts. Empty where
 /// the table has no such row.
-[[nodiscard]] std::span<const std::int16_t> CellsOfRow(HotTable table, int row);
+[[nodiscard]] std::span<const std::int32_t> CellsOfRow(HotTable table, int row);
 
 }  // namespace ballhaven

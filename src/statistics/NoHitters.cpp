@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
-#include <utility>
 
 namespace ballhaven {
 
@@ -42,11 +41,11 @@ std::vector<std::int16_t> FindNoHitters(const DrawRows& draws, PickRange range) 
 void ComputeNoHitters() {
     const PickRange range =
         NoHitterRange({appState.mainLow, appState.mainHigh}, appState.mainPickCount, appState.duplicatesAllowed);
-    std::vector<std::int16_t> noHitters = FindNoHitters(ViewedDraws(), range);
+    const std::vector<std::int16_t> noHitters = FindNoHitters(ViewedDraws(), range);
     appState.noHitterLast = static_cast<std::int16_t>(std::ssize(noHitters) - 1);
     ShowBuiltCaption(HotTable::NoHitters, !noHitters.empty());
     if (!noHitters.empty()) {
-        appState.noHitterTable = std::move(noHitters);
+        appState.noHitterTable.assign(noHitters.begin(), noHitters.end());
     }
     appState.noHitterStale = false;
 }

@@ -1,6 +1,7 @@
 #include "statistics/PairedOnce.h"
 
 #include "state/AppState.h"
+#include "state/MendedFolder.h"
 #include "state/Table.h"
 #include "statistics/HotCaptions.h"
 #include "statistics/HotNumbers.h"
@@ -13,11 +14,11 @@ namespace ballhaven {
 
 namespace {
 
-constexpr std::ptrdiff_t mostPairs = 1001;
 constexpr int fewestGames = 2;
 
 /// The pairs in the order of their candidates.
-FoundRows<PickPair> PairsOfOneGame(const Table& jointGames, std::span<const std::int16_t> candidates, int lowest) {
+FoundRows<PickPair> PairsOfOneGame(const Table& jointGames, std::span<const std::int16_t> candidates, int lowest,
+                                   std::ptrdiff_t mostPairs) {
     FoundRows<PickPair> found;
     const int count = static_cast<int>(candidates.size());
     for (int i = 0; i < count - 1; ++i) {
@@ -32,8 +33,8 @@ FoundRows<PickPair> PairsOfOneGame(const Table& jointGames, std::span<const std:
                 found.rows.emplace_back();
                 continue;
             }
-            // QUIRK PAIR-LIMIT-1: as for Hot Pairs. The 0, 0 of a pick paired with itself fails only when it is sorted,
-            // since nothing is written for it before.
+            // The 0, 0 of a pick paired with itself fails only when it is sorted, since nothing is written for it
+            // before.
             if (std::ssize(found.rows) >= mostPairs) {
                 found.failure = RuntimeFailure::Kind::SubscriptOutOfRange;
                 return found;
@@ -48,11 +49,12 @@ FoundRows<PickPair> PairsOfOneGame(const Table& jointGames, std::span<const std:
 }  // namespace
 
 FoundRows<PickPair> FindPairsDrawnOnce(const DrawRows& draws, std::span<const std::int16_t> candidates,
-                                       PickRange mainPicks) {
+                                       PickRange mainPicks, std::ptrdiff_t mostPairs) {
     if (draws.Games() < fewestGames) {
         return {};
     }
-    FoundRows<PickPair> found = PairsOfOneGame(CountJointGames(draws, candidates), candidates, mainPicks.low);
+    FoundRows<PickPair> found =
+        PairsOfOneGame(CountJointGames(draws, candidates), candidates, mainPicks.low, mostPairs);
     if (!found.failure) {
         SortRows(found.rows, mainPicks);
     }
@@ -60,15 +62,17 @@ FoundRows<PickPair> FindPairsDrawnOnce(const DrawRows& draws, std::span<const st
 }
 
 void ComputePairedOnce() {
+    // QUIRK PAIR-LIMIT-1: as for Hot Pairs.
+    const std::ptrdiff_t mostPairs = FolderIsMended() ? noLimit : mostPairsDrawnOnce;
     const FoundRows<PickPair> found =
-        FindPairsDrawnOnce(ViewedDraws(), HotNumberPicks(), {appState.mainLow, appState.mainHigh});
+        FindPairsDrawnOnce(ViewedDraws(), HotNumberPicks(), {appState.mainLow, appState.mainHigh}, mostPairs);
     appState.pairedOnceLast = static_cast<std::int16_t>(std::ssize(found.rows) - 1);
     if (found.failure) {
         throw RuntimeFailure(*found.failure);
     }
     ShowBuiltCaption(HotTable::PairedOnce, !found.rows.empty());
     if (std::ssize(found.rows) > mostPairs) {
-        appState.pairedOnceTable = Table(3, static_cast<int>(found.rows.size()));
+        appState.pairedOnceTable = CountTable(3, static_cast<int>(found.rows.size()));
         throw RuntimeFailure(RuntimeFailure::Kind::SubscriptOutOfRange);
     }
     if (!found.rows.empty()) {

@@ -1,6 +1,7 @@
 #include "statistics/Repeaters.h"
 
 #include "state/AppState.h"
+#include "state/MendedFolder.h"
 #include "statistics/HotCaptions.h"
 #include "statistics/HotNumbers.h"
 #include "statistics/HotTableKinds.h"
@@ -9,13 +10,10 @@
 #include <array>
 #include <cstddef>
 #include <iterator>
-#include <limits>
 
 namespace ballhaven {
 
 namespace {
-
-constexpr std::ptrdiff_t mostRepeats = std::numeric_limits<std::int16_t>::max();
 
 /// Repeats by pick value.
 using RepeatCounts = std::array<std::ptrdiff_t, pickValues>;
@@ -35,18 +33,18 @@ RepeatCounts CountRepeats(const DrawRows& draws) {
 
 }  // namespace
 
-FoundRows<PickHits> FindRepeaters(const DrawRows& draws, std::span<const std::int16_t> candidates,
-                                  PickRange mainPicks) {
+FoundRows<PickHits> FindRepeaters(const DrawRows& draws, std::span<const std::int16_t> candidates, PickRange mainPicks,
+                                  std::ptrdiff_t mostOfPick) {
     const RepeatCounts counts = CountRepeats(draws);
     FoundRows<PickHits> found;
     for (const std::int16_t pick : candidates) {
         const std::ptrdiff_t repeats = counts.at(static_cast<std::size_t>(pick));
-        if (repeats > mostRepeats) {
+        if (repeats > mostOfPick) {
             found.failure = RuntimeFailure::Kind::Overflow;
             return found;
         }
         if (repeats > 0) {
-            found.rows.push_back({pick, static_cast<std::int16_t>(repeats)});
+            found.rows.push_back({pick, static_cast<std::int32_t>(repeats)});
         }
     }
     SortRows(found.rows, mainPicks);
@@ -54,8 +52,10 @@ FoundRows<PickHits> FindRepeaters(const DrawRows& draws, std::span<const std::in
 }
 
 void ComputeRepeaters() {
+    // QUIRK HOT-OVERFLOW-1: the repeats of a pick are a 16-bit number too, but in a mended folder.
+    const std::ptrdiff_t mostOfPick = FolderIsMended() ? noLimit : mostRepeats;
     const FoundRows<PickHits> found =
-        FindRepeaters(ViewedDraws(), HotNumberPicks(), {appState.mainLow, appState.mainHigh});
+        FindRepeaters(ViewedDraws(), HotNumberPicks(), {appState.mainLow, appState.mainHigh}, mostOfPick);
     appState.repeaterLast = static_cast<std::int16_t>(std::ssize(found.rows) - 1);
     if (found.failure) {
         throw RuntimeFailure(*found.failure);

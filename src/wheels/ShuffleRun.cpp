@@ -10,6 +10,7 @@
 #include "plays/PlaySlips.h"
 #include "state/AppState.h"
 #include "state/GameRules.h"
+#include "state/MendedFolder.h"
 #include "wheels/FullWheel.h"
 #include "wheels/PartialWheel.h"
 #include "wheels/ShufflePass.h"
@@ -128,13 +129,21 @@ std::optional<PlayStretch> MakeRoom(WheelMode mode, double total, int lastUsedPl
     return PlayStretch{used + 1, last, last};
 }
 
+/// The play at which a Partial Wheel begins.
+int FirstPlayOfPartialWheel(const PlayStretch& plays) {
+    // QUIRK PARTIAL-WHEEL-PLACE-1: the plays are counted from 1, not from the first play of the run. After a No to the
+    // question about clearing the slips the first plays are overwritten, while the result names the plays behind those
+    // in use. Files and habits rest on it. In a mended folder no play is overwritten.
+    return FolderIsMended() ? plays.firstPlay : 1;
+}
+
 void RunPass(WheelMode mode, const PickPass& pass, PlayStretch& plays, PlayPicks& table) {
     switch (mode) {
         case WheelMode::Shuffle:
             ShufflePass(pass, plays, table, platform::services.drawByChance);
             break;
         case WheelMode::PartialWheel:
-            PartialWheelPass(pass, plays, table);
+            PartialWheelPass(pass, plays, table, FirstPlayOfPartialWheel(plays));
             break;
         case WheelMode::FullWheel:
             FullWheelPass(pass, plays, table);

@@ -414,5 +414,24 @@ TEST_F(QuirkGameDialogMode1, AfterASaveTheMainWindowLoadsTheGameEachTimeItComesB
     EXPECT_FALSE(comeBack());
 }
 
+TEST_F(QuirkGameDialogMode1, InAMendedFolderTheModeEndsWithTheSwitchThatFollowsTheSave) {
+    Close();
+    exitCodes.clear();
+    MendFiles();
+    Start();
+    Alter([this] {
+        ChooseEntry("cboCombo(6)", 50);
+        ClickToClose("cmdNewGame(1)");
+    });
+    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.mainHigh, 51) << "the game is shown as it was altered";
+    appState.colorMode = 1;  // a switch of the game clears it
+    support::TestWindow other({});
+    other.Show();
+    MainWindow().activateWindow();
+    support::Settle();
+    EXPECT_EQ(appState.colorMode, 1);
+}
+
 }  // namespace
 }  // namespace ballhaven

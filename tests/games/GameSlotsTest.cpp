@@ -239,6 +239,33 @@ TEST_F(QuirkLoadStoresUnderCurrent1, ACancelledAddLeavesRecord2SoTooAndTheListSt
     EXPECT_EQ(ShownGame(), "First game");
 }
 
+TEST_F(QuirkLoadStoresUnderCurrent1, InAMendedFolderAnAddedGameLeavesTheOneThatIsShown) {
+    MendFiles();
+    Start();
+    const std::string before = GameTableFile();
+    InDialogOf(addGame, [this] { SetUpSixOf49("Third game"); });
+    EXPECT_EQ(GameTableFile(), WithRecords(before, {{1, "03/1/1/000000" + std::string(50, ' ') + "M"},
+                                                    {4, SixOf49Record(3, "Third game")}}));
+    EXPECT_EQ(ShownGame(), "Third game");
+    EXPECT_EQ(appState.gameDialogMode, 0);
+    ChooseEntry("cboList(0)", 0);
+    EXPECT_EQ(ShownGame(), "First game");
+    EXPECT_EQ(RowsShown("grdHist"), 2);
+}
+
+TEST_F(QuirkGameCancel1, InAMendedFolderACancelledAddChangesNothingAndTheShownGameGoesOn) {
+    MendFiles();
+    Start();
+    const std::string before = GameTableFile();
+    InDialogOf(addGame, [this] { ClickToClose(cancel); });
+    EXPECT_EQ(GameTableFile(), before);
+    EXPECT_EQ(appState.totalPicks, 6);
+    ChooseEntry("cboList(1)", 4);
+    EXPECT_EQ(GameTableFile(), WithRecords(before, {{2, WithColumns(RecordColumns(1, 1, 64), {{27, "050"}})}}));
+    EXPECT_EQ(RecordColumns(1, 4, 10), "First game");
+    EXPECT_EQ(RowsShown("grdHist"), 2);
+}
+
 // Not a bug: GAME-CANCEL-1 in docs/not-bugs.md.
 TEST_F(QuirkGameCancel1, AfterACancelledAddTheWindowStillShowsTheOldGame) {
     Start();

@@ -1,7 +1,6 @@
 #include "history/HistoryFile.h"
 
 #include "state/AppState.h"
-#include "state/MendedFolder.h"
 #include "support/PointerKeeper.h"
 #include "support/RecordBytes.h"
 
@@ -18,6 +17,7 @@ namespace {
 using support::BonusPool;
 using support::CardGame;
 using support::DataFileTest;
+using support::MendFolder;
 using support::NumberGame;
 using support::Padded;
 using support::RecordFormat;
@@ -56,6 +56,7 @@ class HistoryFile : public DataFileTest {
 };
 
 using QuirkHistoryDateFourDigits1 = HistoryFile;
+using QuirkHistoryGaps1 = HistoryFile;
 
 /// The cells of a row of `HistoryTable`, the date first.
 std::vector<int> Row(int row) {
@@ -208,10 +209,24 @@ TEST_F(HistoryFile, ARowWithoutADateStaysZeroInAllItsCells) {
     EXPECT_EQ(appState.historyLast, -1);
 }
 
-TEST_F(HistoryFile, RowsKeepTheirPlaceAndAreCounted) {
+// Not a bug: HISTORY-GAPS-1 in docs/not-bugs.md.
+TEST_F(QuirkHistoryGaps1, RowsKeepTheirPlaceAndAreCounted) {
     Load(historyFormat.File({{4, "3000  1"}, {1001, "2000  2"}}));
     EXPECT_EQ(RowsWithCells(), (Cells{2, 999}));
     EXPECT_EQ(appState.historyLast, 1);
+}
+
+TEST_F(QuirkHistoryGaps1, InAMendedFolderTheyCloseUpInTheirOrder) {
+    MendFolder();
+    const std::string file =
+        historyFormat.File({{1, header}, {2, "7000  1"}, {3, "x007  2"}, {4, "7014  3"}, {1001, "2000  4"}});
+    Load(file);
+    EXPECT_EQ(RowsWithCells(), (Cells{0, 1, 2}));
+    EXPECT_EQ(appState.historyLast, 2);
+    EXPECT_EQ(Row(0), (Cells{7000, 1, -1, -1}));
+    EXPECT_EQ(Row(1), (Cells{7014, 3, -1, -1}));
+    EXPECT_EQ(Row(2), (Cells{2000, 4, -1, -1}));
+    EXPECT_TRUE(historyFormat.Same(file, Bytes())) << "a load writes nothing";
 }
 
 TEST_F(HistoryFile, TheTenthPickStandsInColumns33And34) {
@@ -291,15 +306,10 @@ TEST_F(QuirkHistoryDateFourDigits1, TheNineteenthOfMay2011ComesBackAsADateOf1986
     EXPECT_EQ(appState.HistoryTable(0, 1), support::SerialOf("09/27/1986"));
 }
 
-/// Marks the folder as one in which nothing that was entered is lost.
-void Mend() {
-    appState.systemRecord = WithMendedMark("01/1/1/000000");
-}
-
 const std::string markedHeader = Padded(header, 63) + "M";
 
 TEST_F(QuirkHistoryDateFourDigits1, InAMendedFolderADateComesBackAsItIsFromItsFirstSaveOn) {
-    Mend();
+    MendFolder();
     LoadHistory();
     EXPECT_TRUE(historyFormat.Same(historyFormat.File({{1, header}}), Bytes())) << "a new file has nothing to tell";
     SetUpDraws({{"05/18/2011", {1, 2, 3}}, {"05/19/2011", {4, 5, 6}}, {"11/22/2026", {7, 8, 9}}});
@@ -314,7 +324,7 @@ TEST_F(QuirkHistoryDateFourDigits1, InAMendedFolderADateComesBackAsItIsFromItsFi
 }
 
 TEST_F(QuirkHistoryDateFourDigits1, InAMendedFolderAFileWithoutTheMarkIsReadByFourDigits) {
-    Mend();
+    MendFolder();
     Load(historyFormat.File({{1, header}, {2, "10005 1  2  3"}}));
     EXPECT_EQ(Row(0), (Cells{1000, 1, 2, 3}));
 }

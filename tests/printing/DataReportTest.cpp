@@ -61,7 +61,7 @@ class DataReport : public support::PrintedReport {
 
     /// Gives a table so many rows, which are up to date.
     static void SetRepeaters(int rows) {
-        appState.repeaterTable = Table(3, rows, 1);
+        appState.repeaterTable = CountTable(3, rows, 1);
         appState.repeaterLast = static_cast<std::int16_t>(rows - 1);
         appState.repeaterStale = false;
     }
@@ -195,7 +195,7 @@ TEST_F(DataReport, ASectionThatEndsAtTheLimitLeavesTheNextOneToBreakThePage) {
 class PairedOnceReport : public DataReport {
   protected:
     static void SetPairs(int rows) {
-        appState.pairedOnceTable = Table(3, rows, 1);
+        appState.pairedOnceTable = CountTable(3, rows, 1);
         appState.pairedOnceLast = static_cast<std::int16_t>(rows - 1);
         appState.pairedOnceStale = false;
     }
@@ -313,6 +313,28 @@ TEST_F(DataReport, ATableThatCannotBeBuiltEndsItWithoutAWord) {
     Tick({0, 2});
     dataReport();
     EXPECT_TRUE(printer.jobs.empty());
+}
+
+TEST_F(DataReport, InAMendedFolderNeitherEndsIt) {
+    support::StartWith(NumberGame().Picks(33).To(99));
+    support::MendFolder();
+    NameGame("Many");
+    support::DrawPicks picks;
+    for (int pick = 1; pick <= 33; ++pick) {
+        picks.push_back(pick);
+    }
+    support::ShowDraws({picks, picks});
+    ComputeHotTable();
+    MarkHotTablesStale();
+    appState.hotNumberTable(2, 0) = 328;
+    Tick({1, 2});
+    dataReport();
+    ASSERT_EQ(printer.jobs.size(), 1U);
+    const auto& lines = LinesOfPage(0);
+    EXPECT_EQ(
+        std::ranges::count_if(lines, [](const std::string& line) { return line.find("16400%") != std::string::npos; }),
+        1);
+    EXPECT_EQ(appState.hotPairLast, 527);
 }
 
 TEST_F(DataReport, APrinterThatIsNotReadyIsToldOnce) {

@@ -117,6 +117,22 @@ TEST_F(PlaySlipReport, ASecondTimePrintsAll5000Plays) {
     EXPECT_EQ(Plays(249)[19], "    1000.E    1    1    1");
 }
 
+TEST_F(PlaySlipReport, InAMendedFolderASecondTimePrintsTheSameAndThePlaysStayAsTheyAre) {
+    Play(NumberGame().Picks(5).To(45).Bonus(2, BonusPool::Separate).BonusTo(12), "Five Plus Two");
+    support::MendFolder();
+    SetUpPlay(1, {44, 1, 20, 32, 7}, {11, 4});
+    SetUpPlay(2, {}, {3});
+    SetUpPlay(3, {0, 1, 2, 3, 4}, {11});
+    SetUpPlay(7, {6});
+    const PlayPicks before = appState.PlayTable;
+    for (int time = 1; time <= 2; ++time) {
+        printer.jobs.clear();
+        playSlipReport();
+        EXPECT_EQ(Paper(), GoldenText("plays-five-plus-two.txt"));
+        EXPECT_EQ(appState.PlayTable, before);
+    }
+}
+
 TEST_F(PlaySlipReport, Of5000PlaysHas20OnEachPage) {
     FillPlays(5000);
     playSlipReport();

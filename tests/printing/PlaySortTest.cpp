@@ -98,6 +98,18 @@ TEST_F(PlaySortInMemory, SortsWithoutMarkingThePlaysAsChanged) {
     EXPECT_FALSE(appState.playsDirty);
 }
 
+TEST_F(PlaySortInMemory, InAMendedFolderOnlyThePlaysThatAreGivenBackAreSorted) {
+    SetUpGame(NumberGame().Picks(5).To(45).Bonus(2, BonusPool::Separate).BonusTo(12));
+    support::MendFolder();
+    SetOrder("N");
+    SetUpPlay(1, {44, 1}, {11, 4});
+    const PlayPicks before = appState.PlayTable;
+    const PlayPicks sorted = sortPlaysForReport(1);
+    EXPECT_EQ(PicksText(sorted, mainPicks, 1, 1), "1 44 0 0 0 0 0 0 0 0");
+    EXPECT_EQ(PicksText(sorted, bonusPicks, 1, 1), "4 11 0 0 0 0 0 0 0 0");
+    EXPECT_EQ(appState.PlayTable, before);
+}
+
 TEST_F(PlaySortInMemory, InAGameWithoutBonusTheBonusPicksAreNotTaken) {
     SetUpGame(NumberGame().Picks(5).To(45));
     SetOrder("N");

@@ -37,7 +37,7 @@ void ViewOneDraw(const std::vector<std::int16_t>& picks, std::int16_t date) {
 /// A table of Hot Numbers with one row, over so many games.
 void OneHotNumber(int games, int pick, int hits) {
     appState.historyViewLast = static_cast<std::int16_t>(games - 1);
-    appState.hotNumberTable = Table(4, 1);
+    appState.hotNumberTable = CountTable(4, 1);
     appState.hotNumberTable(1, 0) = static_cast<std::int16_t>(pick);
     appState.hotNumberTable(2, 0) = static_cast<std::int16_t>(hits);
     appState.hotNumberLast = 0;
@@ -114,7 +114,7 @@ TEST(SectionRows, TheFiguresStandInColumnsOfTheirOwn) {
     EXPECT_EQ(Told(*RowOfSection(ReportSection::HotNumbers, 0)), "6: 7; 14: 20; 20: 42%; 30: 2.3");
     appState.repeaterTable = appState.hotNumberTable;
     EXPECT_EQ(Told(*RowOfSection(ReportSection::Repeaters, 0)), "6: 7; 14: 20; 20: 42%; 30: 2.3");
-    appState.hotPairTable = Table(4, 1);
+    appState.hotPairTable = CountTable(4, 1);
     appState.hotPairTable(1, 0) = 6;
     appState.hotPairTable(2, 0) = 11;
     appState.hotPairTable(3, 0) = 4;
@@ -142,6 +142,16 @@ TEST(SectionRows, OfARepeaterWithoutRepeatsFail) {
     EXPECT_THROW((void)RowOfSection(ReportSection::Repeaters, 0), RuntimeFailure);
 }
 
+TEST(SectionRows, OfAPickWith328HitsAndOfARepeaterWithoutRepeatsArePrintedInAMendedFolder) {
+    SetUpGame(NumberGame());
+    support::MendFolder();
+    OneHotNumber(1000, 6, 328);
+    EXPECT_EQ(Told(*RowOfSection(ReportSection::HotNumbers, 0)), "6: 7; 14: 328; 20: 32%; 30: 3.0");
+    OneHotNumber(10, 0, 0);
+    appState.repeaterTable = appState.hotNumberTable;
+    EXPECT_EQ(Told(*RowOfSection(ReportSection::Repeaters, 0)), "6: 1; 14: 0; 20: 0%; 30: ");
+}
+
 TEST(SectionRows, ThatATableDoesNotHaveFail) {
     SetUpGame(NumberGame());
     EXPECT_THROW((void)RowOfSection(ReportSection::HotPairs, 0), RuntimeFailure);
@@ -150,7 +160,7 @@ TEST(SectionRows, ThatATableDoesNotHaveFail) {
 
 TEST(SectionEntries, PairsHaveNoBlankAndNoHittersStandAlone) {
     SetUpGame(CardGame().Picks(5));
-    appState.pairedOnceTable = Table(3, 1);
+    appState.pairedOnceTable = CountTable(3, 1);
     appState.pairedOnceTable(1, 0) = 9;
     appState.pairedOnceTable(2, 0) = 22;
     EXPECT_EQ(EntryOfSection(ReportSection::PairedOnce, 0), "10h,10c");

@@ -47,13 +47,13 @@ constexpr int cardGame = 3;
 void ShowTable(HotTable choice, const std::vector<std::vector<int>>& rows) {
     appState.historyViewLast = gamesInView - 1;
     appState.hotTableChoice = static_cast<std::int16_t>(choice);
-    Table table(4, static_cast<int>(rows.size()));
+    CountTable table(4, static_cast<int>(rows.size()));
     appState.noHitterTable.clear();
     for (int row = 0; const std::vector<int>& cells : rows) {
         for (int column = 1; const int cell : cells) {
-            table(column++, row) = static_cast<std::int16_t>(cell);
+            table(column++, row) = cell;
         }
-        appState.noHitterTable.push_back(static_cast<std::int16_t>(cells.front()));
+        appState.noHitterTable.push_back(cells.front());
         ++row;
     }
     appState.hotNumberTable = appState.hotPairTable = appState.pairedOnceTable = appState.repeaterTable = table;
@@ -226,6 +226,24 @@ TEST(HotCellValue, ThePercentageOf327HitsIsTheLastThatFits) {
     EXPECT_EQ(HotCellValue(0, 2), "32");
 }
 
+TEST(QuirkHotOverflow1, InAMendedFolderThePercentageOf328HitsIsShownInAllCountingTables) {
+    StartWith(NumberGame());
+    support::MendFolder();
+    ShowTable(HotTable::HotNumbers, {{7, 328}});
+    EXPECT_EQ(RowTexts(0), (Texts{"7", "328", "1640", ".1"}));
+    ShowTable(HotTable::HotPairs, {{7, 8, 328}});
+    EXPECT_EQ(RowTexts(0), (Texts{"7, 8", "328", "1640", ".1"}));
+    ShowTable(HotTable::Repeaters, {{7, 99900}});
+    EXPECT_EQ(RowTexts(0), (Texts{"7", "99900", "499500", ".0"}));
+}
+
+TEST(QuirkRepeaterZeros1, InAMendedFolderTheIntervalOfARowOfZerosIsEmpty) {
+    StartWith(NumberGame());
+    support::MendFolder();
+    ShowTable(HotTable::Repeaters, {{0, 0}});
+    EXPECT_EQ(RowTexts(0), (Texts{"0", "0", "0", ""}));
+}
+
 TEST(HotCellValue, ThePercentageOf328HitsOverflowsInAllCountingTables) {
     StartWith(NumberGame());
     ShowTable(HotTable::HotNumbers, {{7, 328}});
@@ -257,7 +275,7 @@ TEST(HotCellValue, APairOfZerosHasNoInterval) {
 }
 
 TEST(HotCellText, TellsARowByItsCellsAlone) {
-    const std::vector<std::int16_t> pair{1, 23, 5};
+    const std::vector<std::int32_t> pair{1, 23, 5};
 
     EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, cardGame), "Ah, 10c");
     EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, numberGame), "1, 23");
@@ -269,7 +287,7 @@ TEST(HotCellText, TellsARowByItsCellsAlone) {
 }
 
 TEST(HotCellText, OfARowWithTooFewCellsIsANull) {
-    const std::vector<std::int16_t> cells{7, 8, 9};
+    const std::vector<std::int32_t> cells{7, 8, 9};
     const auto rowOf = [&cells](std::size_t count) { return std::span(cells).first(count); };
 
     for (const auto& [table, needed] : std::vector<std::pair<HotTable, std::size_t>>{{HotTable::HotNumbers, 2},

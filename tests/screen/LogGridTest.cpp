@@ -257,6 +257,23 @@ TEST_F(QuirkLogDirty1, APickTypedWithoutAPressOfTheMouseIsNotSaved) {
     ExpectFile(Days(5));
 }
 
+TEST_F(QuirkLogDirty1, InAMendedFolderAPickTypedWithoutAPressOfTheMouseIsSavedAtTheEnd) {
+    Close();
+    exitCodes.clear();
+    MendFiles();
+    Start();
+    Type("49");
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(appState.historyDirty);
+    Close();
+    EXPECT_EQ(exitCodes, std::vector<int>{0});
+    std::vector<Draw> expected = Days(5);
+    expected[4].picks[0] = 49;
+    std::string file = support::HistoryFileOf(expected);
+    file[63] = 'M';
+    EXPECT_TRUE(support::historyFileFormat.Same(file, directory.Read("GAME01.CDB")));
+}
+
 TEST_F(QuirkLogDirty1, AMereClickMarksTheHistoryAsChanged) {
     WatchSaves();
     ClickCell("grdHist", 1, 3);

@@ -1,6 +1,7 @@
 #include "state/GameTable.h"
 
 #include "state/AppState.h"
+#include "support/Games.h"
 #include "support/RecordBytes.h"
 
 #include <gtest/gtest.h>
@@ -396,6 +397,16 @@ TEST_F(QuirkLoadStoresUnderCurrent1, TheConvertedMarkGoesUnderTheCurrentGameToo)
     LoadGameRecord(7);
     EXPECT_EQ(Stored(2), slot7);
     EXPECT_EQ(Stored(7), older);
+}
+
+TEST_F(QuirkLoadStoresUnderCurrent1, InAMendedFolderARecordIsStoredUnderTheSlotThatItWasReadFor) {
+    support::MendFolder();
+    const std::string older = WithColumns(slot7, {{51, "  "}});
+    directory.Write("LOTTOSYS", WithColumns(CreatedFile(), {{2 * 64 + 1, pickSix}, {7 * 64 + 1, older}}));
+    LoadGameRecord(7);
+    EXPECT_EQ(appState.gameRecord, slot7);
+    EXPECT_TRUE(gameTable.Same(WithColumns(CreatedFile(), {{2 * 64 + 1, pickSix}, {7 * 64 + 1, slot7}}),
+                               directory.Read("LOTTOSYS")));
 }
 
 RC_GTEST_FIXTURE_PROP(GameTable, AnyRecordIsInItsCurrentFormAfterOneLoad, ()) {

@@ -1,6 +1,7 @@
 #include "statistics/HotFigures.h"
 
 #include "state/RuntimeFailure.h"
+#include "support/Games.h"
 
 #include <gtest/gtest.h>
 
@@ -30,6 +31,19 @@ TEST(HotPercentage, CutsItsFractionOff) {
 TEST(QuirkHotOverflow1, ThePercentageOf327HitsIsTheLastThatFits) {
     EXPECT_EQ(HotPercentage(999, 327), 32);
     EXPECT_EQ(FailureOf([] { return HotPercentage(999, 328); }), RuntimeFailure::Kind::Overflow);
+}
+
+TEST(QuirkHotOverflow1, WholeFiguresAreAsLargeAsTheyAre) {
+    EXPECT_EQ(HotPercentage(999, 328, FigureRange::Whole), 32);
+    EXPECT_EQ(HotPercentage(1000, 10000, FigureRange::Whole), 1000);
+    EXPECT_EQ(HotPercentage(2, 800, FigureRange::Whole), 40000);
+    EXPECT_EQ(HotPercentage(3, 2, FigureRange::Whole), 66);
+}
+
+TEST(QuirkHotOverflow1, FiguresAreWholeInAMendedFolderAndNarrowInAnother) {
+    EXPECT_EQ(FiguresOfFolder(), FigureRange::Narrow);
+    support::MendFolder();
+    EXPECT_EQ(FiguresOfFolder(), FigureRange::Whole);
 }
 
 // Not a bug: HOT-PERCENT-1 in docs/not-bugs.md.
@@ -65,6 +79,11 @@ TEST(IntervalText, RoundsTheExactValueOfTheSinglePrecisionNumber) {
 
 TEST(IntervalText, OfNoHitsIsADivisionByZero) {
     EXPECT_EQ(FailureOf([] { return IntervalText(10, 0); }), RuntimeFailure::Kind::DivisionByZero);
+}
+
+TEST(IntervalText, OfNoHitsIsEmptyWhereFiguresAreWhole) {
+    EXPECT_EQ(IntervalText(10, 0, FigureRange::Whole), "");
+    EXPECT_EQ(IntervalText(100, 7, FigureRange::Whole), "14.3");
 }
 
 }  // namespace

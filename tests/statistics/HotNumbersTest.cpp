@@ -31,7 +31,7 @@ using Rows = std::vector<PickHits>;
 Rows HotNumberRows() {
     Rows rows;
     for (int row = 0; row <= appState.hotNumberLast; ++row) {
-        rows.push_back({appState.hotNumberTable(1, row), appState.hotNumberTable(2, row)});
+        rows.push_back({static_cast<std::int16_t>(appState.hotNumberTable(1, row)), appState.hotNumberTable(2, row)});
     }
     return rows;
 }
@@ -117,7 +117,7 @@ TEST(ComputeHotTable, ATableThatFindsNothingKeepsItsOldArray) {
     StartWith(NumberGame().Picks(2));
     ShowDraws({{3, 4}});
     ComputeHotTable();
-    const Table before = appState.hotNumberTable;
+    const CountTable before = appState.hotNumberTable;
 
     ShowDraws({});
     ComputeHotTable();

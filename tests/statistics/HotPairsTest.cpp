@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numeric>
 #include <optional>
 #include <random>
@@ -43,7 +44,7 @@ void ShowHotPairs() {
 Texts Rows() {
     Texts rows;
     for (int row = 0; row <= appState.hotPairLast; ++row) {
-        const Table& table = appState.hotPairTable;
+        const CountTable& table = appState.hotPairTable;
         rows.push_back(std::to_string(table(1, row)) + ", " + std::to_string(table(2, row)) + " x" +
                        std::to_string(table(3, row)));
     }
@@ -272,9 +273,38 @@ TEST(QuirkPairLimit1, The502ndHotPairFailsWithThePairsBeforeItCounted) {
     EXPECT_TRUE(appState.hotPairStale);
 }
 
-// Not a bug: PAIR-LIMIT-1 in docs/not-bugs.md.
-TEST(QuirkPairLimit1, SixOutOf49Over200DrawsIsBeyondIt) {
-    StartWith(NumberGame().Picks(6).To(49));
+TEST(QuirkPairLimit1, FindHotPairsGivesAllPairsWithoutALimit) {
+    // 100 numbers in each of two draws.
+    DrawPicks all(100);
+    std::iota(all.begin(), all.end(), 0);
+    Picks candidates(100);
+    std::iota(candidates.begin(), candidates.end(), std::int16_t{0});
+
+    const FoundRows<PairHits> found = FindHotPairs(AllDraws(ViewOf({all, all})), candidates, {0, 99}, noLimit);
+
+    EXPECT_EQ(found.failure, std::nullopt);
+    EXPECT_EQ(found.rows.size(), 4950U);
+    EXPECT_EQ(found.rows.front(), (PairHits{{0, 1}, 2}));
+    EXPECT_EQ(found.rows.back(), (PairHits{{98, 99}, 2}));
+}
+
+TEST(QuirkPairLimit1, InAMendedFolderHotPairsTakesTheMore) {
+    StartWith(NumberGame().Picks(10).To(99));
+    support::MendFolder();
+    std::vector<DrawPicks> draws = DrawsOf501Pairs();
+    draws.insert(draws.end(), 2, DrawPicks{4, 14});
+    ShowDraws(draws);
+
+    ShowHotPairs();
+
+    EXPECT_EQ(appState.hotPairLast, 501);
+    EXPECT_EQ(Rows().size(), 502U);
+    EXPECT_EQ(std::ranges::count(Rows(), "4, 14 x2"), 1);
+    EXPECT_FALSE(appState.hotPairStale);
+}
+
+/// 200 draws of six out of 49.
+std::vector<DrawPicks> TwoHundredDraws() {
     std::mt19937 chance(649);
     std::vector<int> numbers(49);
     std::iota(numbers.begin(), numbers.end(), 1);
@@ -285,9 +315,36 @@ TEST(QuirkPairLimit1, SixOutOf49Over200DrawsIsBeyondIt) {
         }
         draws.emplace_back(numbers.begin(), numbers.begin() + 6);
     }
-    ShowDraws(draws);
+    return draws;
+}
+
+// Not a bug: PAIR-LIMIT-1 in docs/not-bugs.md.
+TEST(QuirkPairLimit1, SixOutOf49Over200DrawsIsBeyondIt) {
+    StartWith(NumberGame().Picks(6).To(49));
+    ShowDraws(TwoHundredDraws());
 
     EXPECT_THROW(ShowHotPairs(), RuntimeFailure);
+}
+
+TEST(QuirkPairLimit1, InAMendedFolderSixOutOf49Over200DrawsHasEachPairThatIsCountedTwice) {
+    StartWith(NumberGame().Picks(6).To(49));
+    support::MendFolder();
+    const std::vector<DrawPicks> draws = TwoHundredDraws();
+    ShowDraws(draws);
+
+    ShowHotPairs();
+
+    int pairs = 0;
+    for (int lower = 1; lower < 49; ++lower) {
+        for (int higher = lower + 1; higher <= 49; ++higher) {
+            const auto holdsBoth = [lower, higher](const DrawPicks& picks) {
+                return std::ranges::count(picks, lower) > 0 && std::ranges::count(picks, higher) > 0;
+            };
+            pairs += std::ranges::count_if(draws, holdsBoth) >= 2 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(pairs, 501);
+    EXPECT_EQ(appState.hotPairLast + 1, pairs);
 }
 
 }  // namespace

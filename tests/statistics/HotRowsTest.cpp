@@ -72,7 +72,7 @@ TEST(QuirkRepeaterZeros1, PicksOutsideTheMainRangeBecomeZerosAtTheEnd) {
 }
 
 TEST(TableOf, PutsTheCellsOfARowIntoColumnsOneAndUp) {
-    const Table picks = TableOf(std::vector<PickHits>{{7, 3}, {8, 2}}, 4);
+    const CountTable picks = TableOf(std::vector<PickHits>{{7, 3}, {8, 2}}, 4);
     EXPECT_EQ(picks.Columns(), 4);
     EXPECT_EQ(picks.Rows(), 2);
     EXPECT_EQ(picks(0, 0), 0);
@@ -82,12 +82,12 @@ TEST(TableOf, PutsTheCellsOfARowIntoColumnsOneAndUp) {
     EXPECT_EQ(picks(1, 1), 8);
     EXPECT_EQ(picks(2, 1), 2);
 
-    const Table pairs = TableOf(std::vector<PairHits>{{{7, 9}, 3}}, 4);
+    const CountTable pairs = TableOf(std::vector<PairHits>{{{7, 9}, 3}}, 4);
     EXPECT_EQ(pairs(1, 0), 7);
     EXPECT_EQ(pairs(2, 0), 9);
     EXPECT_EQ(pairs(3, 0), 3);
 
-    const Table pairsDrawnOnce = TableOf(std::vector<PickPair>{{7, 9}}, 3);
+    const CountTable pairsDrawnOnce = TableOf(std::vector<PickPair>{{7, 9}}, 3);
     EXPECT_EQ(pairsDrawnOnce(1, 0), 7);
     EXPECT_EQ(pairsDrawnOnce(2, 0), 9);
 }

@@ -123,10 +123,10 @@ TEST(CellsOfRow, AreThePicksAndTheCountOfATable) {
         return Cells(cells.begin(), cells.end());
     };
     StartWith(NumberGame());
-    appState.hotNumberTable = Table(4, 1, 1);
-    appState.hotPairTable = Table(4, 2, 2);
-    appState.pairedOnceTable = Table(3, 1, 3);
-    appState.repeaterTable = Table(3, 1, 4);
+    appState.hotNumberTable = CountTable(4, 1, 1);
+    appState.hotPairTable = CountTable(4, 2, 2);
+    appState.pairedOnceTable = CountTable(3, 1, 3);
+    appState.repeaterTable = CountTable(3, 1, 4);
     appState.noHitterTable = {5, 6};
 
     EXPECT_EQ(cellsOf(HotTable::HotNumbers, 0), (Cells{1, 1, 1}));
@@ -336,7 +336,7 @@ void ShowRandomDraws(Dice& dice) {
 /// Tables of an earlier time, all stale.
 void LeaveOldTables() {
     MarkHotTablesStale();
-    appState.hotPairTable = appState.pairedOnceTable = appState.repeaterTable = Table(4, 2, 77);
+    appState.hotPairTable = appState.pairedOnceTable = appState.repeaterTable = CountTable(4, 2, 77);
     appState.noHitterTable = {77, 78};
     appState.hotPairLast = appState.pairedOnceLast = appState.repeaterLast = appState.noHitterLast = 1;
     frmMainForm.grdHot.caption = "As it was";

@@ -36,7 +36,7 @@ void ShowNoHitters() {
 
 /// The listed picks; none where the table has no rows.
 Picks Listed() {
-    return appState.noHitterLast < 0 ? Picks() : appState.noHitterTable;
+    return appState.noHitterLast < 0 ? Picks() : Picks(appState.noHitterTable.begin(), appState.noHitterTable.end());
 }
 
 Picks From(std::int16_t first, std::int16_t last) {

@@ -302,6 +302,32 @@ TEST(QuirkPairLimit1, AZeroRowTakesThe1001stPlace) {
     EXPECT_EQ(Rows()[1], "0, 1");
 }
 
+TEST(QuirkPairLimit1, InAMendedFolderTheMorePairsDrawnOnceHaveTheirRows) {
+    StartWith(NumberGame().Picks(10).From(0).To(99));
+    support::MendFolder();
+    std::vector<DrawPicks> draws = DrawsOf1001Pairs();
+    draws.push_back({5, 16});
+    ShowDraws(draws);
+
+    EXPECT_EQ(FailureOfPairedOnce(), std::nullopt);
+    EXPECT_EQ(appState.pairedOnceLast, 1001);
+    EXPECT_EQ(std::ranges::count(Rows(), "5, 16"), 1);
+    EXPECT_FALSE(appState.pairedOnceStale);
+}
+
+TEST(QuirkPairLimit1, InAMendedFolderAZeroRowMayStandInThe1002ndPlace) {
+    StartWith(NumberGame().Picks(10).From(0).To(99));
+    support::MendFolder();
+    std::vector<DrawPicks> draws = DrawsOf1000PairsAndAZeroRow();
+    draws.push_back({7, 18});
+    ShowDraws(draws);
+
+    EXPECT_EQ(FailureOfPairedOnce(), std::nullopt);
+    EXPECT_EQ(appState.pairedOnceLast, 1001);
+    EXPECT_EQ(Rows()[0], "0, 0");
+    EXPECT_EQ(std::ranges::count(Rows(), "7, 18"), 1);
+}
+
 // Not a bug: PAIR-LIMIT-1 in docs/not-bugs.md.
 TEST(QuirkPairLimit1, AZeroRowInThe1002ndPlaceFailsWhenItIsSorted) {
     StartWith(NumberGame().Picks(10).From(0).To(99));

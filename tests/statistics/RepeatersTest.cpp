@@ -224,6 +224,18 @@ TEST(ComputeRepeaters, RepeatsBeyondSixteenBitsOverflow) {
     EXPECT_TRUE(appState.repeaterStale);
 }
 
+TEST(QuirkHotOverflow1, InAMendedFolderRepeatsBeyondSixteenBitsAreCounted) {
+    StartWith(NumberGame().Picks(10).From(0).To(9).WithDuplicates());
+    support::MendFolder();
+    ShowDraws(std::vector<DrawPicks>(1000, DrawPicks(10, 3)));
+
+    ShowRepeaters();
+
+    EXPECT_EQ(Rows(), (Texts{"3 x99900"}));
+    EXPECT_EQ(HotCellValue(0, 2), "9990");
+    EXPECT_EQ(HotCellValue(0, 3), ".0");
+}
+
 // Not a bug: REPEATER-ZEROS-1 in docs/not-bugs.md.
 TEST(QuirkRepeaterZeros1, ARepeaterBelowTheMainRangeLeavesARowOfZerosWhoseIntervalFails) {
     StartWith(NumberGame().Picks(1).From(1).To(9).Bonus(1, BonusPool::Separate).BonusFrom(0).BonusTo(9));
@@ -234,6 +246,17 @@ TEST(QuirkRepeaterZeros1, ARepeaterBelowTheMainRangeLeavesARowOfZerosWhoseInterv
     EXPECT_EQ(Rows(), (Texts{"5 x1", "0 x0"}));
     EXPECT_EQ(HotCellValue(1, 0), "0");
     EXPECT_THROW(static_cast<void>(HotCellValue(1, 3)), RuntimeFailure);
+}
+
+TEST(QuirkRepeaterZeros1, InAMendedFolderTheRowStaysAndHasNoInterval) {
+    StartWith(NumberGame().Picks(1).From(1).To(9).Bonus(1, BonusPool::Separate).BonusFrom(0).BonusTo(9));
+    support::MendFolder();
+    ShowDraws({{5, 0}, {5, 0}});
+
+    ShowRepeaters();
+
+    EXPECT_EQ(Rows(), (Texts{"5 x1", "0 x0"}));
+    EXPECT_EQ(HotCellValue(1, 3), "");
 }
 
 }  // namespace

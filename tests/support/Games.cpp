@@ -143,6 +143,14 @@ void SetUpGame(const Game& game) {
     appState.ShuffleTable = ChosenPicks();
 }
 
+std::string MendedSystemRecord() {
+    return "01/1/1/000000" + std::string(50, ' ') + "M";
+}
+
+void MendFolder() {
+    appState.systemRecord = MendedSystemRecord();
+}
+
 void SetUpDraws(const std::vector<Draw>& draws) {
     appState.HistoryTable = Table(1 + appState.totalPicks, historyRows);
     int row = 0;

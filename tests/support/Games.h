@@ -74,6 +74,12 @@ struct Draw {
 /// Puts `appState` back to what it is when the process starts, with "m/d/y" as `shortDateFormat`.
 void ResetState();
 
+/// Record 1 of a game table that marks its folder as mended.
+[[nodiscard]] std::string MendedSystemRecord();
+
+/// Marks the folder at hand as mended, in `appState` alone.
+void MendFolder();
+
 /// Puts the configuration into the game variables of `appState` (as a load of the game would leave them; the records'
 /// texts stay empty), with tables of the game's size that hold no draws, no plays and no chosen picks.
 void SetUpGame(const Game& game);

@@ -14,7 +14,7 @@ std::int16_t Cell(int game, int column) {
     return appState.historyView.PickAt(column, game);
 }
 
-std::int16_t Candidate(int row) {
+int Candidate(int row) {
     return appState.hotNumberTable(1, row);
 }
 
@@ -35,7 +35,7 @@ std::string InLastGames(const std::string& words) {
     return words + " in last " + std::to_string(appState.historyViewLast + 1) + " games";
 }
 
-void CopyRow(const Table& from, int fromRow, Table& to, int toRow) {
+void CopyRow(const CountTable& from, int fromRow, CountTable& to, int toRow) {
     for (int column = 1; column < to.Columns(); ++column) {
         to(column, toRow) = from(column, fromRow);
     }
@@ -56,15 +56,15 @@ BuiltTable BuiltRepeaters() {
 }
 
 BuiltTable BuiltNoHitters() {
-    Table picks(1, static_cast<int>(appState.noHitterTable.size()));
-    for (int row = 0; const std::int16_t pick : appState.noHitterTable) {
+    CountTable picks(1, static_cast<int>(appState.noHitterTable.size()));
+    for (int row = 0; const int pick : appState.noHitterTable) {
         picks(0, row++) = pick;
     }
     return {picks, appState.noHitterLast, appState.noHitterStale, frmMainForm.grdHot.caption};
 }
 
 void WalkHotPairs(BuiltTable& built) {
-    Table pairWork(4, 501);
+    CountTable pairWork(4, 501);
     built.last = -1;
     int index = 0;
     int highest = 0;
@@ -95,7 +95,7 @@ void WalkHotPairs(BuiltTable& built) {
         if (appState.hotTableChoice == 2) {
             built.caption = InLastGames("Hot Pairs");
         }
-        built.rows = Table(4, built.last + 1);
+        built.rows = CountTable(4, built.last + 1);
         int next = 0;
         for (int count = highest; count >= 2; --count) {
             for (int x = appState.mainLow; x <= appState.mainHigh; ++x) {
@@ -116,7 +116,7 @@ void WalkHotPairs(BuiltTable& built) {
 }
 
 void WalkPairedOnce(BuiltTable& built) {
-    Table pairedOnceWork(3, 1001);
+    CountTable pairedOnceWork(3, 1001);
     built.last = -1;
     int index = 0;
     if (appState.historyViewLast > 0) {
@@ -147,7 +147,7 @@ void WalkPairedOnce(BuiltTable& built) {
         if (appState.hotTableChoice == 3) {
             built.caption = InLastGames("Paired once");
         }
-        built.rows = Table(3, built.last + 1);
+        built.rows = CountTable(3, built.last + 1);
         int next = 0;
         for (int x = appState.mainLow; x <= appState.mainHigh; ++x) {
             for (int y = appState.mainLow; y <= appState.mainHigh; ++y) {
@@ -166,7 +166,7 @@ void WalkPairedOnce(BuiltTable& built) {
 }
 
 void WalkRepeaters(BuiltTable& built) {
-    Table repeaterWork(3, 1001);
+    CountTable repeaterWork(3, 1001);
     built.last = -1;
     int index = 0;
     int highest = 0;
@@ -196,7 +196,7 @@ void WalkRepeaters(BuiltTable& built) {
         if (appState.hotTableChoice == 3) {
             built.caption = InLastGames("Hot Repeaters");
         }
-        built.rows = Table(3, built.last + 1);
+        built.rows = CountTable(3, built.last + 1);
         int next = 0;
         for (int count = highest; count >= 1; --count) {
             for (int x = appState.mainLow; x <= appState.mainHigh; ++x) {
@@ -215,7 +215,7 @@ void WalkRepeaters(BuiltTable& built) {
 }
 
 void WalkNoHitters(BuiltTable& built) {
-    Table noHitterWork(1, 1000);
+    CountTable noHitterWork(1, 1000);
     built.last = -1;
     int index = 0;
     int top = appState.mainHigh;
@@ -239,7 +239,7 @@ void WalkNoHitters(BuiltTable& built) {
         if (appState.hotTableChoice == 4) {
             built.caption = InLastGames("No Hitters");
         }
-        built.rows = Table(1, built.last + 1);
+        built.rows = CountTable(1, built.last + 1);
         for (int k = 0; k <= built.last; ++k) {
             built.rows(0, k) = noHitterWork(0, k);
         }

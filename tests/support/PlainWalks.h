@@ -9,7 +9,7 @@ namespace ballhaven::support {
 /// A hot table with all that its builder leaves: the rows (for No-Hitters one column of picks), the last row, the stale
 /// flag and the caption of `grdHot`.
 struct BuiltTable {
-    Table rows;
+    CountTable rows;
     int last = -1;
     bool isStale = true;
     std::string caption;

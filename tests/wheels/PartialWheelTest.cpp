@@ -85,6 +85,16 @@ TEST(QuirkPartialWheelPlace1, AWheelBehindPlaysInUseReplacesTheFirstPlays) {
     EXPECT_EQ(plays.lastPlay, 13);
 }
 
+TEST(QuirkPartialWheelPlace1, AWheelThatIsFilledInBehindThePlaysInUseLeavesThemAsTheyAre) {
+    PlayPicks table = EmptyPlays();
+    PutPicks(table, mainPicks, 10, {50, 60, 70});
+    PlayStretch plays{11, 13, 13};
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 11);
+
+    EXPECT_EQ(PicksText(table, mainPicks, 10, 14), "50 60 70|1 2|1 4|1 3|");
+    EXPECT_EQ(PlaysInUse(table, mainPicks), 4);
+}
+
 // Not a bug: PARTIAL-WHEEL-FIRST-1 in docs/not-bugs.md.
 TEST(QuirkPartialWheelFirst1, OnlyTheFirstCombinationsOfALargeWheelAreTaken) {
     PlayPicks table = EmptyPlays();

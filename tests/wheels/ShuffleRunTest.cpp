@@ -476,6 +476,26 @@ TEST_F(Run, QuirkPartialWheelPlace1APartialWheelBehindPlaysInUseReplacesTheFirst
     EXPECT_EQ(Main(10, 14), "60 61||||");
 }
 
+TEST_F(Run, QuirkPartialWheelPlace1InAMendedFolderAPartialWheelFollowsThePlaysInUse) {
+    Use(NumberGame().Picks(2).Bonus(1, BonusPool::Separate), {1, 2, 3, 4}, {24, 25, 26});
+    support::MendFolder();
+    UsePlays(1, 10);
+    ExpectClearQuestion(BoxAnswer::No);
+    EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::PartialWheel, "3")), "3.A to 3.C, 3");
+    EXPECT_EQ(Main(1, 4), "60 61|60 61|60 61|60 61");
+    EXPECT_EQ(Main(10, 14), "60 61|1 2|1 4|1 3|");
+    EXPECT_EQ(Bonus(10, 14), "|24|26|25|");
+}
+
+TEST_F(Run, QuirkPartialWheelPlace1InAMendedFolderAPartialWheelOnClearedSlipsBeginsWithTheFirst) {
+    Use(NumberGame().Picks(2), {1, 2, 3, 4});
+    support::MendFolder();
+    UsePlays(1, 10);
+    ExpectClearQuestion(BoxAnswer::Yes);
+    EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::PartialWheel, "3")), "1.A to 1.C, 3");
+    EXPECT_EQ(Main(1, 5), "1 2|1 4|1 3||");
+}
+
 TEST_F(Run, AFullWheelThatDoesNotFitStopsAtTheLastPlayAfterAYes) {
     Use(NumberGame().Picks(6), Cells(0, 16));
     ExpectAsked(tooManyForTheSlips, BoxAnswer::Yes);

@@ -115,6 +115,15 @@ void RunningProgram::StoreShown(int slot, int sortOrder) const {
     appState.programDirectory = directory.Path();
 }
 
+void RunningProgram::MendFiles() const {
+    OpenGameTable();
+    std::string table = directory.Read("LOTTOSYS");
+    table[63] = 'M';
+    directory.Write("LOTTOSYS", table);
+    ResetState();
+    appState.programDirectory = directory.Path();
+}
+
 void RunningProgram::Start() {
     ResetState();
     StartProgram();

@@ -55,6 +55,9 @@ class RunningProgram : public ::testing::Test {
     void StorePlay(int slot, const std::vector<int>& mainCells) const;
     void StoreShown(int slot, int sortOrder) const;
 
+    /// Before the start: marks the folder as mended. After it the mark stands in the files alone.
+    void MendFiles() const;
+
     /// Starts the program, and waits until its main window is active.
     void Start();
 
