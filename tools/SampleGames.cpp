@@ -195,16 +195,12 @@ std::span<const SampleGame> SampleGames() {
     return sampleGames;
 }
 
-std::string FillSampleFolder(const std::filesystem::path& folder) {
-    if (!std::filesystem::is_directory(folder)) {
-        return folder.string() + " is no folder.";
+std::string FillSampleFolder(const std::filesystem::path& folder, FolderKind kind) {
+    std::string refusal = BeginFolder(folder, kind);
+    if (refusal.empty()) {
+        MakeSampleGames();
     }
-    if (std::filesystem::exists(folder / "LOTTOSYS")) {
-        return folder.string() + " has a LOTTOSYS already; its games stay as they are.";
-    }
-    appState.programDirectory = (folder / "").string();
-    MakeSampleGames();
-    return {};
+    return refusal;
 }
 
 void MakeSampleGames() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/NewFolder.h"
+
 #include <filesystem>
 #include <span>
 #include <string>
@@ -28,9 +30,10 @@ struct SampleGame {
 /// The sample games, in the order of their slots from 1.
 [[nodiscard]] std::span<const SampleGame> SampleGames();
 
-/// Makes the sample games in a folder that has no data yet. Gives the reason in one sentence where that cannot be, and
-/// changes nothing then; the empty text when they are made. Sets `programDirectory`. Raises a file failure as below.
-[[nodiscard]] std::string FillSampleFolder(const std::filesystem::path& folder);
+/// Makes the sample games in a folder that has no data yet, which `BeginFolder` begins. Gives its reason where that
+/// cannot be, and changes nothing then; the empty text when they are made. Sets `programDirectory`. Raises a file
+/// failure as below.
+[[nodiscard]] std::string FillSampleFolder(const std::filesystem::path& folder, FolderKind kind = FolderKind::Ordinary);
 
 /// Makes all sample games in `programDirectory`, by the routines that the program itself saves with: `LOTTOSYS`, a
 /// history and a play file for each game, and SHUFFLE.CDB. The draws are always the same ones. Slot 1 is the game

@@ -243,6 +243,19 @@ TEST_F(SampleGamesTest, TheSameGamesComeOutEveryTime) {
     EXPECT_EQ(other.Files(), folder->Files());
 }
 
+TEST_F(SampleGamesTest, AMendedFolderHasTheSameGamesUnderItsMarks) {
+    const support::TemporaryDirectory mended;
+    ASSERT_EQ(FillSampleFolder(mended.Path(), FolderKind::Mended), "");
+
+    std::map<std::string, std::string> expected = folder->Files();
+    for (auto& [name, bytes] : expected) {
+        if (name == "LOTTOSYS" || name.starts_with("GAME")) {
+            bytes[63] = 'M';
+        }
+    }
+    EXPECT_EQ(mended.Files(), expected);
+}
+
 TEST_F(SampleGamesTest, AFolderWithDataStaysAsItIs) {
     const support::TemporaryDirectory used;
     used.Write("LOTTOSYS", "mine");
