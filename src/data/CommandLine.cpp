@@ -39,6 +39,9 @@ class Commands {
     void Run(std::vector<std::string> arguments) {
         std::ranges::reverse(arguments);
         app.parse(std::move(arguments));
+        if (!console.out.flush()) {
+            throw Refusal("The output could not be written to its end.");
+        }
     }
 
     ExitCode Explain(const CLI::ParseError& error) const {

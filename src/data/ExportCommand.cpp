@@ -6,7 +6,6 @@
 #include "data/folder/GamesOnFile.h"
 #include "data/folder/NewOutput.h"
 #include "data/folder/PlaysOnFile.h"
-#include "data/folder/Refusal.h"
 
 namespace ballhaven::data {
 
@@ -19,10 +18,7 @@ void ExportGame(const WorkFolder& folder, const ExportOptions& options, const Co
         SaveNewOutput(options.output, csv);
         return;
     }
-    console.out << csv << std::flush;
-    if (!console.out) {
-        throw Refusal("The output could not be written to its end.");
-    }
+    console.out << csv;
 }
 
 }  // namespace ballhaven::data

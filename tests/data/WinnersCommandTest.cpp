@@ -128,6 +128,12 @@ TEST_F(WinnersCommandTest, WhatCannotBeToldIsRefused) {
     EXPECT_EQ(out.str(), "");
 }
 
+TEST_F(WinnersCommandTest, AnOutputThatTakesNothingIsTold) {
+    out.setstate(std::ios::badbit);
+    EXPECT_EQ(Run({"1"}), refused);
+    EXPECT_NE(notes.str().find("ballhaven-data: The output could not be written to its end.\n"), std::string::npos);
+}
+
 TEST_F(WinnersCommandTest, ItsHelpShowsAnExample) {
     EXPECT_EQ(Run({"--help"}), done);
     EXPECT_NE(out.str().find("Example: ballhaven-data winners Lotto"), std::string::npos) << out.str();
