@@ -10,13 +10,15 @@
 #include "data/folder/Refusal.h"
 #include "state/MendedFolder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <limits>
 #include <optional>
-#include <ranges>
+#include <span>
 #include <system_error>
+#include <utility>
 
 namespace ballhaven::data {
 
@@ -41,6 +43,10 @@ Target ReadTarget(const std::string& directory, const std::string& word) {
     Target target;
     target.game = FindGame(games, word);
     target.content = ReadFolderFile(directory, HistoryFileOf(target.game.slot));
+    if (TotalPicksOf(target.game.rules) > picksPerPlay) {
+        throw Refusal(target.game.Title() + " has more than " + std::to_string(picksPerPlay) +
+                      " picks in a draw, so its record is damaged. Look at it with ballhaven-data check.");
+    }
     target.before = DrawsOf(target.content.value_or(""), TotalPicksOf(target.game.rules));
     if (IsMended(ReadFolderFile(directory, GameTableFile()).value_or(""))) {
         target.before.digits = DateDigits::Five;
@@ -71,7 +77,7 @@ std::string Range(const std::vector<DrawOnFile>& draws) {
 
 std::string Listed(const std::vector<int>& dates) {
     std::string list;
-    for (const int date : dates | std::views::take(datesNamed)) {
+    for (const int date : std::span(dates).first(std::min(dates.size(), datesNamed))) {
         list += (list.empty() ? "" : ", ") + IsoDate(date);
     }
     return list + (dates.size() > datesNamed ? " and " + std::to_string(dates.size() - datesNamed) + " more" : "");
@@ -144,10 +150,10 @@ void TellOfMerge(const Target& target, const MergedDraws& merged, bool replaces,
 
 void ImportFile(const WorkFolder& folder, const ImportOptions& options, const Console& console) {
     const Target target = ReadTarget(folder.Path(), options.game);
-    const ImportedFile file = ReadImportedFile(options, target);
+    ImportedFile file = ReadImportedFile(options, target);
     RefuseForFaults(options.file, file.content.faults, console.notes);
-    const MergedDraws merged = Merged(target.before.draws, file.content.draws, options.replaces);
     TellOfFile(options, file, console.out);
+    const MergedDraws merged = Merged(target.before.draws, std::move(file.content.draws), options.replaces);
     TellOfMerge(target, merged, options.replaces, console.out);
     if (!merged.changesGame) {
         console.out << "There is nothing to change.\n";

@@ -258,6 +258,17 @@ TEST_F(ImportCommandTest, ASlotWithoutAGameIsRefused) {
     EXPECT_EQ(directory.Files(), (Files{{"LOTTOSYS", Table(false)}}));
 }
 
+TEST_F(ImportCommandTest, AGameOfMorePicksThanItsFileHoldsIsRefused) {
+    std::string table = Table(false);
+    table.replace(64 + 45, 2, "57");
+    directory.Write("LOTTOSYS", table);
+    EXPECT_EQ(Import("1986-09-28,1,2,3\n", {"--apply"}), refused);
+    EXPECT_EQ(notes.str(),
+              "ballhaven-data: Two and One has more than 10 picks in a draw, so its record is damaged. Look "
+              "at it with ballhaven-data check.\n");
+    EXPECT_FALSE(directory.Has("GAME01.CDB"));
+}
+
 TEST_F(ImportCommandTest, AFileOfTheOlderFormGetsItsFullSizeAndKeepsItsDraws) {
     directory.Write("GAME01.CDB", Row("10-26-2002") + Row("1000  7  3  1"));
     EXPECT_EQ(Import("1986-09-28,1,2,3\n", {"--apply"}), done) << notes.str();

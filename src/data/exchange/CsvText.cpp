@@ -13,6 +13,7 @@ namespace {
 
 constexpr char quote = '"';
 constexpr std::size_t longestRecord = 65'536;
+constexpr std::size_t longestPlainRecord = 1024;
 
 struct NamedDelimiter {
     char delimiter;
@@ -59,7 +60,11 @@ Division DivisionBy(std::istream& bytes, char delimiter) {
 
 bool CsvText::Next() {
     while (HasByte()) {
-        ReadRecord();
+        firstLine = line;
+        fields.clear();
+        if (!TakePlainRecord()) {
+            ReadRecord();
+        }
         if (HasText()) {
             return true;
         }
@@ -88,18 +93,54 @@ void CsvText::Keep(std::string_view piece) {
     text += piece;
 }
 
+void CsvText::AddField(std::string_view field) {
+    while (!field.empty() && IsBlank(field.front())) {
+        field.remove_prefix(1);
+    }
+    while (!field.empty() && IsBlank(field.back())) {
+        field.remove_suffix(1);
+    }
+    fields.push_back(field);
+}
+
 bool CsvText::IsBlank(char character) const {
-    return (character == ' ' || character == '\t') && character != delimiter;
+    return character == ' ' || (character == '\t' && delimiter != '\t');
 }
 
 bool CsvText::EndsField(char character) const {
     return character == delimiter || IsLineEnd(character);
 }
 
+/// Takes a record as nearly all are: short, without quotes, and whole in the chunk, where its fields stay. The others
+/// are left to `ReadRecord`.
+bool CsvText::TakePlainRecord() {
+    const std::string_view head = chunk.substr(0, longestPlainRecord);
+    const std::size_t end = head.find('\n');
+    if (end == std::string_view::npos) {
+        return false;
+    }
+    std::string_view record = head.substr(0, end);
+    if (record.ends_with('\r')) {
+        record.remove_suffix(1);
+    }
+    if (record.find(quote) != std::string_view::npos || record.find('\r') != std::string_view::npos) {
+        return false;
+    }
+    std::size_t begin = 0;
+    for (std::size_t stop = record.find(delimiter); stop != std::string_view::npos;
+         stop = record.find(delimiter, begin)) {
+        AddField(record.substr(begin, stop - begin));
+        begin = stop + 1;
+    }
+    AddField(record.substr(begin));
+    chunk.remove_prefix(end + 1);
+    ++line;
+    return true;
+}
+
 void CsvText::ReadRecord() {
     text.clear();
     ends.clear();
-    firstLine = line;
     for (bool isLast = false; !isLast;) {
         ReadField();
         ends.push_back(text.size());
@@ -112,10 +153,9 @@ void CsvText::ReadRecord() {
     if (HasByte()) {
         TakeLineEnd();
     }
-    fields.clear();
     std::size_t begin = 0;
     for (const std::size_t end : ends) {
-        fields.push_back(std::string_view(text).substr(begin, end - begin));
+        AddField(std::string_view(text).substr(begin, end - begin));
         begin = end;
     }
 }
@@ -164,7 +204,7 @@ void CsvText::TakeLineEnd() {
 }
 
 bool CsvText::HasText() const {
-    return text.find_first_not_of(" \t\n") != std::string::npos;
+    return std::ranges::any_of(fields, [](std::string_view field) { return !field.empty(); });
 }
 
 char RecognisedDelimiter(std::istream& bytes) {

@@ -24,7 +24,7 @@ class CsvText {
     /// closes, and what `TextSource` refuses.
     [[nodiscard]] bool Next();
 
-    /// The record's fields, one at least, without the blanks before them; they live until the next record.
+    /// The record's fields, one at least, without the blanks around them; they live until the next record.
     [[nodiscard]] const std::vector<std::string_view>& Fields() const { return fields; }
 
     /// The line, from 1, in which the record begins.
@@ -35,9 +35,11 @@ class CsvText {
     [[nodiscard]] char Peek() const { return chunk.front(); }
     char Take();
     void Keep(std::string_view piece);
+    void AddField(std::string_view field);
     [[nodiscard]] bool IsBlank(char character) const;
     [[nodiscard]] bool EndsField(char character) const;
 
+    [[nodiscard]] bool TakePlainRecord();
     void ReadRecord();
     void ReadField();
     void ReadQuoted();
@@ -47,7 +49,7 @@ class CsvText {
     TextSource source;
     char delimiter;
     std::string_view chunk;         ///< what is left of the source's last one
-    std::string text;               ///< the record's fields, one behind the other
+    std::string text;               ///< the fields of a record that is no plain one, one behind the other
     std::vector<std::size_t> ends;  ///< where each ends in it
     std::vector<std::string_view> fields;
     std::int64_t line = 1;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace ballhaven::data {
 
@@ -19,7 +20,6 @@ using std::chrono::year_month_day;
 
 constexpr sys_days dayOfSerial0 = year{1984} / std::chrono::January / 1;
 
-constexpr std::string_view digits = "0123456789";
 constexpr std::string_view separators = "-/., ";
 constexpr std::string_view charactersOfTime = "0123456789:.+- APMZapmz";
 constexpr std::size_t shortNameLength = 3;
@@ -32,9 +32,21 @@ constexpr std::array<std::string_view, 12> monthNames = {"january",   "february"
 constexpr std::array<std::string_view, 7> weekdayNames = {"monday", "tuesday",  "wednesday", "thursday",
                                                           "friday", "saturday", "sunday"};
 
+bool IsDigit(char character) {
+    return '0' <= character && character <= '9';
+}
+
 bool IsLetter(char character) {
     const char small = modUTILS::LowerCase(character);
     return 'a' <= small && small <= 'z';
+}
+
+bool IsBlank(char character) {
+    return character == ' ';
+}
+
+bool IsSeparator(char character) {
+    return separators.find(character) != std::string_view::npos;
 }
 
 /// Place of a name, from 0, in full or by its first three letters or more; the length of the list where it is none.
@@ -69,32 +81,31 @@ std::string_view Cut(std::string_view& text, std::size_t count) {
     return head;
 }
 
-/// Cuts off all characters of a set that the text begins with.
-std::string_view CutRun(std::string_view& text, std::string_view characters) {
-    return Cut(text, std::min(text.find_first_not_of(characters), text.size()));
-}
-
-std::string_view CutWord(std::string_view& text) {
-    return Cut(text, static_cast<std::size_t>(std::ranges::find_if_not(text, IsLetter) - text.begin()));
+/// Cuts off all characters of a kind that the text begins with.
+template <typename IsOfKind>
+std::string_view CutRun(std::string_view& text, IsOfKind isOfKind) {
+    return Cut(text, static_cast<std::size_t>(std::ranges::find_if_not(text, isOfKind) - text.begin()));
 }
 
 int Number(std::string_view text) {
-    return static_cast<int>(modUTILS::ValueOf(text));
+    int value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
 }
 
 std::optional<Part> CutPart(std::string_view& text) {
-    if (const std::string_view number = CutRun(text, digits); !number.empty()) {
+    if (const std::string_view number = CutRun(text, IsDigit); !number.empty()) {
         const Part part{Number(number), number.size()};
         return part.digitCount <= 2 || part.IsYear() ? std::optional(part) : std::nullopt;
     }
-    const std::size_t place = PlaceOf(CutWord(text), monthNames);
+    const std::size_t place = PlaceOf(CutRun(text, IsLetter), monthNames);
     return place < monthNames.size() ? std::optional(Part{static_cast<int>(place) + 1, 0}) : std::nullopt;
 }
 
 void CutWeekday(std::string_view& text) {
     std::string_view rest = text;
-    if (PlaceOf(CutWord(rest), weekdayNames) < weekdayNames.size()) {
-        CutRun(rest, separators);
+    if (PlaceOf(CutRun(rest, IsLetter), weekdayNames) < weekdayNames.size()) {
+        CutRun(rest, IsSeparator);
         text = rest;
     }
 }
@@ -110,7 +121,7 @@ bool EndsDate(std::string_view rest) {
 }
 
 std::optional<WrittenDate> WholeNumberDate(std::string_view text) {
-    const std::string_view number = CutRun(text, digits);
+    const std::string_view number = CutRun(text, IsDigit);
     if (number.size() != digitsOfWholeDate || !EndsDate(text)) {
         return std::nullopt;
     }
@@ -120,7 +131,7 @@ std::optional<WrittenDate> WholeNumberDate(std::string_view text) {
 }
 
 std::optional<WrittenDate> Written(std::string_view text) {
-    CutRun(text, " ");
+    CutRun(text, IsBlank);
     CutWeekday(text);
     if (const std::optional<WrittenDate> whole = WholeNumberDate(text)) {
         return whole;
@@ -128,7 +139,7 @@ std::optional<WrittenDate> Written(std::string_view text) {
     WrittenDate date;
     for (std::size_t place = 0; place < date.parts.size(); ++place) {
         if (place > 0) {
-            const std::string_view separator = CutRun(text, separators);
+            const std::string_view separator = CutRun(text, IsSeparator);
             if (separator.empty()) {
                 return std::nullopt;
             }

@@ -4,9 +4,9 @@
 #include "data/folder/IsoDate.h"
 #include "state/AppState.h"
 #include "state/PickText.h"
-#include "state/modUTILS.h"
 
 #include <algorithm>
+#include <charconv>
 #include <limits>
 #include <span>
 
@@ -14,7 +14,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr std::string_view digits = "0123456789";
 constexpr std::size_t longestPick = 3;  // "10h"
 constexpr int lastDateOfProgram = std::numeric_limits<std::int16_t>::max();
 
@@ -93,28 +92,31 @@ std::string FaultOfRepeats(const GameRules& rules, const std::vector<std::int16_
 }  // namespace
 
 std::optional<std::int16_t> PickIn(std::string_view text, int gameType) {
-    std::string trimmed = modUTILS::Trimmed(text);
-    if (trimmed.empty() || trimmed.size() > longestPick) {
+    if (text.empty() || text.size() > longestPick) {
         return std::nullopt;
     }
-    if (trimmed.find_first_not_of(digits) == std::string::npos) {
-        return static_cast<std::int16_t>(modUTILS::ValueOf(trimmed));
+    std::int16_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error == std::errc() && end == text.data() + text.size() && text.front() != '-') {
+        return number;
     }
     // The routine for cards checks no rank and wants no suit: only what turns back into the same text is a card.
-    const std::int16_t card = IsCardGame(gameType) ? TextToCard(trimmed) : std::int16_t{0};
-    return card > 0 && CardToText(card) == trimmed ? std::optional(card) : std::nullopt;
+    std::string card(text);
+    const std::int16_t value = IsCardGame(gameType) ? TextToCard(card) : std::int16_t{0};
+    return value > 0 && CardToText(value) == card ? std::optional(value) : std::nullopt;
 }
 
 CheckedDraw CheckDraw(const Fields& fields, const DrawColumns& columns, DateOrder dates, const GameRules& rules,
                       int lastDate) {
     CheckedDraw checked;
+    checked.draw.picks.reserve(columns.places.size());
     checked.fault = FaultOfWidth(fields, columns);
     if (checked.fault.empty()) {
         checked.fault = TakeDate(checked.draw, fields[columns.places.front()], dates, lastDate);
     }
     for (std::size_t pick = 0; pick + 1 < columns.places.size() && checked.fault.empty(); ++pick) {
         const std::string_view field = fields[columns.places[pick + 1]];
-        if (modUTILS::Trimmed(field).empty()) {
+        if (field.empty()) {
             checked.draw.picks.push_back(-1);
             continue;
         }

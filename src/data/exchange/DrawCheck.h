@@ -24,8 +24,8 @@ struct CheckedDraw {
 [[nodiscard]] CheckedDraw CheckDraw(const Fields& fields, const DrawColumns& columns, DateOrder dates,
                                     const GameRules& rules, int lastDate);
 
-/// The pick that a text holds: a number, or in a card game a card's text such as "Ah" or "10c" too. None for any other
-/// text, whatever the game's limits.
+/// The pick that a text without blanks holds: a number, or in a card game a card's text such as "Ah" or "10c" too. None
+/// for any other text, whatever the game's limits.
 [[nodiscard]] std::optional<std::int16_t> PickIn(std::string_view text, int gameType);
 
 }  // namespace ballhaven::data

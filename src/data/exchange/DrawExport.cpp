@@ -35,7 +35,8 @@ std::string CsvOfDraws(const GameRules& rules, std::vector<DrawOnFile> draws) {
     for (const DrawOnFile& draw : draws) {
         csv += IsoDate(draw.date);
         for (const std::int16_t pick : draw.picks) {
-            csv += "," + (pick < 0 ? std::string() : PickToText(pick, rules.gameType));
+            csv += ",";
+            csv += pick < 0 ? std::string() : PickToText(pick, rules.gameType);
         }
         csv += "\n";
     }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace ballhaven::data {
 
@@ -27,27 +28,29 @@ void LeaveOutOldest(MergedDraws& merged) {
 
 }  // namespace
 
-MergedDraws Merged(std::vector<DrawOnFile> ofGame, const std::vector<DrawOnFile>& incoming, bool replaces) {
+MergedDraws Merged(std::vector<DrawOnFile> ofGame, std::vector<DrawOnFile> incoming, bool replaces) {
     MergedDraws merged;
     SortByDate(ofGame);
     merged.draws = ofGame;
-    for (const DrawOnFile& draw : incoming) {
-        const auto rows = std::ranges::equal_range(ofGame, draw.date, {}, &DrawOnFile::date);
-        if (rows.empty()) {
-            merged.draws.push_back(draw);
+    for (DrawOnFile& draw : incoming) {
+        const auto first = std::ranges::lower_bound(ofGame, draw.date, {}, &DrawOnFile::date) - ofGame.begin();
+        const auto end = std::ranges::upper_bound(ofGame, draw.date, {}, &DrawOnFile::date) - ofGame.begin();
+        if (first == end) {
+            merged.draws.push_back(std::move(draw));
             ++merged.added;
             continue;
         }
-        const bool isAlike = std::ranges::all_of(rows, [&](const DrawOnFile& row) { return row.picks == draw.picks; });
+        const auto hasItsPicks = [&draw](const DrawOnFile& row) { return row.picks == draw.picks; };
+        const bool isAlike = std::all_of(ofGame.begin() + first, ofGame.begin() + end, hasItsPicks);
         (isAlike ? merged.alike : merged.different).push_back(draw.date);
-        for (auto row = rows.begin() - ofGame.begin(); replaces && row < rows.end() - ofGame.begin(); ++row) {
+        for (auto row = first; replaces && row < end; ++row) {
             merged.draws[static_cast<std::size_t>(row)].picks = draw.picks;
         }
     }
     SortByDate(merged.draws);
     LeaveOutOldest(merged);
     merged.leftOutOfGame = static_cast<int>(std::ranges::count_if(
-        ofGame, [&](const DrawOnFile& draw) { return !merged.leftOut.empty() && draw.date <= merged.leftOut.back(); }));
+        merged.leftOut, [&](int date) { return std::ranges::binary_search(ofGame, date, {}, &DrawOnFile::date); }));
     merged.changesGame = merged.draws != ofGame;
     return merged;
 }

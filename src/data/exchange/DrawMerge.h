@@ -19,7 +19,6 @@ struct MergedDraws {
 
 /// Brings draws, in ascending order of date and each date once, among those of a game. A draw whose date the game has
 /// already stays as it is, or takes the new picks if that is wanted, in each row of that date.
-[[nodiscard]] MergedDraws Merged(std::vector<DrawOnFile> ofGame, const std::vector<DrawOnFile>& incoming,
-                                 bool replaces);
+[[nodiscard]] MergedDraws Merged(std::vector<DrawOnFile> ofGame, std::vector<DrawOnFile> incoming, bool replaces);
 
 }  // namespace ballhaven::data

@@ -38,7 +38,8 @@ std::string TextOfSlot(const GameRules& rules, PickColumn list, std::int16_t slo
 std::string FieldsOf(const GameRules& rules, PickColumn list, Slots slots) {
     std::string fields;
     for (const std::int16_t slot : slots) {
-        fields += "," + TextOfSlot(rules, list, slot);
+        fields += ",";
+        fields += TextOfSlot(rules, list, slot);
     }
     return fields;
 }

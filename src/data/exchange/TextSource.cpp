@@ -9,7 +9,7 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr std::size_t chunkSize = 65'536;
+constexpr std::size_t chunkSize = 16'384;
 constexpr std::size_t longestQuote = 40;
 
 constexpr std::string_view markOfUtf8 = "\xEF\xBB\xBF";

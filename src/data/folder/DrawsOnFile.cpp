@@ -27,7 +27,11 @@ DrawsOnFile DrawsOf(std::string_view content, int picks) {
     file.digits = DateDigitsOf(WholeRecord(RecordOf(content, headerRecord)));
     std::vector<std::int16_t> cells(static_cast<std::size_t>(1 + picks));
     for (int record = firstDrawRecord; record <= drawFileRecords; ++record) {
-        if (DecodeDraw(WholeRecord(RecordOf(content, record)), file.digits, cells)) {
+        const std::string_view text = RecordOf(content, record);
+        if (text.empty()) {
+            break;
+        }
+        if (DecodeDraw(WholeRecord(text), file.digits, cells)) {
             file.draws.push_back({cells.front(), {cells.begin() + 1, cells.end()}});
         }
     }

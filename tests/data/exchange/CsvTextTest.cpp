@@ -76,8 +76,21 @@ TEST(CsvText, AFieldInQuotesHoldsDelimitersQuotesAndLineEnds) {
 }
 
 TEST(CsvText, AQuoteMayFollowBlanksAndTextMayFollowTheQuote) {
-    EXPECT_EQ(RecordsOf("1, \"2\" ,3"), (Records{{"1", "2 ", "3"}}));
+    EXPECT_EQ(RecordsOf("1, \"2\" ,3"), (Records{{"1", "2", "3"}}));
     EXPECT_EQ(RecordsOf("5\" disc,b"), (Records{{"5\" disc", "b"}}));
+}
+
+TEST(CsvText, BlanksAroundAFieldAreTakenOffUnlessTheyDivideFields) {
+    EXPECT_EQ(RecordsOf(" a ,\tb c\t\n"), (Records{{"a", "b c"}}));
+    EXPECT_EQ(RecordsOf("\" a \",b\n"), (Records{{"a", "b"}}));
+    EXPECT_EQ(RecordsOf("a\t\tb \n", '\t'), (Records{{"a", "", "b"}}));
+}
+
+TEST(CsvText, RecordsOfAllKindsMayFollowEachOther) {
+    const std::string longOne(2000, 'x');
+    EXPECT_EQ(RecordsOf("a,b\r\n\"c\",d\ne\rf\n" + longOne + ",g\n,h\n\ni"),
+              (Records{{"a", "b"}, {"c", "d"}, {"e"}, {"f"}, {longOne, "g"}, {"", "h"}, {"i"}}));
+    EXPECT_EQ(LinesOf("a\r\n\"c\"\ne\rf\n" + longOne + "\n\ni"), (std::vector<std::int64_t>{1, 2, 3, 4, 5, 7}));
 }
 
 TEST(CsvText, AQuoteThatNeverClosesIsToldWithItsLine) {

@@ -49,7 +49,7 @@ TEST(DrawCheck, TheColumnsSayWhichFieldsAreTheDraws) {
 }
 
 TEST(DrawCheck, AnEmptyFieldIsAnEmptyCell) {
-    EXPECT_EQ(Check({"1986-09-27", "", " ", "7"}).draw.picks, (Picks{-1, -1, 7}));
+    EXPECT_EQ(Check({"1986-09-27", "", "", "7"}).draw.picks, (Picks{-1, -1, 7}));
     EXPECT_EQ(FaultOf({"1986-09-27", "", "", ""}), "");
 }
 
@@ -126,9 +126,9 @@ TEST(DrawCheck, ABonusPickRepeatsAMainPickOnlyOutOfAPoolOfItsOwn) {
 
 TEST(PickIn, ANumberIsItsDigits) {
     EXPECT_EQ(PickIn("7", 0), 7);
-    EXPECT_EQ(PickIn(" 07 ", 2), 7);
+    EXPECT_EQ(PickIn("07", 2), 7);
     EXPECT_EQ(PickIn("999", 0), 999);
-    for (const char* text : {"", " ", "1 2", "7x", "x7", "+7", "0007", "7h"}) {
+    for (const char* text : {"", " ", "1 2", " 7", "7 ", "-1", "7x", "x7", "+7", "0007", "7h"}) {
         EXPECT_EQ(PickIn(text, 0), std::nullopt) << text;
     }
 }
@@ -139,9 +139,8 @@ TEST(PickIn, ACardIsItsTextInAnyCaseOrItsNumber) {
     EXPECT_EQ(PickIn("kS", 5), 52);
     EXPECT_EQ(PickIn("2d", 3), 28);
     EXPECT_EQ(PickIn("17", 3), 17);
-    for (const char* text : {"1h", "0h", "11h", "14h", "A", "h", "hA", "Ax", "Ahh", "1Ah", "10", "10h "}) {
-        const bool isOne = std::string_view(text) == "10" || std::string_view(text) == "10h ";
-        EXPECT_EQ(PickIn(text, 3).has_value(), isOne) << text;
+    for (const char* text : {"1h", "0h", "11h", "14h", "A", "h", "hA", "Ax", "Ahh", "1Ah", "10h ", "-1"}) {
+        EXPECT_EQ(PickIn(text, 3), std::nullopt) << text;
     }
 }
 
