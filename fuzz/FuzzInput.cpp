@@ -31,6 +31,10 @@ std::string FuzzInput::File(std::initializer_list<int> lengths) const {
     return file;
 }
 
+std::string FuzzInput::Rest() const {
+    return {bytes.begin() + static_cast<std::ptrdiff_t>(taken), bytes.end()};
+}
+
 std::int16_t FuzzInput::Value(int place) const {
     const auto first = static_cast<std::size_t>(place) * 2;
     return static_cast<std::int16_t>(At(first) * 256 + At(first + 1));

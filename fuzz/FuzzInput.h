@@ -21,6 +21,9 @@ class FuzzInput {
     /// changes its way, give or take a byte. So a short input reaches every record of a large file.
     [[nodiscard]] std::string File(std::initializer_list<int> lengths) const;
 
+    /// All bytes that are left.
+    [[nodiscard]] std::string Rest() const;
+
     /// The 16-bit integer at a place in the bytes that are left, which are repeated without end; 0 without bytes.
     [[nodiscard]] std::int16_t Value(int place) const;
 
