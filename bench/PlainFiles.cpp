@@ -47,7 +47,8 @@ std::string ReadPlainly(const std::string& path) {
     return bytes;
 }
 
-void SavePlainly(const std::string& directory, const std::string& name, std::string_view bytes) {
+void SavePlainly(const std::string& directory, const std::string& name, std::string_view bytes,
+                 const std::function<int(int file)>& flush) {
     const std::string path = directory + name;
     const std::string newPath = path + ".new";
     {
@@ -55,11 +56,11 @@ void SavePlainly(const std::string& directory, const std::string& name, std::str
         if (Checked(::write(file.Handle(), bytes.data(), bytes.size())) != std::ssize(bytes)) {
             throw std::system_error(ENOSPC, std::generic_category());
         }
-        Checked(::fsync(file.Handle()));
+        Checked(flush(file.Handle()));
     }
     Checked(std::rename(newPath.c_str(), path.c_str()));
     const PlainFile folder(directory, O_RDONLY | O_DIRECTORY);
-    Checked(::fsync(folder.Handle()));
+    Checked(flush(folder.Handle()));
 }
 
 }  // namespace ballhaven::bench

@@ -15,7 +15,7 @@ if [[ ! $runs =~ ^[1-9][0-9]*$ ]]; then
     sed -n '2,5s/^# \{0,1\}//p' bench/run.sh
     exit 2
 fi
-need_packages "${run_packages[@]}" libbenchmark-dev libsqlite3-dev xvfb jq
+need_packages "${run_packages[@]}" libbenchmark-dev libsqlite3-dev sqlite3 xvfb jq
 
 cmake --preset bench >/dev/null
 cmake --build --preset bench >&2

@@ -15,6 +15,7 @@ def works: [
     {name: "RedrawBoards", time: 16, text: "16 ms"},
     {name: "ScrollLog",  time: 2,    text: "2 ms a key"},
     {name: "TypePick",   time: 2,    text: "2 ms a key"},
+    {name: "Import",     ratio: 1.5, text: "1.5 times the rival beside the flushes"},
     {name: "DataReport", time: 1000, text: "1 s"},
     {name: "Start",      ratio: 1.25, text: "1.25 times the rival"}
 ];
@@ -48,5 +49,9 @@ def time: "\(.real_time | shown) \(unit)";
    | "", "`HotPairs` where there are more pairs than it takes, up to the failure: \(time)."),
   ($medians["GameSwitch/ours"].flushes_ms // empty
    | "", "The flushes of the slot that a switch stores, which are not in its time: \(shown) ms."),
+  ($medians["Import/ours"].flushes_ms // empty
+   | "", "The flushes of an import, which are not in its time: \(shown) ms."),
+  ($medians["Import/sqlite"] // empty
+   | "", "`Import` by SQLite\u0027s shell, its start included, without flushes: \(time)."),
   ($medians["Start/empty"] // empty
    | "", "The rival of `Start` without the word in its window: \(time).")
