@@ -24,7 +24,7 @@ int PickOfCell(const GameRules& rules, PickColumn list, int cell) {
 
 Picks PicksOfPlay(const GameRules& rules, const PlayPicks& plays, int play) {
     Picks picks;
-    for (int slot = 1; slot <= rules.mainPickCount; ++slot) {
+    for (int slot = 1; slot <= std::min(rules.mainPickCount, picksPerPlay); ++slot) {
         picks.main.push_back(PickOfCell(rules, mainPicks, plays(mainPicks, play, slot)));
     }
     for (int slot = 1; slot <= BonusSlots(rules); ++slot) {
@@ -48,7 +48,8 @@ bool HasNoMainPick(const Picks& picks) {
 bool HasAllMainPicks(const GameRules& rules, const Picks& picks) {
     std::vector<int> sorted = picks.main;
     std::ranges::sort(sorted);
-    return std::ranges::find(sorted, noPick) == sorted.end() &&
+    return !sorted.empty() && std::ssize(sorted) == rules.mainPickCount &&
+           std::ranges::find(sorted, noPick) == sorted.end() &&
            (rules.duplicatesAllowed || std::ranges::adjacent_find(sorted) == sorted.end());
 }
 

@@ -28,7 +28,7 @@ struct Picks {
 /// of the board that shows no pick.
 [[nodiscard]] int PickOfCell(const GameRules& rules, PickColumn list, int cell);
 
-/// The picks of a play (1 to 5000).
+/// The picks of a play (1 to 5000), which has ten main slots at most.
 [[nodiscard]] Picks PicksOfPlay(const GameRules& rules, const PlayPicks& plays, int play);
 
 /// The picks of a draw, in which the bonus picks follow the main ones.
@@ -37,7 +37,7 @@ struct Picks {
 /// Whether there is no main pick at all.
 [[nodiscard]] bool HasNoMainPick(const Picks& picks);
 
-/// Whether each slot of the main picks has one, and all are different unless the game lets them repeat.
+/// Whether there is each main pick that the game draws, one at least, and all are different unless they can repeat.
 [[nodiscard]] bool HasAllMainPicks(const GameRules& rules, const Picks& picks);
 
 /// The name of a play, such as "2.B".

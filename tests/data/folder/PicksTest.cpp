@@ -76,7 +76,20 @@ TEST(Picks, MainPicksAreAllThereOnlyWhereNoneIsMissingOrDouble) {
     EXPECT_TRUE(HasAllMainPicks(cards, {.main = {1, 2, 52}, .bonus = {noPick}}));
     EXPECT_FALSE(HasAllMainPicks(cards, {.main = {1, noPick, 52}}));
     EXPECT_FALSE(HasAllMainPicks(cards, {.main = {1, 2, 1}}));
+    EXPECT_FALSE(HasAllMainPicks(cards, {.main = {1, 2}}));
     EXPECT_TRUE(HasAllMainPicks(digits, {.main = {1, 2, 1}}));
+}
+
+TEST(Picks, NoPlayHasAllPicksOfARecordThatDrawsNoneOrMoreThanTen) {
+    PlayPicks plays = EmptyPlays();
+    PutPicks(plays, mainPicks, 1, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
+    GameRules damaged = sixOf49;
+    for (const int count : {0, 11, 99}) {
+        damaged.mainPickCount = count;
+        EXPECT_FALSE(HasAllMainPicks(damaged, PicksOfPlay(damaged, plays, 1))) << count;
+    }
+    damaged.mainPickCount = 10;
+    EXPECT_TRUE(HasAllMainPicks(damaged, PicksOfPlay(damaged, plays, 1)));
 }
 
 TEST(Picks, APlayWithBonusPicksAloneHasNoMainPick) {
