@@ -9,6 +9,11 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 build=$1
 seconds=$2
 
+# The compiler's commands without the headers that it compiled beforehand, which only itself can read.
+commands=$(mktemp -d)
+trap 'rm -rf "$commands"' EXIT
+sed -E 's/ -include (\\"[^"]*|[^ "]*)cmake_pch\.hxx(\\")?//' "$build/compile_commands.json" >"$commands/compile_commands.json"
+
 # The sources that the build compiles, by their names in the project.
 compiled=$(sed -n "s|^ *\"file\": \"$PWD/\(.*\.cpp\)\".*|\1|p" "$build/compile_commands.json" | sort -u)
 
@@ -35,7 +40,7 @@ if [[ -z $files ]]; then
     files=$({ git log --format= --name-only -- '*.cpp'; git ls-files '*.cpp'; } | sources_of)
 fi
 
-found=$(timeout "$seconds" xargs -n 1 -P "$(nproc)" clang-tidy-14 -p "$build" --quiet <<<"$files" 2>/dev/null)
+found=$(timeout "$seconds" xargs -n 1 -P "$(nproc)" clang-tidy-14 -p "$commands" --quiet <<<"$files" 2>/dev/null)
 status=$?
 if [[ $status == 124 ]]; then
     echo "clang-tidy: the time was up before all sources were looked through"
