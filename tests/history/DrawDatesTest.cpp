@@ -156,6 +156,37 @@ TEST_F(NewDraw, IsSavedAtOnceAndWaitsForTheTimer) {
     EXPECT_EQ(appState.pendingLogDate, SerialOf("12/31/1989"));
 }
 
+TEST_F(NewDraw, LeavesTheMarkOfTheFilesHeader) {
+    ShowLog(ThreeOfNine(), DailyDraws(2));
+    directory.Write("GAME01.CDB", directory.Read("GAME01.CDB").replace(11, 2, "AB"));
+    static_cast<void>(BeginNewDraw());
+    EXPECT_TRUE(TakeChosenDate("03/09/1990"));
+    EXPECT_EQ(directory.Read("GAME01.CDB").substr(11, 2), "AB");
+}
+
+TEST_F(NewDraw, InAFullTableTakesThePlaceOfTheFirstOne) {
+    std::vector<support::Draw> draws = DailyDraws(1000);
+    for (support::Draw& draw : draws) {
+        draw.picks = {1, 2, 3};
+    }
+    ShowLog(ThreeOfNine(), draws);
+    static_cast<void>(BeginNewDraw());
+    EXPECT_TRUE(TakeChosenDate("01/01/2000"));
+    EXPECT_EQ(appState.historyLast, 999);
+    EXPECT_EQ(appState.HistoryTable(0, 0), SerialOf("01/01/2000"));
+    EXPECT_EQ(appState.HistoryTable(0, 999), SerialOf("01/01/1990") + 999);
+}
+
+TEST_F(NewDraw, CanHaveTheSecondDayOfTheCalendarAndNotTheFirst) {
+    ShowLog(ThreeOfNine(), DailyDraws(2));
+    static_cast<void>(BeginNewDraw());
+    EXPECT_TRUE(TakeChosenDate("01/01/1984"));
+    EXPECT_EQ(appState.historyLast, 1);
+    EXPECT_TRUE(TakeChosenDate("01/02/1984"));
+    EXPECT_EQ(appState.historyLast, 2);
+    EXPECT_EQ(appState.HistoryTable(0, 2), 1);
+}
+
 TEST_F(NewDraw, WithADateThatExistsIsRefusedAndTheCalendarStaysForAnother) {
     ShowLog(ThreeOfNine(), DailyDraws(4));
     const std::string before = directory.Read("GAME01.CDB");
@@ -202,6 +233,14 @@ TEST_F(DateChange, ToTheSameDateClosesWithoutAQuestion) {
     EXPECT_TRUE(ChangeDate(" 01/02/1990 "));
     EXPECT_EQ(boxes.Answered(), 0U);
     EXPECT_EQ(appState.pendingLogDate, 0);
+}
+
+TEST_F(DateChange, WaitsForTheTimerUnderItsNewDate) {
+    ShowLog(ThreeOfNine(), DailyDraws(3));
+    GoToDate("01/02/1990");
+    ExpectChangeQuestion(BoxAnswer::Yes);
+    EXPECT_TRUE(ChangeDate("01/09/1990"));
+    EXPECT_EQ(appState.pendingLogDate, SerialOf("01/09/1990"));
 }
 
 TEST_F(DateChange, AnsweredWithNoClosesAndChangesNothing) {
