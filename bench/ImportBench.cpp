@@ -48,7 +48,8 @@ std::string DrawsAsCsv() {
                Field(static_cast<int>(static_cast<unsigned>(date.month())), "%02d-") +
                Field(static_cast<int>(static_cast<unsigned>(date.day())), "%02d");
         for (int pick = 0; pick < picksOfDraw; ++pick) {
-            csv += "," + std::to_string((draw * 7 + pick * 8) % highestPick + 1);
+            csv += ",";
+            csv += std::to_string((draw * 7 + pick * 8) % highestPick + 1);
         }
         csv += "\n";
     }

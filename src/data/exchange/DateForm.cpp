@@ -238,47 +238,32 @@ int SerialOf(const year_month_day& date) {
 
 void DateOrderFinder::Look(std::string_view text, std::int64_t line) {
     const std::optional<WrittenDate> written = Written(text);
+    if (written && YearIsFirst(*written)) {
+        decided = DateOrder::yearFirst;
+    }
     if (!written || !YearIsLast(*written)) {
         return;
     }
     yearStandsLast = true;
     const std::optional<year_month_day> monthFirst = DateOf(*written, DateOrder::monthFirst);
     const std::optional<year_month_day> dayFirst = DateOf(*written, DateOrder::dayFirst);
-    if (monthFirst->ok() && !dayFirst->ok()) {
-        Note(onlyMonthFirst, text, line);
-    } else if (dayFirst->ok() && !monthFirst->ok()) {
-        Note(onlyDayFirst, text, line);
-    } else if (monthFirst->ok() && monthFirst != dayFirst) {
-        if (written->separator == '.') {
-            hasPoints = true;
-        } else {
-            Note(either, text, line);
-        }
-    }
-}
-
-void DateOrderFinder::Note(std::optional<Sight>& sight, std::string_view text, std::int64_t line) {
-    if (!sight) {
-        sight = Sight{line, std::string(text)};
+    if (monthFirst->ok() != dayFirst->ok()) {
+        decided = monthFirst->ok() ? DateOrder::monthFirst : DateOrder::dayFirst;
+    } else if (monthFirst->ok() && written->separator == '.') {
+        decided = DateOrder::dayFirst;
+    } else if (monthFirst->ok() && monthFirst != dayFirst && readInTwoWays.empty()) {
+        readInTwoWays = Quoted(text) + " in line " + std::to_string(line);
     }
 }
 
 DateOrder DateOrderFinder::Order() const {
-    const auto shown = [](const Sight& sight) { return Quoted(sight.text) + " in line " + std::to_string(sight.line); };
-    if (onlyMonthFirst && onlyDayFirst) {
-        throw Refusal("the day stands first in the date " + shown(*onlyDayFirst) + ", the month in " +
-                      shown(*onlyMonthFirst) + "; say with --dates d.m.y or --dates m/d/y which is right");
+    if (decided) {
+        return *decided;
     }
-    if (onlyMonthFirst || onlyDayFirst) {
-        return onlyMonthFirst ? DateOrder::monthFirst : DateOrder::dayFirst;
-    }
-    if (either) {
-        throw Refusal("the date " + shown(*either) +
+    if (!readInTwoWays.empty()) {
+        throw Refusal("the date " + readInTwoWays +
                       ", as all others, can be read with the day or the month first; say with --dates d.m.y or "
                       "--dates m/d/y which it is");
-    }
-    if (hasPoints) {
-        return DateOrder::dayFirst;
     }
     return yearStandsLast ? DateOrder::monthFirst : DateOrder::yearFirst;
 }

@@ -26,30 +26,22 @@ enum class DateOrder { monthFirst, dayFirst, yearFirst };
 /// The days from 1 January 1984 to a date of the calendar.
 [[nodiscard]] int SerialOf(const std::chrono::year_month_day& date);
 
-/// Finds the order of the dates of a column by looking at all of them.
+/// Finds the order of the dates of a column by looking at one after the other, until one decides. The first that is a
+/// day of the calendar in a single order does; so do a year that stands first, and points, which put the day first.
 class DateOrderFinder {
   public:
     /// Looks at the text of a date in a line. What is no date tells nothing.
     void Look(std::string_view text, std::int64_t line);
 
-    /// The only order in which all dates seen are days of the calendar; with points between them the day stands first.
-    /// Throws Refusal where two orders are left, and where some dates ask for the one and some for the other.
+    [[nodiscard]] bool IsDecided() const { return decided.has_value(); }
+
+    /// The order. Throws Refusal where every date seen can be read in two.
     [[nodiscard]] DateOrder Order() const;
 
   private:
-    /// A date that tells something, the first of its kind.
-    struct Sight {
-        std::int64_t line = 0;
-        std::string text;
-    };
-
-    static void Note(std::optional<Sight>& sight, std::string_view text, std::int64_t line);
-
-    std::optional<Sight> onlyMonthFirst;
-    std::optional<Sight> onlyDayFirst;
-    std::optional<Sight> either;
+    std::optional<DateOrder> decided;
+    std::string readInTwoWays;  ///< the first such date, as it is told; empty without one
     bool yearStandsLast = false;
-    bool hasPoints = false;
 };
 
 }  // namespace ballhaven::data

@@ -44,7 +44,8 @@ std::string TakeDate(DrawOnFile& draw, std::string_view field, DateOrder dates, 
         return Quoted(field) + " is no date of the form " + std::string(NameOf(dates));
     }
     if (!date->ok()) {
-        return Quoted(field) + " is no day of the calendar";
+        return Quoted(field) + " is no day of the calendar" +
+               (dates == DateOrder::yearFirst ? "" : " with dates " + std::string(NameOf(dates)));
     }
     const int serial = SerialOf(*date);
     if (const std::string fault = FaultOfSerial(serial, lastDate); !fault.empty()) {

@@ -27,16 +27,16 @@ bool HasHeader(const Fields& first, const GivenForm& given, int picks) {
     return !HasDigit(DateField(first, ChosenColumns(given.columns, picks, {})));
 }
 
-/// The order of the dates in this record and in all that follow it.
+/// The order of the dates in this record and in those that follow it, as far as it takes to know.
 DateOrder OrderOfDates(CsvText& text, const DrawColumns& columns, bool passesFirst) {
     DateOrderFinder finder;
-    bool hasDraw = false;
-    for (bool takes = !passesFirst || text.Next(); takes; takes = text.Next()) {
-        finder.Look(DateField(text.Fields(), columns), text.Line());
-        hasDraw = true;
-    }
+    bool hasDraw = !passesFirst || text.Next();
     if (!hasDraw) {
         throw Refusal("it holds a header and no draw");
+    }
+    while (hasDraw && !finder.IsDecided()) {
+        finder.Look(DateField(text.Fields(), columns), text.Line());
+        hasDraw = text.Next();
     }
     return finder.Order();
 }

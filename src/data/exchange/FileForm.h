@@ -26,8 +26,8 @@ struct FileForm {
 };
 
 /// Recognises the form of a file of draws with `picks` picks each: the delimiter by the first lines, a header by a date
-/// without a digit in the first line, the order of the dates by all of them. Leaves the stream at its beginning. Throws
-/// Refusal where it is not clear, or where the file holds no draw.
+/// without a digit in the first line, the order of the dates as `DateOrderFinder` does. Leaves the stream at its
+/// beginning. Throws Refusal where it is not clear, or where the file holds no draw.
 [[nodiscard]] FileForm RecognisedForm(std::istream& bytes, const GivenForm& given, int picks);
 
 }  // namespace ballhaven::data

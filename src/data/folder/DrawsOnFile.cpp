@@ -58,7 +58,7 @@ std::string ContentOf(const DrawsOnFile& file, const std::optional<std::string>&
     for (const DrawOnFile& draw : std::span(file.draws).first(std::min<std::size_t>(file.draws.size(), historyRows))) {
         cells.assign(1, draw.date);
         cells.insert(cells.end(), draw.picks.begin(), draw.picks.end());
-        content += WholeRecord(EncodeDraw(cells, file.digits));
+        content += EncodeDraw(cells, file.digits);
     }
     content.resize(std::size_t{drawRecordLength} * drawFileRecords, ' ');
     return content;

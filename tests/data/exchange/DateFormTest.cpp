@@ -125,32 +125,41 @@ TEST(DateOrderFinder, ADayAboveTwelveInOneLineDecidesForAll) {
     EXPECT_EQ(OrderOf({"01-02-2011", "21-05-2011"}), dayFirst);
 }
 
-TEST(DateOrderFinder, PointsPutTheDayFirstUnlessALineSaysOtherwise) {
-    EXPECT_EQ(OrderOf({"01.02.2011", "03.04.2011"}), dayFirst);
-    EXPECT_EQ(OrderOf({"01.02.2011", "05.21.2011"}), monthFirst);
+TEST(DateOrderFinder, PointsPutTheDayFirstWhereThatIsADate) {
+    EXPECT_EQ(OrderOf({"01.02.2011"}), dayFirst);
+    EXPECT_EQ(OrderOf({"05.21.2011"}), monthFirst);
 }
 
-TEST(DateOrderFinder, DatesThatTellThemselvesNeedNoOrder) {
-    EXPECT_EQ(OrderOf({"2011-01-02", "3 May 2011", "nonsense"}), yearFirst);
-    EXPECT_EQ(OrderOf({"05/05/2011"}), monthFirst) << "the same day in both orders";
+TEST(DateOrderFinder, AYearThatStandsFirstDecides) {
+    EXPECT_EQ(OrderOf({"2011-01-02"}), yearFirst);
+    EXPECT_EQ(OrderOf({"01/02/2011", "2011-01-02"}), yearFirst);
+}
+
+TEST(DateOrderFinder, DatesThatAreTheSameInBothOrdersNeedNone) {
+    EXPECT_EQ(OrderOf({"05/05/2011"}), monthFirst);
+    EXPECT_EQ(OrderOf({"3 May 2011", "nonsense"}), yearFirst);
     EXPECT_EQ(OrderOf({}), yearFirst);
 }
 
 TEST(DateOrderFinder, AFaultyDateDecidesNothing) {
     EXPECT_EQ(OrderOf({"31/02/2011", "21/05/2011"}), dayFirst);
     EXPECT_EQ(OrderOf({"45/99/2011", "05/21/2011"}), monthFirst);
+    EXPECT_EQ(OrderOf({"45.99.2011", "05/21/2011"}), monthFirst);
+}
+
+TEST(DateOrderFinder, KnowsWhenItIsDecided) {
+    DateOrderFinder finder;
+    finder.Look("05/06/2011", 1);
+    finder.Look("07/07/2011", 2);
+    EXPECT_FALSE(finder.IsDecided());
+    finder.Look("13/07/2011", 3);
+    EXPECT_TRUE(finder.IsDecided());
 }
 
 TEST(DateOrderFinder, TwoOrdersThatAreLeftAreAskedFor) {
     EXPECT_EQ(RefusalOf({"header", "05/06/2011", "07/08/2011"}),
               "the date \"05/06/2011\" in line 2, as all others, can be read with the day or the month first; say with "
               "--dates d.m.y or --dates m/d/y which it is");
-}
-
-TEST(DateOrderFinder, LinesThatContradictEachOtherAreNamed) {
-    EXPECT_EQ(RefusalOf({"05/21/2011", "01/02/2011", "21/05/2011"}),
-              "the day stands first in the date \"21/05/2011\" in line 3, the month in \"05/21/2011\" in line 1; say "
-              "with --dates d.m.y or --dates m/d/y which is right");
 }
 
 }  // namespace

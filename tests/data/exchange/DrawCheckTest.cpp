@@ -61,6 +61,10 @@ TEST(DrawCheck, ALineOfAnotherWidthHasAFault) {
 
 TEST(DrawCheck, ADateHasToBeADayOfTheCalendar) {
     EXPECT_EQ(FaultOf({"2011-02-31", "1", "2", "3"}), "\"2011-02-31\" is no day of the calendar");
+    const DrawColumns columns = ChosenColumns("", 3, {});
+    const Fields monthAboveTwelve{"21/05/2010", "1", "2", "3"};
+    EXPECT_EQ(CheckDraw(monthAboveTwelve, columns, DateOrder::monthFirst, threeOf49, lastDateOfFourDigits).fault,
+              "\"21/05/2010\" is no day of the calendar with dates m/d/y");
     EXPECT_EQ(FaultOf({"soon", "1", "2", "3"}), "\"soon\" is no date of the form y-m-d");
     EXPECT_EQ(FaultOf({"", "1", "2", "3"}), "\"\" is no date of the form y-m-d");
 }

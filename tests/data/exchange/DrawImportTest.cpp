@@ -45,6 +45,13 @@ TEST(ImportDraws, EveryFaultHasItsLine) {
     EXPECT_EQ(imported.draws, (Draws{{1, {1, 2}}}));
 }
 
+TEST(ImportDraws, DatesOfAnotherOrderThanTheFirstThatTellsItAreFaults) {
+    EXPECT_EQ(FaultsOf(Import("02/01/1984,1,2\n01/25/1984,1,2\n25/01/1984,1,2\n")),
+              (Faults{{3, "\"25/01/1984\" is no day of the calendar with dates m/d/y"}}));
+    EXPECT_EQ(FaultsOf(Import("1984-01-25,1,2\n01/26/1984,1,2\n")),
+              (Faults{{2, "\"01/26/1984\" is no date of the form y-m-d"}}));
+}
+
 TEST(ImportDraws, ADateThatTheFileHasTwiceIsAFaultOfTheSecondLine) {
     const ImportedDraws imported = Import("1984-01-02,1,2\n1984-01-03,1,2\n2 Jan 1984,3,4\n");
     EXPECT_EQ(FaultsOf(imported), (Faults{{3, "1984-01-02 is the date of line 1 too"}}));
