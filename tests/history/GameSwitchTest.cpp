@@ -107,6 +107,15 @@ TEST_F(SwitchingGames, AStoredSlotOutsideTheTwentyCountsAsTheFirst) {
     }
 }
 
+TEST_F(SwitchingGames, TheFirstAndTheLastSlotAreSlots) {
+    for (const int slot : {1, 20}) {
+        appState.currentGame = 0;
+        StoreSystem(slot == 1 ? "01" : "20", "1");
+        SwitchGame();
+        EXPECT_EQ(appState.currentGame, slot);
+    }
+}
+
 TEST_F(SwitchingGames, AFirstStartInAnEmptyFolderCreatesAllFourFilesInFullSize) {
     SwitchGame();
     EXPECT_EQ(directory.Read("LOTTOSYS").size(), 1344U);
@@ -418,6 +427,14 @@ TEST_F(RefreshingTheHistory, SaysSoWhereTheDateIsNotInTheSetAndGoesToTheNewestDr
     EXPECT_EQ(frmMainForm.grdHist.CurrentColumn(), 0);
 }
 
+TEST_F(RefreshingTheHistory, FindsTheDrawInTheFirstRowOfTheSetToo) {
+    const support::MessageScript boxes;
+    RefreshHistory(support::SerialOf("01/16/1990"));
+    EXPECT_EQ(boxes.Answered(), 0U);
+    EXPECT_EQ(frmMainForm.grdHist.CurrentRow(), 0);
+    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/16/1990");
+}
+
 TEST_F(RefreshingTheHistory, SaysNothingWhileANewDrawsDateIsBeingChosen) {
     support::MessageScript boxes;
     appState.pendingLogDate = -1;
@@ -436,6 +453,10 @@ TEST_F(RefreshingTheHistory, AnEmptyHistoryHasTablesOfOneRow) {
     EXPECT_EQ(appState.hotPairTable.Rows(), 1);
     EXPECT_EQ(appState.pairedOnceTable.Rows(), 1);
     EXPECT_EQ(appState.repeaterTable.Rows(), 1);
+    EXPECT_TRUE(appState.hotNumberTable.Has(3, 0));
+    EXPECT_TRUE(appState.hotPairTable.Has(3, 0));
+    EXPECT_TRUE(appState.pairedOnceTable.Has(2, 0));
+    EXPECT_TRUE(appState.repeaterTable.Has(2, 0));
     EXPECT_EQ(frmMainForm.grdHist.RowCount(), 0);
     EXPECT_EQ(frmMainForm.grdHot.RowCount(), 0);
 }
@@ -468,6 +489,17 @@ TEST_F(RefreshingTheHistory, DirtyPlaysAndDrawsAreSavedHistoryFirst) {
     EXPECT_EQ(directory.Read("GAME01.CDB").substr(64 + 5, 2), "33");
     EXPECT_EQ(directory.Read("PLAYS01.CDB").substr(5, 2), "12");
     EXPECT_FALSE(appState.historyDirty || appState.playsDirty);
+}
+
+TEST_F(RefreshingTheHistory, TheMarkOfTheFilesHeaderStaysWhenItIsSaved) {
+    const auto saved = [this](void (*save)()) {
+        directory.Write("GAME01.CDB", directory.Read("GAME01.CDB").replace(11, 2, "AB"));
+        appState.historyDirty = true;
+        save();
+        return directory.Read("GAME01.CDB").substr(11, 2);
+    };
+    EXPECT_EQ(saved([] { RefreshHistory(-1); }), "AB");
+    EXPECT_EQ(saved(SaveWhatIsDirty), "AB");
 }
 
 }  // namespace
