@@ -77,6 +77,10 @@ void SetLimits(GameRules& rules, const std::string& record) {
 
 }  // namespace
 
+std::string NewSystemRecord() {
+    return modUTILS::FixedWidth("01/1/1/000000", gameRecordLength);
+}
+
 std::string BuildDefaultGameRecord(int slot, int gameType) {
     const bool hasBonus = HasBonus(gameType);
     std::string record(gameRecordLength, ' ');

@@ -7,6 +7,9 @@
 
 namespace ballhaven {
 
+/// Record 1 of a new table of games: slot 1 is shown, the oldest draw stands first, nothing is chosen for printing.
+[[nodiscard]] std::string NewSystemRecord();
+
 /// The text of an unused slot's record for a kind of game (0 to 5).
 [[nodiscard]] std::string BuildDefaultGameRecord(int slot, int gameType);
 

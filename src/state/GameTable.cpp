@@ -6,15 +6,12 @@
 #include "state/MendedFolder.h"
 #include "state/RecordFile.h"
 
-#include <string_view>
-
 namespace ballhaven {
 
 namespace {
 
 constexpr int gameTableRecords = 1 + gameSlots;
 constexpr int systemRecordNumber = 1;
-constexpr std::string_view createdSystemRecord = "01/1/1/000000";
 
 RecordFile OpenedGameTable(const std::string& directory) {
     return {directory + "LOTTOSYS", gameRecordLength, gameTableRecords};
@@ -37,7 +34,7 @@ void OpenGameTable() {
     // QUIRK GAME-TABLE-ONE-RECORD-1: a table of one record, 64 bytes, counts as empty and is built anew, settings
     // included. Reading the record and going on would make every slot a blank game without a name.
     if (file.Length() == 0 || file.Length() == gameRecordLength) {
-        file.Write(systemRecordNumber, createdSystemRecord);
+        file.Write(systemRecordNumber, NewSystemRecord());
         for (int slot = 1; slot <= gameSlots; ++slot) {
             file.Write(RecordNumberOf(slot), BuildDefaultGameRecord(slot, 0));
         }

@@ -1,0 +1,125 @@
+#include "data/checks/HistoryRows.h"
+
+#include "data/folder/IsoDate.h"
+
+#include <algorithm>
+#include <map>
+#include <span>
+
+namespace ballhaven::data {
+
+namespace {
+
+using Rows = std::vector<HistoryRow>;
+using RowSpan = std::span<const HistoryRow>;
+
+// Where a file keeps four digits of a date, what was 10000 to 32767 comes back as 1000 to 3276.
+constexpr int lowestCutDate = 1000;
+constexpr int highestCutDate = 3276;
+constexpr int lastYearsOfFourDigits = 9000;  // from 2008-08-22 on
+
+bool HoldsDraw(const HistoryRow& row) {
+    return row.date > 0;
+}
+
+std::string RecordsText(int first, int last) {
+    return first == last ? "record " + std::to_string(first)
+                         : "records " + std::to_string(first) + " to " + std::to_string(last);
+}
+
+/// Keeps a finding for each run of rows without a draw between those with one. Returns whether there is any.
+bool CheckHoles(Examination& examination, RowSpan rows) {
+    const auto last = std::ranges::find_if(rows.rbegin(), rows.rend(), HoldsDraw).base();
+    bool found = false;
+    for (auto row = rows.begin(); row < last;) {
+        const auto hole = std::find_if_not(row, last, HoldsDraw);
+        row = std::find_if(hole, last, HoldsDraw);
+        if (hole != row) {
+            found = true;
+            examination.Mend("no draw stands in " + RecordsText(hole->record, (row - 1)->record) + ", before others",
+                             "As many of the newest draws are hidden, and the next ones take their places.");
+        }
+    }
+    return found;
+}
+
+bool LooksCut(const HistoryRow& before, const HistoryRow& row) {
+    return before.date >= lastYearsOfFourDigits && row.date >= lowestCutDate && row.date <= highestCutDate;
+}
+
+/// How many of the draws, from the first on, stand before those whose dates have lost their last digit.
+std::size_t CountBeforeCutDates(RowSpan draws, DateDigits digits) {
+    const auto cut = digits == DateDigits::Four ? std::ranges::adjacent_find(draws, LooksCut) : draws.end();
+    return cut == draws.end() ? draws.size() : static_cast<std::size_t>(cut + 1 - draws.begin());
+}
+
+void ReportCutDates(Examination& examination, RowSpan cut) {
+    examination.Leave("the draws in " + RecordsText(cut.front().record, cut.back().record) + " are dated from " +
+                          IsoDate(cut.front().date) + " on, behind newer ones",
+                      "A file of an ordinary folder keeps no date after 2011-05-18: these have lost their last digit. "
+                      "Delete them, mark the folder with \"ballhaven-data mend\", and import them again.");
+}
+
+bool CheckAscending(Examination& examination, RowSpan draws) {
+    bool ascending = true;
+    for (std::size_t place = 1; place < draws.size(); ++place) {
+        if (draws[place].date < draws[place - 1].date) {
+            ascending = false;
+            examination.BeginRecord(draws[place].record, DrawSubject(draws[place].date));
+            examination.Mend("stands behind the draw of " + IsoDate(draws[place - 1].date),
+                             "The last draws are counted by their rows, so that wrong ones may be.");
+        }
+    }
+    return ascending;
+}
+
+void CheckDatedTwice(Examination& examination, RowSpan draws) {
+    std::map<int, int> recordOfDate;
+    for (const HistoryRow& draw : draws) {
+        const auto [first, isNew] = recordOfDate.emplace(draw.date, draw.record);
+        if (!isNew) {
+            examination.BeginRecord(draw.record, DrawSubject(draw.date));
+            examination.Leave("has the date of record " + std::to_string(first->second),
+                              "Give one of them its right date in Ballhaven, or delete it.");
+        }
+    }
+}
+
+void PutRows(Examination& examination, const Rows& rows) {
+    int record = firstDrawRecord;
+    for (const HistoryRow& row : rows) {
+        examination.PutRecord(record++, row.text);
+    }
+    for (; record <= drawFileRecords; ++record) {
+        examination.PutRecord(record, "");
+    }
+}
+
+}  // namespace
+
+std::string DrawSubject(int date) {
+    return "draw of " + IsoDate(date);
+}
+
+void CheckRowOrder(Examination& examination, const Rows& rows, DateDigits digits) {
+    examination.EndRecords();
+    const bool holes = CheckHoles(examination, rows);
+    Rows closed = rows;
+    const auto noDraws = std::stable_partition(closed.begin(), closed.end(), HoldsDraw);
+    const RowSpan draws(closed.begin(), noDraws);
+    const std::size_t dated = CountBeforeCutDates(draws, digits);
+    const bool ascending = CheckAscending(examination, draws.first(dated));
+    CheckDatedTwice(examination, draws.first(dated));
+    examination.EndRecords();
+    if (dated < draws.size()) {
+        ReportCutDates(examination, draws.subspan(dated));
+    }
+    if (holes || !ascending) {
+        std::stable_sort(closed.begin(), closed.begin() + static_cast<std::ptrdiff_t>(dated),
+                         [](const HistoryRow& a, const HistoryRow& b) { return a.date < b.date; });
+        std::erase_if(closed, [](const HistoryRow& row) { return IsBlank(row.text); });
+        PutRows(examination, closed);
+    }
+}
+
+}  // namespace ballhaven::data

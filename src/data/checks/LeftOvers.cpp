@@ -1,0 +1,65 @@
+#include "data/checks/LeftOvers.h"
+
+#include "data/folder/FolderFiles.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+
+namespace ballhaven::data {
+
+namespace {
+
+constexpr const char* changeList = "CHANGE";
+constexpr std::string_view unsavedEnding = ".new";  // of a file that was being saved
+constexpr std::string_view stagedEnding = ".next";  // of a file that was to be changed with others
+constexpr const char* copiesFolder = "copies";
+
+std::string WithoutEnding(const std::string& name, std::string_view ending) {
+    return name.ends_with(ending) ? name.substr(0, name.size() - ending.size()) : std::string();
+}
+
+bool IsLeftOver(const std::string& name, const std::vector<std::string>& names, bool changeIsDecided) {
+    const std::string unsaved = WithoutEnding(name, unsavedEnding);
+    const std::string staged = WithoutEnding(name, stagedEnding);
+    const auto isOurs = [&names](const std::string& stem) { return std::ranges::find(names, stem) != names.end(); };
+    return unsaved == changeList || isOurs(unsaved) || (!changeIsDecided && isOurs(staged));
+}
+
+std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+}  // namespace
+
+bool HasDecidedChange(const std::string& directory) {
+    return std::filesystem::exists(std::filesystem::path(directory) / changeList);
+}
+
+std::vector<std::string> FindLeftOvers(const std::string& directory) {
+    std::vector<std::string> ours;
+    std::ranges::transform(AllFolderFiles(), std::back_inserter(ours), &FolderFile::name);
+    const bool changeIsDecided = HasDecidedChange(directory);
+    std::vector<std::string> leftOvers;
+    for (const std::string& name : NamesIn(directory)) {
+        if (IsLeftOver(name, ours, changeIsDecided)) {
+            leftOvers.push_back(name);
+        }
+    }
+    const std::filesystem::path copies = std::filesystem::path(directory) / copiesFolder;
+    if (std::filesystem::is_directory(copies)) {
+        for (const std::string& name : NamesIn(copies)) {
+            if (!WithoutEnding(name, unsavedEnding).empty()) {
+                leftOvers.push_back(std::string(copiesFolder) + "/" + name);
+            }
+        }
+    }
+    return leftOvers;
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,159 @@
+#include "data/checks/PickFilesCheck.h"
+
+#include "data/folder/Picks.h"
+#include "plays/PlayMethodCode.h"
+#include "plays/PlayRecord.h"
+#include "state/AppState.h"
+#include "state/GameRules.h"
+
+#include <algorithm>
+
+namespace ballhaven::data {
+
+namespace {
+
+constexpr int pickWidth = 2;
+constexpr const char* lookAtIt = "Look at it in Ballhaven.";
+
+// A play's record: its method, then the main and the bonus picks.
+constexpr RecordField playMethodField{1, methodCodeWidth};
+
+constexpr RecordField PlayPickField(PickColumn list, int slot) {
+    return {3 * (list * picksPerPlay + slot) + 3, pickWidth};
+}
+
+// A record of chosen picks: the picks, then the method of a main list.
+constexpr RecordField chosenMethodField{300, methodCodeWidth};
+
+constexpr RecordField ChosenPickField(int pick) {
+    return {3 * pick - 2, pickWidth};
+}
+
+std::string NameOfPick(PickColumn list, int slot) {
+    return (list == mainPicks ? "main pick " : "bonus pick ") + std::to_string(slot);
+}
+
+bool IsMethodCode(const std::string& code) {
+    return std::ranges::find(methodCodes, code) != methodCodes.end();
+}
+
+/// How many picks of a list belong to the game's plays; none where its rules are not known.
+int PicksOf(const GameOnFile& game, PickColumn list) {
+    if (!game.defined || game.rules.gameType > 5) {
+        return 0;
+    }
+    return list == mainPicks ? game.rules.mainPickCount : BonusSlots(game.rules);
+}
+
+/// Whether a pick is on the game's board. The first cell always counts as one: it stands in places that a report of the
+/// plays has sorted.
+bool IsOnBoard(const GameRules& rules, PickColumn list, int cell) {
+    return cell == 0 || PickOfCell(rules, list, cell) != noPick;
+}
+
+/// Looks at the fields of picks of a record at hand.
+class PickFieldCheck {
+  public:
+    PickFieldCheck(Examination& fileExamination, const GameOnFile& ofGame)
+        : examination(fileExamination), game(ofGame) {}
+
+    void Check(const std::string& record, RecordField columns, PickColumn list, int slot, bool ofTheGame) {
+        const std::string text = FieldText(record, columns);
+        if (IsBlank(text)) {
+            return;
+        }
+        const NamedField field{columns, NameOfPick(list, slot)};
+        if (const std::optional<int> pick = NumberIn(text); !pick) {
+            examination.LeaveField(
+                field, "no number",
+                "Ballhaven reads it as cell " + std::to_string(modUTILS::PickOfField(text)) + " of the board.");
+        } else if (ofTheGame && !IsOnBoard(game.rules, list, *pick)) {
+            examination.LeaveField(field, "no cell of the game's board", lookAtIt);
+        }
+    }
+
+  private:
+    Examination& examination;
+    const GameOnFile& game;
+};
+
+void CheckMethod(Examination& examination, const std::string& record, RecordField columns) {
+    if (!IsMethodCode(FieldText(record, columns))) {
+        examination.MendField({columns, "how the plays were made"}, methodCodes[byHand],
+                              "Ballhaven takes them for made by hand.");
+    }
+}
+
+std::vector<bool> PlayColumns() {
+    std::vector<RecordField> fields{playMethodField};
+    for (const PickColumn list : {mainPicks, bonusPicks}) {
+        for (int slot = 1; slot <= picksPerPlay; ++slot) {
+            fields.push_back(PlayPickField(list, slot));
+        }
+    }
+    return ColumnsOf(fields, playRecordLength);
+}
+
+std::vector<bool> ChosenColumns(int recordLength) {
+    std::vector<RecordField> fields{chosenMethodField};
+    for (int pick = 1; pick <= chosenPicks; ++pick) {
+        fields.push_back(ChosenPickField(pick));
+    }
+    return ColumnsOf(fields, recordLength);
+}
+
+}  // namespace
+
+CheckedFile CheckPlayFile(const FoundFile& found, const GameOnFile& game) {
+    Examination examination(found);
+    if (!CheckLength(examination, found, olderPlayFileRecords)) {
+        return std::move(examination).Result();
+    }
+    const std::vector<bool> columns = PlayColumns();
+    PickFieldCheck picks(examination, game);
+    for (int play = 1; play <= playCount; ++play) {
+        const std::string record = examination.Record(play);
+        if (IsBlank(record)) {
+            continue;
+        }
+        examination.BeginRecord(play, "play " + NameOfPlay(play));
+        if (!examination.IsText("Ballhaven reads what numbers it finds there. Look at the play.")) {
+            continue;
+        }
+        CheckMethod(examination, record, playMethodField);
+        for (const PickColumn list : {mainPicks, bonusPicks}) {
+            for (int slot = 1; slot <= picksPerPlay; ++slot) {
+                picks.Check(record, PlayPickField(list, slot), list, slot, slot <= PicksOf(game, list));
+            }
+        }
+        examination.MendUnused(columns, StrayDigits::Leave);
+    }
+    return std::move(examination).Result();
+}
+
+CheckedFile CheckChosenPicksFile(const FoundFile& found, const std::vector<GameOnFile>& games) {
+    Examination examination(found);
+    if (!CheckLength(examination, found, gameSlots)) {
+        return std::move(examination).Result();
+    }
+    const std::vector<bool> columns = ChosenColumns(found.form.recordLength);
+    for (int recordNumber = 1; recordNumber <= 2 * gameSlots; ++recordNumber) {
+        const PickColumn list = recordNumber <= gameSlots ? mainPicks : bonusPicks;
+        const GameOnFile& game = games[static_cast<std::size_t>((recordNumber - 1) % gameSlots)];
+        const std::string record = examination.Record(recordNumber);
+        examination.BeginRecord(recordNumber, std::string(list == mainPicks ? "main" : "bonus") +
+                                                  " picks chosen in slot " + std::to_string(game.slot));
+        if (IsBlank(record) || !examination.IsText("Ballhaven reads what numbers it finds there.")) {
+            continue;
+        }
+        CheckMethod(examination, record, chosenMethodField);
+        PickFieldCheck picks(examination, game);
+        for (int pick = 1; pick <= chosenPicks; ++pick) {
+            picks.Check(record, ChosenPickField(pick), list, pick, PicksOf(game, list) > 0);
+        }
+        examination.MendUnused(columns, StrayDigits::Leave);
+    }
+    return std::move(examination).Result();
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,137 @@
+#include "data/checks/Examination.h"
+
+#include <gtest/gtest.h>
+
+namespace ballhaven::data {
+namespace {
+
+constexpr int recordLength = 8;
+
+FoundFile Found(const std::string& bytes, std::int64_t length = -1) {
+    return {{"GAME01.CDB", recordLength, 3}, bytes, length < 0 ? static_cast<std::int64_t>(bytes.size()) : length};
+}
+
+TEST(ExaminationTest, OnlyDigitsWithBlanksAroundThemAreANumber) {
+    EXPECT_EQ(NumberIn(" 7"), 7);
+    EXPECT_EQ(NumberIn("7 "), 7);
+    EXPECT_EQ(NumberIn("000"), 0);
+    EXPECT_EQ(NumberIn("32768"), 32768);
+    for (const char* text : {"", "  ", "7x", "-1", "1 2", "+3", "1."}) {
+        EXPECT_EQ(NumberIn(text), std::nullopt) << text;
+    }
+}
+
+TEST(ExaminationTest, BytesBelowABlankAreNoText) {
+    EXPECT_EQ(BytesOf("plain \x80\xFF"), Bytes::Text);
+    EXPECT_EQ(BytesOf(std::string(8, '\0')), Bytes::Zeros);
+    EXPECT_EQ(BytesOf("line\n"), Bytes::NoText);
+    EXPECT_EQ(BytesOf("\x7F"), Bytes::NoText);
+    EXPECT_EQ(BytesOf(std::string("\0 ", 2)), Bytes::NoText);
+}
+
+TEST(ExaminationTest, QuotedBytesAreUtf8AndShowTheCodesOfWhatIsNoText) {
+    EXPECT_EQ(QuotedBytes("caf\xE9\n"), "\"caf\xC3\xA9\\x0a\"");
+}
+
+TEST(ExaminationTest, ACutRecordIsFilledUpWithBlanks) {
+    const Examination examination(Found("12345678abc"));
+    EXPECT_EQ(examination.Record(1), "12345678");
+    EXPECT_EQ(examination.Record(2), "abc     ");
+    EXPECT_EQ(examination.Record(3), "        ");
+}
+
+TEST(ExaminationTest, AMendedFieldIsInTheContentAndInTheFindings) {
+    Examination examination(Found("12345678abcdefgh        "));
+    examination.BeginRecord(2, "draw");
+    examination.MendField({{3, 2}, "field"}, "XY", "So it is.");
+    const CheckedFile checked = std::move(examination).Result();
+    EXPECT_EQ(checked.mended, "12345678abXYefgh        ");
+    EXPECT_EQ(checked.findings, (std::vector<Finding>{{"GAME01.CDB", 2, "draw", "columns 3-4 (field)",
+                                                       "holds \"cd\" and not \"XY\"", "So it is.", Remedy::Mend}}));
+}
+
+TEST(ExaminationTest, AFieldThatIsLeftStaysAsItIs) {
+    Examination examination(Found("12345678abcdefgh        "));
+    examination.BeginRecord(1, "");
+    examination.LeaveField({{8, 1}, "field"}, "no letter", "Change it.");
+    const CheckedFile checked = std::move(examination).Result();
+    EXPECT_EQ(checked.mended, "12345678abcdefgh        ");
+    EXPECT_EQ(checked.findings,
+              (std::vector<Finding>{{"GAME01.CDB", 1, "", "column 8 (field)", "holds \"8\", which is no letter",
+                                     "Change it.", Remedy::User}}));
+}
+
+TEST(ExaminationTest, UnusedColumnsAreBlankedInOneFinding) {
+    Examination examination(Found("12345678abcdefgh        "));
+    examination.BeginRecord(1, "");
+    examination.MendUnused(ColumnsOf({{1, 4}, {6, 2}}, recordLength), StrayDigits::Blank);
+    const CheckedFile checked = std::move(examination).Result();
+    EXPECT_EQ(checked.mended, "1234 67 abcdefgh        ");
+    ASSERT_EQ(checked.findings.size(), 1U);
+    EXPECT_EQ(checked.findings[0].what,
+              "something stands in columns that are blank in such a record: 5 \"5\", 8 \"8\"");
+}
+
+TEST(ExaminationTest, DigitsInUnusedColumnsCanBeLeft) {
+    Examination examination(Found("1234x67 ab defgh        "));
+    examination.BeginRecord(1, "");
+    examination.MendUnused(ColumnsOf({{1, 4}, {6, 1}}, recordLength), StrayDigits::Leave);
+    examination.BeginRecord(2, "");
+    examination.MendUnused(ColumnsOf({{1, 4}, {5, 3}}, recordLength), StrayDigits::Leave);
+    const CheckedFile checked = std::move(examination).Result();
+    EXPECT_EQ(checked.mended, "1234x67 ab defg         ");
+    ASSERT_EQ(checked.findings.size(), 2U);
+    EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
+    EXPECT_EQ(checked.findings[1].remedy, Remedy::Mend);
+}
+
+TEST(ExaminationTest, ARecordOfZeroBytesIsBlankedAndOtherBytesAreLeft) {
+    Examination examination(Found(std::string(8, '\0') + "a\tc     text    "));
+    examination.BeginRecord(1, "");
+    EXPECT_FALSE(examination.IsText(""));
+    examination.BeginRecord(2, "");
+    EXPECT_FALSE(examination.IsText("Look."));
+    examination.BeginRecord(3, "");
+    EXPECT_TRUE(examination.IsText(""));
+    const CheckedFile checked = std::move(examination).Result();
+    EXPECT_EQ(checked.mended, "        a\tc     text    ");
+    ASSERT_EQ(checked.findings.size(), 2U);
+    EXPECT_EQ(checked.findings[0].remedy, Remedy::Mend);
+    EXPECT_EQ(LineOf(checked.findings[1]),
+              "GAME01.CDB, record 2: holds bytes that are no text: \"a\\x09c     \". Look.");
+    EXPECT_EQ(checked.findings[1].remedy, Remedy::User);
+}
+
+struct LengthCase {
+    std::int64_t length;
+    bool hasRecords;
+    std::vector<Remedy> remedies;
+};
+
+TEST(ExaminationTest, TheLengthTellsAnEmptyAnOlderACutAndALongFile) {
+    const LengthCase cases[] = {{0, false, {Remedy::None}}, {8, true, {Remedy::None}},  {7, true, {Remedy::Mend}},
+                                {16, true, {Remedy::Mend}}, {23, true, {Remedy::Mend}}, {24, true, {}},
+                                {25, true, {Remedy::None}}};
+    for (const LengthCase& each : cases) {
+        const std::string bytes(static_cast<std::size_t>(std::min<std::int64_t>(each.length, 24)), 'x');
+        const FoundFile found = Found(bytes, each.length);
+        Examination examination(found);
+        EXPECT_EQ(CheckLength(examination, found, 1), each.hasRecords) << each.length;
+        std::vector<Remedy> remedies;
+        for (const Finding& finding : std::move(examination).Result().findings) {
+            remedies.push_back(finding.remedy);
+        }
+        EXPECT_EQ(remedies, each.remedies) << each.length;
+    }
+}
+
+TEST(ExaminationTest, ACutFileIsToldByItsBytesAndItsLastRecord) {
+    const FoundFile found = Found("12345678abc");
+    Examination examination(found);
+    CheckEnd(examination, found, "Filled.");
+    EXPECT_EQ(LineOf(std::move(examination).Result().findings.at(0)),
+              "GAME01.CDB: ends after 11 bytes, in record 2 of 3. Filled.");
+}
+
+}  // namespace
+}  // namespace ballhaven::data

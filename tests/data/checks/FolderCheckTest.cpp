@@ -1,0 +1,177 @@
+#include "data/checks/FolderCheck.h"
+
+#include "data/folder/DrawsOnFile.h"
+#include "data/folder/PlaysOnFile.h"
+#include "data/folder/Refusal.h"
+#include "history/HistoryFile.h"
+#include "plays/PlayFile.h"
+#include "printing/PlaySort.h"
+#include "state/AppState.h"
+#include "state/GameRecord.h"
+#include "state/GameTable.h"
+#include "support/TemporaryDirectory.h"
+#include "tools/SampleGames.h"
+#include "wheels/ShuffleFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+
+namespace ballhaven::data {
+namespace {
+
+class FolderCheckTest : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_EQ(tools::FillSampleFolder(directory.Path()), ""); }
+
+    [[nodiscard]] std::vector<std::string> Lines(bool faultsOnly = false) const {
+        std::vector<std::string> lines;
+        for (const Finding& finding : CheckFolder(directory.Path()).findings) {
+            if (IsFault(finding) || !faultsOnly) {
+                lines.push_back(LineOf(finding));
+            }
+        }
+        return lines;
+    }
+
+    /// Opens a game as the program does.
+    static void Open(int slot) {
+        OpenGameTable();
+        appState.currentGame = static_cast<std::int16_t>(slot);
+        LoadGameRecord(slot);
+        LoadPlayFile();
+        LoadHistory();
+        LoadShuffleFile();
+    }
+
+    support::TemporaryDirectory directory;
+};
+
+using Texts = std::vector<std::string>;
+
+TEST_F(FolderCheckTest, TheSampleGamesHaveNoFinding) {
+    EXPECT_EQ(Lines(), Texts());
+    EXPECT_EQ(CheckFolder(directory.Path()).fileCount, 22);
+}
+
+TEST_F(FolderCheckTest, WhatTheProgramSavesHasNone) {
+    for (int slot = 1; slot <= gameSlots; ++slot) {
+        Open(slot);
+        SaveHistory(1);
+        SavePlayFile();
+        SaveShuffleFile();
+        SaveSystemRecord();
+        SaveGameRecord(slot);
+    }
+    EXPECT_EQ(Lines(), Texts());
+    EXPECT_EQ(CheckFolder(directory.Path()).fileCount, 42);
+}
+
+// Not a bug: PLAY-SORT-1 in docs/not-bugs.md.
+TEST_F(FolderCheckTest, PlaysThatAReportHasSortedHaveNone) {
+    for (int slot = 1; slot <= 10; ++slot) {
+        Open(slot);
+        sortPlaysForReport(50);
+        SavePlayFile();
+    }
+    EXPECT_EQ(Lines(), Texts());
+}
+
+// Not a bug: LOAD-STORES-UNDER-CURRENT-1 in docs/not-bugs.md.
+TEST_F(FolderCheckTest, AGivenUpSlotKeepsItsDrawsAndPlays) {
+    Open(1);
+    LoadGameRecord(15);
+    EXPECT_EQ(Lines(true), Texts());
+    EXPECT_EQ(Lines(), Texts{"GAME01.CDB: holds 600 draws, and no game has been set up in slot 1. They belong to the "
+                             "next game that is."});
+}
+
+TEST_F(FolderCheckTest, ANewFolderHasNone) {
+    const support::TemporaryDirectory fresh;
+    appState.programDirectory = fresh.Path();
+    appState.currentGame = 1;
+    Open(1);
+    EXPECT_TRUE(CheckFolder(fresh.Path()).findings.empty());
+}
+
+TEST_F(FolderCheckTest, AMissingTableIsLeft) {
+    std::filesystem::remove(directory / "LOTTOSYS");
+    EXPECT_EQ(Lines(true),
+              Texts{"LOTTOSYS: is missing. Ballhaven begins a new table of unused slots; draws and plays are "
+                    "in files of their own."});
+}
+
+TEST_F(FolderCheckTest, AFileThatCannotBeReadIsLeftAndTheOthersAreLookedAt) {
+    std::filesystem::remove(directory / "GAME02.CDB");
+    std::filesystem::create_directory(directory / "GAME02.CDB");
+    directory.Write("GAME03.CDB", "x");
+    const CheckedFolder checked = CheckFolder(directory.Path());
+    ASSERT_GE(checked.findings.size(), 2U);
+    EXPECT_EQ(checked.findings[0].file, "GAME02.CDB");
+    EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
+    EXPECT_TRUE(checked.findings[0].what.starts_with("cannot be read: "));
+    EXPECT_EQ(checked.findings[1].file, "GAME03.CDB");
+    EXPECT_FALSE(checked.mended.contains("GAME02.CDB"));
+}
+
+TEST_F(FolderCheckTest, OnlyFilesWithSomethingToRepairAreMended) {
+    directory.Write("GAME11.CDB", "10-26-2002");
+    directory.Write("GAME12.CDB", "");
+    const CheckedFolder checked = CheckFolder(directory.Path());
+    ASSERT_EQ(checked.mended.size(), 1U);
+    EXPECT_EQ(checked.mended.begin()->first, "GAME11.CDB");
+    EXPECT_EQ(*checked.mended.begin()->second, "10-26-2002" + std::string(64'054, ' '));
+}
+
+TEST_F(FolderCheckTest, AFolderWithoutDataIsRefused) {
+    const support::TemporaryDirectory empty;
+    EXPECT_THROW((void)CheckFolder(empty.Path()), Refusal);
+}
+
+/// The draws of a file by date, in the order of their rows where dates are the same.
+std::vector<DrawOnFile> SortedDraws(const std::string& content) {
+    std::vector<DrawOnFile> draws = DrawsOf(content, 10).draws;
+    std::ranges::stable_sort(draws, {}, &DrawOnFile::date);
+    return draws;
+}
+
+// Whatever the damage, mending changes no draw and no play that the program reads, and what it leaves is left again.
+TEST_F(FolderCheckTest, MendingChangesNothingThatIsRead) {
+    const auto sample = directory.Files();
+    std::mt19937 chance(2002);
+    const auto upTo = [&chance](std::size_t count) { return static_cast<std::size_t>(chance() % count); };
+    int mendings = 0;
+    for (int round = 0; round < 60; ++round) {
+        for (const char* name : {"LOTTOSYS", "GAME01.CDB", "GAME03.CDB", "PLAYS01.CDB", "PLAYS03.CDB", "SHUFFLE.CDB"}) {
+            std::string bytes = sample.at(name);
+            for (int damage = 0; damage < 6; ++damage) {
+                static constexpr std::string_view letters = " 0123456789/x-M";
+                bytes[upTo(std::min<std::size_t>(bytes.size(), 20'000))] = letters[upTo(letters.size())];
+            }
+            if (round % 4 == 0) {
+                bytes.resize(upTo(bytes.size()));
+            }
+            directory.Write(name, bytes);
+        }
+        const CheckedFolder checked = CheckFolder(directory.Path());
+        for (const auto& [name, content] : checked.mended) {
+            const std::string before = directory.Read(name);
+            ++mendings;
+            if (name.starts_with("GAME")) {
+                EXPECT_EQ(SortedDraws(*content), SortedDraws(before)) << name << " in round " << round;
+            } else if (name.starts_with("PLAYS")) {
+                EXPECT_EQ(PlaysOf(*content), PlaysOf(before)) << name << " in round " << round;
+            }
+            directory.Write(name, *content);
+        }
+        const CheckedFolder again = CheckFolder(directory.Path());
+        EXPECT_TRUE(again.mended.empty()) << again.mended.begin()->first << " in round " << round;
+        EXPECT_EQ(std::ranges::count(again.findings, Remedy::Mend, &Finding::remedy), 0);
+    }
+    EXPECT_GT(mendings, 100);
+}
+
+}  // namespace
+}  // namespace ballhaven::data

@@ -1,0 +1,127 @@
+#include "data/checks/HistoryRows.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace ballhaven::data {
+namespace {
+
+class HistoryRowsTest : public testing::Test {
+  protected:
+    /// Rows of these dates from record 2 on; 0 for a blank one, a negative date for text that is no draw.
+    void Check(const std::vector<int>& dates, DateDigits digits = DateDigits::Four) {
+        FoundFile found{{"GAME01.CDB", 64, 1001}, std::string(64'064, ' '), 64'064};
+        std::vector<HistoryRow> rows;
+        int record = 2;
+        for (const int date : dates) {
+            const std::string text = date == 0 ? "" : std::to_string(date) + "x" + std::to_string(record);
+            rows.push_back({record, std::max(date, 0), text});
+            found.bytes.replace(static_cast<std::size_t>(record - 1) * 64, text.size(), text);
+            ++record;
+        }
+        Examination examination(found);
+        CheckRowOrder(examination, rows, digits);
+        CheckedFile checked = std::move(examination).Result();
+        lines.clear();
+        remedies.clear();
+        for (const Finding& finding : checked.findings) {
+            lines.push_back(LineOf(finding));
+            remedies.push_back(finding.remedy);
+        }
+        changed = checked.mended != found.bytes;
+        order.clear();
+        for (std::size_t place = 64; place < checked.mended.size(); place += 64) {
+            const std::string row = checked.mended.substr(place, 64);
+            if (!IsBlank(row)) {
+                order.push_back(row.substr(0, row.find(' ')));
+            }
+        }
+    }
+
+    std::vector<std::string> lines;
+    std::vector<Remedy> remedies;
+    std::vector<std::string> order;  ///< date and first record of each row after mending
+    bool changed = false;
+};
+
+TEST_F(HistoryRowsTest, AscendingDrawsFromTheFirstRowOnHaveNoFinding) {
+    for (const std::vector<int>& dates : {std::vector<int>{}, {5}, {5, 6, 100, 9999}, {0, 0}}) {
+        Check(dates);
+        EXPECT_TRUE(lines.empty());
+        EXPECT_FALSE(changed);
+    }
+}
+
+TEST_F(HistoryRowsTest, HolesCloseUp) {
+    Check({5, 0, 0, 6, 0, 7});
+    EXPECT_EQ(lines, (std::vector<std::string>{
+                         "GAME01.CDB: no draw stands in records 3 to 4, before others. As many of the newest draws are "
+                         "hidden, and the next ones take their places.",
+                         "GAME01.CDB: no draw stands in record 6, before others. As many of the newest draws are "
+                         "hidden, and the next ones take their places."}));
+    EXPECT_EQ(remedies, (std::vector<Remedy>{Remedy::Mend, Remedy::Mend}));
+    EXPECT_EQ(order, (std::vector<std::string>{"5x2", "6x5", "7x7"}));
+}
+
+TEST_F(HistoryRowsTest, TheFirstRowCanBeAHole) {
+    Check({0, 5});
+    EXPECT_EQ(lines.size(), 1U);
+    EXPECT_EQ(order, std::vector<std::string>{"5x3"});
+}
+
+TEST_F(HistoryRowsTest, WhatIsNoDrawGoesBehindTheDrawsAndIsKept) {
+    Check({5, -3, 6});
+    EXPECT_EQ(order, (std::vector<std::string>{"5x2", "6x4", "-3x3"}));
+    Check({5, 6, -3});
+    EXPECT_TRUE(lines.empty());
+    EXPECT_FALSE(changed);
+}
+
+TEST_F(HistoryRowsTest, DrawsAreSortedByDate) {
+    Check({7, 5, 6});
+    EXPECT_EQ(lines,
+              std::vector<std::string>{"GAME01.CDB, record 3 (draw of 1984-01-06): stands behind the draw of "
+                                       "1984-01-08. The last draws are counted by their rows, so that wrong ones "
+                                       "may be."});
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
+    EXPECT_EQ(order, (std::vector<std::string>{"5x3", "6x4", "7x2"}));
+}
+
+TEST_F(HistoryRowsTest, DrawsOfOneDateAreLeftAndKeepTheirOrder) {
+    Check({5, 6, 6});
+    EXPECT_EQ(lines,
+              std::vector<std::string>{"GAME01.CDB, record 4 (draw of 1984-01-07): has the date of record 3. Give "
+                                       "one of them its right date in Ballhaven, or delete it."});
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::User});
+    EXPECT_FALSE(changed);
+    Check({6, 5, 6});
+    EXPECT_EQ(remedies, (std::vector<Remedy>{Remedy::Mend, Remedy::User}));
+    EXPECT_EQ(order, (std::vector<std::string>{"5x3", "6x2", "6x4"}));
+}
+
+// Not a bug: HISTORY-DATE-FOUR-DIGITS-1 in docs/not-bugs.md.
+TEST_F(HistoryRowsTest, DatesThatHaveLostTheirLastDigitAreToldAndNotSorted) {
+    Check({9990, 9999, 1000, 1000, 1001});
+    EXPECT_EQ(lines, std::vector<std::string>{"GAME01.CDB: the draws in records 4 to 6 are dated from 1986-09-27 on, "
+                                              "behind newer ones. A file of an ordinary folder keeps no date after "
+                                              "2011-05-18: these have lost their last digit. Delete them, mark the "
+                                              "folder with \"ballhaven-data mend\", and import them again."});
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::User});
+    EXPECT_FALSE(changed);
+
+    Check({9999, 9990, 0, 1000});
+    EXPECT_EQ(order, (std::vector<std::string>{"9990x3", "9999x2", "1000x5"}));
+}
+
+TEST_F(HistoryRowsTest, AnOldDrawBehindAnOldOneHasLostNothing) {
+    Check({8999, 1000});
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
+    Check({9999, 3277});
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
+    Check({9999, 1000}, DateDigits::Five);
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
+}
+
+}  // namespace
+}  // namespace ballhaven::data

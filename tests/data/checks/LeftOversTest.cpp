@@ -1,0 +1,43 @@
+#include "data/checks/LeftOvers.h"
+
+#include "support/TemporaryDirectory.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace ballhaven::data {
+namespace {
+
+using Names = std::vector<std::string>;
+
+TEST(LeftOversTest, OnlyFilesOfTheProgramsOwnAreLeftOvers) {
+    const support::TemporaryDirectory directory;
+    for (const char* name : {"LOTTOSYS", "LOTTOSYS.new", "GAME01.CDB.next", "GAME21.CDB.new", "letter.new",
+                             "CHANGE.new", "PLAYS20.CDB.new", "SHUFFLE.CDB.old", ".new", "ballhaven.new"}) {
+        directory.Write(name, "");
+    }
+    std::filesystem::create_directory(directory / "copies");
+    directory.Write("copies/a.zip", "");
+    directory.Write("copies/b.zip.new", "");
+    EXPECT_EQ(FindLeftOvers(directory.Path()),
+              (Names{"CHANGE.new", "GAME01.CDB.next", "LOTTOSYS.new", "PLAYS20.CDB.new", "copies/b.zip.new"}));
+    EXPECT_FALSE(HasDecidedChange(directory.Path()));
+}
+
+TEST(LeftOversTest, WhatADecidedChangeNeedsIsNone) {
+    const support::TemporaryDirectory directory;
+    for (const char* name : {"CHANGE", "GAME01.CDB.next", "GAME01.CDB.new"}) {
+        directory.Write(name, "");
+    }
+    EXPECT_TRUE(HasDecidedChange(directory.Path()));
+    EXPECT_EQ(FindLeftOvers(directory.Path()), Names{"GAME01.CDB.new"});
+}
+
+TEST(LeftOversTest, AFolderWithoutCopiesHasNone) {
+    const support::TemporaryDirectory directory;
+    EXPECT_EQ(FindLeftOvers(directory.Path()), Names());
+}
+
+}  // namespace
+}  // namespace ballhaven::data
