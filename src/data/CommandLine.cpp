@@ -1,13 +1,18 @@
 #include "data/CommandLine.h"
 
+#include "data/CheckCommand.h"
+#include "data/CopyCommands.h"
 #include "data/ExportCommand.h"
 #include "data/GamesCommand.h"
 #include "data/GuaranteeCommand.h"
 #include "data/ImportCommand.h"
+#include "data/MendCommand.h"
+#include "data/SetCommand.h"
 #include "data/WinnersCommand.h"
 #include "data/exchange/CsvText.h"
 #include "data/folder/Refusal.h"
 #include "data/folder/WorkFolder.h"
+#include "state/AppState.h"
 #include "state/RuntimeFailure.h"
 
 #include <CLI/CLI.hpp>
@@ -18,6 +23,15 @@
 namespace ballhaven::data {
 
 namespace {
+
+/// What is wrong with a text for a history set; the empty text for one that can be chosen.
+std::string IsHistorySet(const std::string& text) {
+    int size = 0;
+    const bool isNumber = CLI::detail::lexical_cast(text, size);
+    return isNumber && size >= smallestHistorySet && size <= largestHistorySet && size % historySetStep == 0
+               ? ""
+               : text + " is no history set: 10, 20 and so on to 1000";
+}
 
 /// What a line asks for: the folder, and one command with its options.
 class Commands {
@@ -33,15 +47,21 @@ class Commands {
         AddExport();
         AddWinners();
         AddGuarantee();
+        AddCheck();
+        AddBackup();
+        AddRestore();
+        AddMend();
+        AddSet();
     }
 
     /// Reads the line and runs its command. Throws CLI::ParseError and Refusal.
-    void Run(std::vector<std::string> arguments) {
+    ExitCode Run(std::vector<std::string> arguments) {
         std::ranges::reverse(arguments);
         app.parse(std::move(arguments));
         if (!console.out.flush()) {
             throw Refusal("The output could not be written to its end.");
         }
+        return end;
     }
 
     ExitCode Explain(const CLI::ParseError& error) const {
@@ -153,11 +173,65 @@ class Commands {
         command.add_option_function<std::string>(name, take, what);
     }
 
+    void AddCheck() {
+        CLI::App& check = Add("check", "Looks for damage in every file, record and field", "check --mend");
+        check.add_flag("--mend", mend, "Repairs what can be repaired without a guess");
+        check.callback([this] { end = CheckData(folder, mend, console) ? done : refused; });
+    }
+
+    void AddBackup() {
+        CLI::App& backup = Add("backup", "Copies all data into a new zip, with checksums", "backup monday.zip");
+        AddZip(backup, "The zip, which must not be there yet");
+        backup.callback([this] { BackUp(WorkFolder(folder), zip, console); });
+    }
+
+    void AddRestore() {
+        CLI::App& restore = Add("restore",
+                                "Puts the files of a zip back once all of it has been verified; a copy of what "
+                                "was there is kept",
+                                "restore monday.zip");
+        AddZip(restore, "A zip of \"backup\", or one of the folder \"copies\"");
+        restore.callback([this] { Restore(WorkFolder(folder), zip, console); });
+    }
+
+    void AddZip(CLI::App& command, const std::string& what) {
+        command.add_option("FILE", zip, what)->required()->type_name("");
+    }
+
+    void AddMend() {
+        CLI::App& mending =
+            Add("mend", "Marks the folder as mended, so that nothing that is entered gets lost", "mend");
+        mending.callback([this] { MendFolder(WorkFolder(folder), console); });
+    }
+
+    void AddSet() {
+        CLI::App& set = Add("set",
+                            "Sets how many draws a game shows, or which game is shown first, where Ballhaven ends "
+                            "when it starts",
+                            "set \"Three Digits\" --history-set 100");
+        CLI::Option* const game =
+            set.add_option("GAME", settings.game, "The game of the history set: its name or the number of its slot")
+                ->type_name("");
+        CLI::Option* const historySet =
+            set.add_option("--history-set", settings.historySet, "The last so many draws: 10, 20 and so on to 1000");
+        historySet->type_name("N")->check(IsHistorySet)->needs(game);
+        game->needs(historySet);
+        set.add_option("--shown", settings.shownSlot, "The slot that is shown first: 1 to 20")
+            ->type_name("N")
+            ->check(CLI::Range(1, gameSlots));
+        set.require_option(1, 0);
+        set.callback([this] { Set(WorkFolder(folder), settings, console); });
+    }
+
     std::string folder;
     ImportOptions importing;
     ExportOptions exporting;
     WinnersOptions winners;
     GuaranteeOptions guarantee;
+    std::string zip;
+    bool mend = false;
+    SetOptions settings;
+    ExitCode end = done;
     const Console& console;
     CLI::App app{"Takes draws in and out of a Ballhaven folder, checks it and copies it."};
 };
@@ -167,8 +241,7 @@ class Commands {
 ExitCode RunCommandLine(std::vector<std::string> arguments, const std::string& ownFolder, const Console& console) {
     Commands commands(ownFolder, console);
     try {
-        commands.Run(std::move(arguments));
-        return done;
+        return commands.Run(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         return commands.Explain(error);
     } catch (const Refusal& refusal) {

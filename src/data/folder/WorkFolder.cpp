@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <limits>
 #include <system_error>
 
 namespace ballhaven::data {
@@ -20,6 +21,13 @@ constexpr const char* copiesFolder = "copies";
 
 const FolderFile& FileNamed(const std::vector<FolderFile>& known, const std::string& name) {
     return *std::ranges::find(known, name, &FolderFile::name);
+}
+
+/// From where on the old file stands behind its new content. Behind a content that ends before the last record there is
+/// nothing: it would slide into the records.
+std::int64_t TailOffset(const FolderFile& file, const std::string& content) {
+    return static_cast<std::int64_t>(content.size()) < file.FormatLength() ? std::numeric_limits<std::int64_t>::max()
+                                                                           : file.FormatLength();
 }
 
 /// Such as "2026-11-22 09.30.05", which is a part of a file's name on every system.
@@ -42,14 +50,16 @@ std::string ReasonOf(const std::system_error& error) {
 
 }  // namespace
 
-WorkFolder::WorkFolder(const std::string& folder) : directory(platform::WithSeparator(folder)) {
+WorkFolder::WorkFolder(const std::string& folder, DecidedChange decided) : directory(platform::WithSeparator(folder)) {
     try {
         lock = std::make_unique<platform::FolderLock>(directory);
         if (!lock->Take()) {
             throw Refusal(directory +
                           " is in use by Ballhaven or by another run of this program. Close it, and try again.");
         }
-        platform::FinishFolderChange(directory);
+        if (decided == DecidedChange::Finish) {
+            platform::FinishFolderChange(directory);
+        }
     } catch (const std::system_error& error) {
         throw Refusal(directory + " cannot be used: " + ReasonOf(error) + ".");
     }
@@ -62,7 +72,7 @@ std::string WorkFolder::Change(const FileContents& files, const std::string& occ
     try {
         for (const auto& [name, content] : files) {
             if (content) {
-                change.Put(name, *content, FileNamed(known, name).FormatLength());
+                change.Put(name, *content, TailOffset(FileNamed(known, name), *content));
             } else {
                 change.Remove(name);
             }

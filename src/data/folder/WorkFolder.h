@@ -8,12 +8,14 @@
 
 namespace ballhaven::data {
 
+/// What becomes of a change of the folder that was decided and not brought to its end.
+enum class DecidedChange { Finish, Leave };
+
 /// A folder of Ballhaven that this process has for its own as long as this lives.
 class WorkFolder {
   public:
-    /// Takes the folder, and finishes a change in it that was decided and not brought to its end. Throws Refusal where
-    /// it is in use, or is none that can be used.
-    explicit WorkFolder(const std::string& folder);
+    /// Takes the folder. Throws Refusal where it is in use, or is none that can be used.
+    explicit WorkFolder(const std::string& folder, DecidedChange decided = DecidedChange::Finish);
 
     /// With a separator at its end.
     [[nodiscard]] const std::string& Path() const { return directory; }

@@ -1,0 +1,73 @@
+#include "data/MendCommand.h"
+
+#include "data/folder/FolderFiles.h"
+#include "data/folder/TableOnFile.h"
+#include "history/DrawRecord.h"
+#include "state/AppState.h"
+#include "state/MendedFolder.h"
+#include "state/modUTILS.h"
+
+#include <algorithm>
+
+namespace ballhaven::data {
+
+namespace {
+
+constexpr int systemRecordNumber = 1;
+constexpr std::size_t fifthDigitPlace = 4;
+
+constexpr const char* whatIsDifferent =
+    "In a mended folder Ballhaven loses nothing that was entered:\n"
+    "- dates after 18 May 2011 are kept;\n"
+    "- a damaged row does not hide the newest draws, and they are not overwritten;\n"
+    "- picks that were only typed are saved;\n"
+    "- adding a game does not give up the one that is shown, and the log stays in view after the game dialog;\n"
+    "- plays of a partial wheel follow the plays that are there, and the report of the plays leaves them as they are;\n"
+    "- pairs, repeaters and percentages of many draws do not end the program.\n"
+    "Everything else stays as it is.\n";
+
+/// The content of a file of draws with the mark of dates of five digits, each date the one that it is read as now.
+std::string WithFiveDigitDates(std::string content) {
+    const auto length = static_cast<std::size_t>(drawRecordLength);
+    for (std::size_t row = length; row + fifthDigitPlace < content.size(); row += length) {
+        content[row + fifthDigitPlace] = ' ';
+    }
+    const std::string header = WithFiveDigits(content.substr(0, length));
+    return header + content.substr(std::min(length, content.size()));
+}
+
+/// The files of draws that keep four digits, with the mark of five.
+FileContents MarkedHistories(const std::string& directory) {
+    FileContents files;
+    for (int slot = 1; slot <= gameSlots; ++slot) {
+        const FolderFile file = HistoryFileOf(slot);
+        const std::optional<std::string> content = ReadFolderFile(directory, file);
+        if (content && !content->empty() && DateDigitsOf(*content) == DateDigits::Four) {
+            files[file.name] = WithFiveDigitDates(*content);
+        }
+    }
+    return files;
+}
+
+}  // namespace
+
+void MendFolder(const WorkFolder& folder, const Console& console) {
+    const std::string tableName = GameTableFile().name;
+    const std::optional<std::string> found = ReadFolderFile(folder.Path(), GameTableFile());
+    std::string table = WholeTable(found.value_or(""));
+    const std::string record = TableRecord(table, systemRecordNumber);
+    if (found && IsMended(record)) {
+        console.out << folder.Path() << " is mended already. Nothing was changed.\n";
+        return;
+    }
+    PutTableRecord(table, systemRecordNumber, WithMendedMark(record));
+    FileContents files = MarkedHistories(folder.Path());
+    files[tableName] = table;
+    const std::string copy = folder.Change(files, "mend");
+    console.out << folder.Path() << " is mended now.\n" << whatIsDifferent;
+    console.out << "What was there is kept in " << copy << ".\n"
+                << "To go back to it, without what is entered from now on:\n  ballhaven-data --folder \""
+                << folder.Path() << "\" restore \"" << copy << "\"\n";
+}
+
+}  // namespace ballhaven::data

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "data/Console.h"
+#include "data/folder/WorkFolder.h"
+
+namespace ballhaven::data {
+
+/// Marks a folder as mended, and each of its files of draws as one that keeps dates of five digits; a folder without a
+/// table of games gets a new one. Tells what becomes different and how to go back. A folder that is mended already
+/// stays as it is. Throws Refusal.
+void MendFolder(const WorkFolder& folder, const Console& console);
+
+}  // namespace ballhaven::data
