@@ -18,16 +18,18 @@ namespace {
 
 constexpr std::size_t longestQuote = 200;
 
-/// Rules as the game dialog lets them be, and some that a damaged record gives.
+/// Rules as the game dialog lets them be, and limits and counts as a damaged record gives them. Those of cards are
+/// fixed.
 GameRules AnyRules(FuzzInput& input) {
     GameRules rules;
     rules.gameType = input.Choice(6);
     rules.mainPickCount = input.Choice(10);
     rules.bonusPickCount = input.Choice(4);
-    rules.mainLow = input.Choice(2);
-    rules.mainHigh = IsCardGame(rules.gameType) ? 52 : input.Choice(100);
-    rules.bonusLow = input.Choice(2);
-    rules.bonusHigh = IsCardGame(rules.gameType) ? 52 : input.Choice(100);
+    const bool cards = IsCardGame(rules.gameType);
+    rules.mainLow = cards ? 1 : input.Choice(2);
+    rules.mainHigh = cards ? 52 : input.Choice(100);
+    rules.bonusLow = cards ? 1 : input.Choice(2);
+    rules.bonusHigh = cards ? 52 : input.Choice(100);
     rules.duplicatesAllowed = input.Choice(2) == 1;
     return rules;
 }
