@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+#include <regex>
 #include <sstream>
 
 namespace ballhaven::data {
@@ -30,6 +33,46 @@ TEST_F(CommandLineTest, HelpIsDoneAndGoesToTheOutput) {
     EXPECT_EQ(Run({"--help"}), done);
     EXPECT_NE(out.str().find("--folder"), std::string::npos);
     EXPECT_EQ(notes.str(), "");
+}
+
+/// What the manual page tells of a command, as it is written: from its heading up to the next one.
+std::string ManualOf(const std::string& command) {
+    std::ifstream file(MANUAL_PAGE);
+    const std::string page{std::istreambuf_iterator<char>(file), {}};
+    const std::size_t begin = page.find("\n.SS " + command);
+    return begin == std::string::npos ? "" : page.substr(begin, page.find("\n.S", begin + 1) - begin);
+}
+
+/// All that a pattern's first group finds in a text.
+std::vector<std::string> Matches(const std::string& text, const std::string& pattern) {
+    const std::regex expression(pattern, std::regex::multiline);
+    std::vector<std::string> found;
+    for (std::sregex_iterator match(text.begin(), text.end(), expression), end; match != end; ++match) {
+        found.push_back((*match)[1]);
+    }
+    return found;
+}
+
+TEST_F(CommandLineTest, TheManualTellsEveryCommandWithItsOptionsAndAnExample) {
+    EXPECT_EQ(Run({"--help"}), done);
+    const std::string help = out.str();
+    const std::vector<std::string> commands = Matches(help.substr(help.find("Subcommands:")), "^  ([a-z]+) ");
+    EXPECT_GE(commands.size(), 10U);
+    int options = 0;
+    for (const std::string& command : commands) {
+        const std::string manual = ManualOf(command);
+        EXPECT_NE(manual, "") << command;
+        EXPECT_NE(manual.find("\nballhaven\\-data " + command), std::string::npos) << command << " has no example";
+        out.str("");
+        EXPECT_EQ(Run({command, "--help"}), done);
+        EXPECT_NE(out.str().find("\nExample: ballhaven-data " + command), std::string::npos);
+        for (const std::string& option : Matches(out.str(), "^ .*--([a-z-]+)")) {
+            const std::string written = "\\-\\-" + std::regex_replace(option, std::regex("-"), "\\-");
+            EXPECT_TRUE(option == "help" || manual.find(written) != std::string::npos) << command << " --" << option;
+            ++options;
+        }
+    }
+    EXPECT_GT(options, 25);
 }
 
 }  // namespace
