@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs the fuzzers of the readers of data files and of the importer, one after the other: fuzz/run.sh [seconds for each,
+# Runs the fuzzers of the readers of data files and copies and of the importer, one after the other: fuzz/run.sh [seconds for each,
 # 60 if not given]. Ends with an error at the first finding and keeps it in build/fuzz/findings. Needs clang++-14.
 set -eu
 
@@ -7,7 +7,7 @@ seconds=${1:-60}
 cd "$(dirname "$0")/.."
 
 cmake --preset fuzz >/dev/null
-readers="DrawImport GameTable HistoryFile PlayFile ShuffleFile"
+readers="CopyArchive DrawImport GameTable HistoryFile PlayFile ShuffleFile"
 cmake --build build/fuzz --target $(printf 'fuzz_%s ' $readers)
 
 # Files in memory: the fuzzers do little else than write and read.
@@ -19,6 +19,7 @@ mkdir -p build/fuzz/findings
 for reader in $readers; do
     dictionary=fuzz/records.dict
     [ "$reader" != DrawImport ] || dictionary=fuzz/csv.dict
+    [ "$reader" != CopyArchive ] || dictionary=fuzz/zip.dict
     mkdir -p "build/fuzz/corpus/$reader"
     if ! "build/fuzz/fuzz/fuzz_$reader" -max_total_time="$seconds" -max_len=4096 -dict="$dictionary" \
         -artifact_prefix="build/fuzz/findings/$reader-" -print_final_stats=1 \

@@ -69,29 +69,43 @@ la_ssize_t AppendTo(archive* /*zip*/, void* target, const void* bytes, std::size
     return static_cast<la_ssize_t>(size);
 }
 
+/// A name out of a zip that may hold anything, for a message of one line.
+std::string Shown(std::string name) {
+    constexpr std::size_t longest = 60;
+    if (name.size() > longest) {
+        name = name.substr(0, longest) + "...";
+    }
+    std::ranges::replace_if(
+        name, [](unsigned char byte) { return byte < ' ' || byte == '\x7F'; }, '?');
+    return "\"" + name + "\"";
+}
+
 /// Reads a zip and refuses what is not one of ours, in words that name it.
 class ArchiveReader {
   public:
     ArchiveReader(std::string_view archiveBytes, const std::string& archiveName)
         : name(archiveName), zip(archive_read_new(), archive_read_free) {
-        Check(archive_read_support_format_zip(zip.get()));
+        // By its directory, which stands at its end: a zip that was cut has none.
+        Check(archive_read_support_format_zip_seekable(zip.get()));
         if (archive_read_open_memory(zip.get(), archiveBytes.data(), archiveBytes.size()) != ARCHIVE_OK) {
             RefuseDamaged();
         }
     }
 
     FileContents Read() {
-        std::string list;
+        std::optional<std::string> list;
         FileContents files;
         archive_entry* entry = nullptr;
         while (Next(entry)) {
-            const char* const path = archive_entry_pathname_utf8(entry);
-            const std::string file = path == nullptr ? "" : path;
-            std::string& content = file == contentsName ? list : NewFile(files, file);
+            const std::string file = NameOf(*entry);
+            std::string& content = file == contentsName ? NewList(list) : NewFile(files, file);
             content = Bytes(file == contentsName ? longestContents : LimitOf(file));
         }
-        AddAbsentOnes(list, files);
-        if (list != Listed(files)) {
+        if (!list) {
+            Refuse("it has no list of contents");
+        }
+        AddAbsentOnes(*list, files);
+        if (*list != Listed(files)) {
             Refuse("its list of contents does not agree with what is in it: files are missing or changed");
         }
         return files;
@@ -113,6 +127,19 @@ class ArchiveReader {
             RefuseDamaged();
         }
         return result == ARCHIVE_OK;
+    }
+
+    /// The name of an entry that is a plain file.
+    std::string NameOf(archive_entry& entry) const {
+        const char* const path = archive_entry_pathname_utf8(&entry);
+        std::string file = path == nullptr ? "" : path;
+        if (archive_entry_filetype(&entry) != AE_IFREG) {
+            Refuse("it holds " + Shown(file) + ", which is no plain file");
+        }
+        if (archive_entry_is_encrypted(&entry) != 0) {
+            Refuse(Shown(file) + " in it is encrypted");
+        }
+        return file;
     }
 
     /// The bytes of the entry at hand.
@@ -140,9 +167,16 @@ class ArchiveReader {
         const std::vector<FolderFile> known = AllFolderFiles();
         const auto found = std::ranges::find(known, file, &FolderFile::name);
         if (found == known.end()) {
-            Refuse("it holds \"" + file + "\", which is no file of such a folder");
+            Refuse("it holds " + Shown(file) + ", which is no file of such a folder");
         }
         return static_cast<std::size_t>(found->FormatLength());
+    }
+
+    std::string& NewList(std::optional<std::string>& list) const {
+        if (list) {
+            Refuse("it holds " + std::string(contentsName) + " twice");
+        }
+        return list.emplace();
     }
 
     std::string& NewFile(FileContents& files, const std::string& file) const {
