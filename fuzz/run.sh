@@ -1,6 +1,7 @@
 #!/bin/sh
-# Runs the fuzzers of the readers of data files and copies and of the importer, one after the other: fuzz/run.sh [seconds for each,
-# 60 if not given]. Ends with an error at the first finding and keeps it in build/fuzz/findings. Needs clang++-14.
+# Runs the fuzzers of the readers of data files and copies and of the importer, one after the other:
+# fuzz/run.sh [seconds for each, 60 if not given]. Ends with an error at the first finding and keeps it in
+# build/fuzz/findings. Needs clang++-14.
 set -eu
 
 seconds=${1:-60}

@@ -17,13 +17,13 @@ constexpr int systemRecordNumber = 1;
 constexpr std::size_t fifthDigitPlace = 4;
 
 constexpr const char* whatIsDifferent =
-    "In a mended folder Ballhaven loses nothing that was entered:\n"
-    "- dates after 18 May 2011 are kept;\n"
-    "- a damaged row does not hide the newest draws, and they are not overwritten;\n"
-    "- picks that were only typed are saved;\n"
-    "- adding a game does not give up the one that is shown, and the log stays in view after the game dialog;\n"
-    "- plays of a partial wheel follow the plays that are there, and the report of the plays leaves them as they are;\n"
-    "- pairs, repeaters and percentages of many draws do not end the program.\n"
+    "In a mended folder what was entered is kept, and no statistic ends the program:\n"
+    "- dates after 18 May 2011 are kept, to 17 September 2073;\n"
+    "- a damaged date costs its own draw, and hides or overwrites no other;\n"
+    "- a pick that was only typed is saved;\n"
+    "- adding a game leaves the other games alone, and a game that was set up is shown anew only once;\n"
+    "- a partial wheel follows the plays in use, and printing the plays leaves them as they are;\n"
+    "- pairs, repeaters and percentages of many draws are as large as they are.\n"
     "Everything else stays as it is.\n";
 
 /// The content of a file of draws with the mark of dates of five digits, each date the one that it is read as now.

@@ -17,7 +17,7 @@ TEST_F(MendCommandTest, TheTableAndEveryFileOfDrawsAreMarked) {
     EXPECT_EQ(Run({"mend"}), done);
     EXPECT_EQ(Files(), expected);
     EXPECT_TRUE(Says(directory.Path() + " is mended now.\n"));
-    EXPECT_TRUE(Says("- dates after 18 May 2011 are kept;\n"));
+    EXPECT_TRUE(Says("- dates after 18 May 2011 are kept, to 17 September 2073;\n"));
 }
 
 TEST_F(MendCommandTest, TheWayBackIsTheCopyThatItNames) {

@@ -90,6 +90,21 @@ TEST_F(WorkFolderTest, ADecidedChangeIsFinishedWhenTheFolderIsTaken) {
     EXPECT_FALSE(directory.Has("GAME02.CDB"));
 }
 
+TEST_F(WorkFolderTest, ADecidedChangeCanBeLeftAsItIs) {
+    directory.Write("GAME01.CDB.next", "decided");
+    directory.Write("CHANGE", "put GAME01.CDB\nremove GAME02.CDB\n");
+    const auto before = directory.Files();
+    const WorkFolder folder(directory.Path(), DecidedChange::Leave);
+    EXPECT_EQ(directory.Files(), before);
+}
+
+TEST_F(WorkFolderTest, BehindAContentThatEndsEarlyNothingStays) {
+    directory.Write("LOTTOSYS", std::string(1344, 'o') + "behind");
+    const WorkFolder folder(directory.Path());
+    folder.Change({{"LOTTOSYS", std::string(1343, 'n')}}, "restore");
+    EXPECT_EQ(directory.Read("LOTTOSYS"), std::string(1343, 'n'));
+}
+
 TEST_F(WorkFolderTest, WithoutRoomForTheCopyNothingChanges) {
     const WorkFolder folder(directory.Path());
     support::WatchedFiles watched;
