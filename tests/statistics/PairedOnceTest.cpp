@@ -322,7 +322,7 @@ TEST(QuirkPairLimit1, InAMendedFolderAZeroRowMayStandInThe1002ndPlace) {
     draws.push_back({7, 18});
     ShowDraws(draws);
 
-    EXPECT_EQ(FailureOfPairedOnce(), std::nullopt);
+    ASSERT_EQ(FailureOfPairedOnce(), std::nullopt);
     EXPECT_EQ(appState.pairedOnceLast, 1001);
     EXPECT_EQ(Rows()[0], "0, 0");
     EXPECT_EQ(std::ranges::count(Rows(), "7, 18"), 1);
