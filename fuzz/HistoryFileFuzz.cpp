@@ -2,6 +2,7 @@
 
 #include "fuzz/FuzzInput.h"
 #include "state/AppState.h"
+#include "state/MendedFolder.h"
 
 #include <string>
 
@@ -33,8 +34,9 @@ void CheckLoadSaveLoad(const std::string& file) {
     Expect(directory.Read(fileName) == stored, "the second save changes no byte");
 }
 
+/// In a mended folder a file keeps all digits.
 std::int16_t StoredDate(std::int16_t date) {
-    return static_cast<std::int16_t>(date > 9999 ? date / 10 : date);
+    return static_cast<std::int16_t>(date > 9999 && !FolderIsMended() ? date / 10 : date);
 }
 
 std::int16_t StoredPick(int column, std::int16_t pick) {
@@ -54,9 +56,10 @@ void CheckSaveLoad(const FuzzInput& input) {
         }
         if (appState.HistoryTable(0, row) > 0) {
             ++last;
-            expected(0, row) = StoredDate(appState.HistoryTable(0, row));
+            const int placeWhenLoaded = FolderIsMended() ? last : row;
+            expected(0, placeWhenLoaded) = StoredDate(appState.HistoryTable(0, row));
             for (int column = 1; column <= appState.totalPicks; ++column) {
-                expected(column, row) = StoredPick(column, appState.HistoryTable(column, row));
+                expected(column, placeWhenLoaded) = StoredPick(column, appState.HistoryTable(column, row));
             }
         }
     }
@@ -74,6 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzInput input(data, size);
     ballhaven::appState.currentGame = 7;
     ballhaven::appState.totalPicks = static_cast<std::int16_t>(1 + input.Choice(108));
+    ballhaven::appState.systemRecord = input.Choice(2) == 0 ? std::string() : ballhaven::WithMendedMark("");
     if (input.Choice(4) == 0) {
         CheckSaveLoad(input);
     } else {

@@ -1,6 +1,6 @@
 // ballhaven_mended DIR: makes a mended folder of a program folder that has no data yet.
 
-#include "state/RuntimeFailure.h"
+#include "tools/FolderTool.h"
 #include "tools/NewFolder.h"
 
 #include <iostream>
@@ -12,16 +12,6 @@ int main(int argumentCount, char** arguments) {
         std::cerr << "usage: ballhaven_mended DIR\n";
         return 2;
     }
-    try {
-        const std::string refusal = BeginFolder(arguments[1], FolderKind::Mended);
-        if (!refusal.empty()) {
-            std::cerr << refusal << '\n';
-            return 1;
-        }
-    } catch (const ballhaven::RuntimeFailure& failure) {
-        std::cerr << failure.what() << '\n';
-        return 1;
-    }
-    std::cout << arguments[1] << " is a mended folder now.\n";
-    return 0;
+    const std::string folder = arguments[1];
+    return RunFolderTool([&] { return BeginFolder(folder, FolderKind::Mended); }, folder + " is a mended folder now.");
 }

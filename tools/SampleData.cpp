@@ -1,7 +1,7 @@
 // ballhaven_sample [--mended] DIR: makes sample games in a program folder that has no data yet; with --mended, a mended
 // folder.
 
-#include "state/RuntimeFailure.h"
+#include "tools/FolderTool.h"
 #include "tools/SampleGames.h"
 
 #include <iostream>
@@ -16,16 +16,7 @@ int main(int argumentCount, char** values) {
         std::cerr << "usage: ballhaven_sample [--mended] DIR\n";
         return 2;
     }
-    try {
-        const std::string refusal = FillSampleFolder(arguments[0], kind);
-        if (!refusal.empty()) {
-            std::cerr << refusal << '\n';
-            return 1;
-        }
-    } catch (const ballhaven::RuntimeFailure& failure) {
-        std::cerr << failure.what() << '\n';
-        return 1;
-    }
-    std::cout << SampleGames().size() << " sample games made in " << arguments[0] << ".\n";
-    return 0;
+    const std::string& folder = arguments.front();
+    return RunFolderTool([&] { return FillSampleFolder(folder, kind); },
+                         std::to_string(SampleGames().size()) + " sample games made in " + folder + ".");
 }
