@@ -224,7 +224,35 @@ TEST_F(ImportCommandTest, TheFormCanBeGiven) {
     EXPECT_EQ(Import("1986-09-29,1,2,3\n1986-09-28,4,5,6\n", {"--header", "--apply"}), done);
     EXPECT_EQ(Draws(), FileOf(Row("1001  4  5  6") + Row("9652  1  2  3")));
     EXPECT_EQ(Import("date,a,b,x\n1986-09-29,1,2,3\n", {"--no-header"}), refused);
-    EXPECT_NE(notes.str().find("line 1: \"date\" is no date of the form y-m-d\n"), std::string::npos) << notes.str();
+    EXPECT_NE(notes.str().find("line 1: \"date\" is no date of the form y-m-d, with four digits of the year\n"),
+              std::string::npos)
+        << notes.str();
+}
+
+TEST_F(ImportCommandTest, AFileOfAnyEncodingComesIn) {
+    const std::string text =
+        "d\xE9"
+        "but;a;b;x\r\n27.09.1986;7;3;1\r\n";
+    const std::string expected = FileOf(Row("1000  7  3  1"));
+    std::string utf16 = "\xFF\xFE";
+    for (const char each : text) {
+        utf16 += {each, '\0'};
+    }
+    const std::string header =
+        "d\xC3\xA9"
+        "but,a,b,x";
+    for (const std::vector<std::string>& options :
+         {std::vector<std::string>{"--apply"}, {"--columns", header, "--apply"}}) {
+        for (const std::string& bytes : {text, utf16,
+                                         "\xEF\xBB\xBF"
+                                         "d\xC3\xA9" +
+                                             text.substr(2),
+                                         "d\xC3\xA9" + text.substr(2)}) {
+            directory.Write("GAME01.CDB", "");
+            EXPECT_EQ(Import(bytes, options), done) << notes.str();
+            EXPECT_EQ(Draws(), expected);
+        }
+    }
 }
 
 TEST_F(ImportCommandTest, WhatNoOptionTakesIsWrongUsage) {

@@ -41,7 +41,8 @@ std::string FaultOfSerial(int serial, int lastDate) {
 std::string TakeDate(DrawOnFile& draw, std::string_view field, DateOrder dates, int lastDate) {
     const std::optional<std::chrono::year_month_day> date = DateIn(field, dates);
     if (!date) {
-        return Quoted(field) + " is no date of the form " + std::string(NameOf(dates));
+        return Quoted(field) + " is no date of the form " + std::string(NameOf(dates)) +
+               ", with four digits of the year";
     }
     if (!date->ok()) {
         return Quoted(field) + " is no day of the calendar" +

@@ -65,8 +65,8 @@ TEST(DrawCheck, ADateHasToBeADayOfTheCalendar) {
     const Fields monthAboveTwelve{"21/05/2010", "1", "2", "3"};
     EXPECT_EQ(CheckDraw(monthAboveTwelve, columns, DateOrder::monthFirst, threeOf49, lastDateOfFourDigits).fault,
               "\"21/05/2010\" is no day of the calendar with dates m/d/y");
-    EXPECT_EQ(FaultOf({"soon", "1", "2", "3"}), "\"soon\" is no date of the form y-m-d");
-    EXPECT_EQ(FaultOf({"", "1", "2", "3"}), "\"\" is no date of the form y-m-d");
+    EXPECT_EQ(FaultOf({"soon", "1", "2", "3"}), "\"soon\" is no date of the form y-m-d, with four digits of the year");
+    EXPECT_EQ(FaultOf({"", "1", "2", "3"}), "\"\" is no date of the form y-m-d, with four digits of the year");
 }
 
 TEST(DrawCheck, TheFirstDateIsTheSecondOfJanuary1984) {

@@ -49,7 +49,7 @@ TEST(ImportDraws, DatesOfAnotherOrderThanTheFirstThatTellsItAreFaults) {
     EXPECT_EQ(FaultsOf(Import("02/01/1984,1,2\n01/25/1984,1,2\n25/01/1984,1,2\n")),
               (Faults{{3, "\"25/01/1984\" is no day of the calendar with dates m/d/y"}}));
     EXPECT_EQ(FaultsOf(Import("1984-01-25,1,2\n01/26/1984,1,2\n")),
-              (Faults{{2, "\"01/26/1984\" is no date of the form y-m-d"}}));
+              (Faults{{2, "\"01/26/1984\" is no date of the form y-m-d, with four digits of the year"}}));
 }
 
 TEST(ImportDraws, ADateThatTheFileHasTwiceIsAFaultOfTheSecondLine) {
