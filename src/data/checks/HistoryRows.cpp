@@ -17,6 +17,9 @@ using RowSpan = std::span<const HistoryRow>;
 constexpr int lowestCutDate = 1000;
 constexpr int highestCutDate = 3276;
 constexpr int lastYearsOfFourDigits = 9000;  // from 2008-08-22 on
+constexpr const char* whyDatesAreCut =
+    "A file of an ordinary folder keeps no date after 2011-05-18: later ones lose their last digit. Delete them, mark "
+    "the folder with \"ballhaven-data mend\", and import them again.";
 
 bool HoldsDraw(const HistoryRow& row) {
     return row.date > 0;
@@ -43,8 +46,13 @@ bool CheckHoles(Examination& examination, RowSpan rows) {
     return found;
 }
 
+/// Whether a date can be what four digits have left of a later one.
+bool CanBeCut(const HistoryRow& row, DateDigits digits) {
+    return digits == DateDigits::Four && row.date >= lowestCutDate && row.date <= highestCutDate;
+}
+
 bool LooksCut(const HistoryRow& before, const HistoryRow& row) {
-    return before.date >= lastYearsOfFourDigits && row.date >= lowestCutDate && row.date <= highestCutDate;
+    return before.date >= lastYearsOfFourDigits && CanBeCut(row, DateDigits::Four);
 }
 
 /// How many of the draws, from the first on, stand before those whose dates have lost their last digit.
@@ -56,8 +64,7 @@ std::size_t CountBeforeCutDates(RowSpan draws, DateDigits digits) {
 void ReportCutDates(Examination& examination, RowSpan cut) {
     examination.Leave("the draws in " + RecordsText(cut.front().record, cut.back().record) + " are dated from " +
                           IsoDate(cut.front().date) + " on, behind newer ones",
-                      "A file of an ordinary folder keeps no date after 2011-05-18: these have lost their last digit. "
-                      "Delete them, mark the folder with \"ballhaven-data mend\", and import them again.");
+                      whyDatesAreCut);
 }
 
 bool CheckAscending(Examination& examination, RowSpan draws) {
@@ -73,14 +80,15 @@ bool CheckAscending(Examination& examination, RowSpan draws) {
     return ascending;
 }
 
-void CheckDatedTwice(Examination& examination, RowSpan draws) {
+void CheckDatedTwice(Examination& examination, RowSpan draws, DateDigits digits) {
     std::map<int, int> recordOfDate;
     for (const HistoryRow& draw : draws) {
         const auto [first, isNew] = recordOfDate.emplace(draw.date, draw.record);
         if (!isNew) {
             examination.BeginRecord(draw.record, DrawSubject(draw.date));
             examination.Leave("has the date of record " + std::to_string(first->second),
-                              "Give one of them its right date in Ballhaven, or delete it.");
+                              CanBeCut(draw, digits) ? whyDatesAreCut
+                                                     : "Give one of them its right date in Ballhaven, or delete it.");
         }
     }
 }
@@ -109,7 +117,7 @@ void CheckRowOrder(Examination& examination, const Rows& rows, DateDigits digits
     const RowSpan draws(closed.begin(), noDraws);
     const std::size_t dated = CountBeforeCutDates(draws, digits);
     const bool ascending = CheckAscending(examination, draws.first(dated));
-    CheckDatedTwice(examination, draws.first(dated));
+    CheckDatedTwice(examination, draws.first(dated), digits);
     examination.EndRecords();
     if (dated < draws.size()) {
         ReportCutDates(examination, draws.subspan(dated));

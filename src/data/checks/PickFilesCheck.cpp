@@ -45,12 +45,6 @@ int PicksOf(const GameOnFile& game, PickColumn list) {
     return list == mainPicks ? game.rules.mainPickCount : BonusSlots(game.rules);
 }
 
-/// Whether a pick is on the game's board. The first cell always counts as one: it stands in places that a report of the
-/// plays has sorted.
-bool IsOnBoard(const GameRules& rules, PickColumn list, int cell) {
-    return cell == 0 || PickOfCell(rules, list, cell) != noPick;
-}
-
 /// Looks at the fields of picks of a record at hand.
 class PickFieldCheck {
   public:
@@ -67,7 +61,7 @@ class PickFieldCheck {
             examination.LeaveField(
                 field, "no number",
                 "Ballhaven reads it as cell " + std::to_string(modUTILS::PickOfField(text)) + " of the board.");
-        } else if (ofTheGame && !IsOnBoard(game.rules, list, *pick)) {
+        } else if (ofTheGame && PickOfCell(game.rules, list, *pick) == noPick) {
             examination.LeaveField(field, "no cell of the game's board", lookAtIt);
         }
     }

@@ -105,13 +105,30 @@ TEST_F(HistoryRowsTest, DatesThatHaveLostTheirLastDigitAreToldAndNotSorted) {
     Check({9990, 9999, 1000, 1000, 1001});
     EXPECT_EQ(lines, std::vector<std::string>{"GAME01.CDB: the draws in records 4 to 6 are dated from 1986-09-27 on, "
                                               "behind newer ones. A file of an ordinary folder keeps no date after "
-                                              "2011-05-18: these have lost their last digit. Delete them, mark the "
+                                              "2011-05-18: later ones lose their last digit. Delete them, mark the "
                                               "folder with \"ballhaven-data mend\", and import them again."});
     EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::User});
     EXPECT_FALSE(changed);
 
     Check({9999, 9990, 0, 1000});
     EXPECT_EQ(order, (std::vector<std::string>{"9990x3", "9999x2", "1000x5"}));
+}
+
+TEST_F(HistoryRowsTest, DrawsOfTodayThatShareADateInAnOrdinaryFolderAreToldWhy) {
+    const std::string why =
+        "A file of an ordinary folder keeps no date after 2011-05-18: later ones lose their last digit. "
+        "Delete them, mark the folder with \"ballhaven-data mend\", and import them again.";
+    for (const int date : {1000, 1566, 3276}) {
+        Check({date, date});
+        ASSERT_EQ(lines.size(), 1U);
+        EXPECT_NE(lines[0].find("has the date of record 2. " + why), std::string::npos) << lines[0];
+    }
+    for (const int date : {999, 3277}) {
+        Check({date, date});
+        EXPECT_EQ(lines[0].find(why), std::string::npos) << lines[0];
+    }
+    Check({1566, 1566}, DateDigits::Five);
+    EXPECT_EQ(lines[0].find(why), std::string::npos) << lines[0];
 }
 
 TEST_F(HistoryRowsTest, AnOldDrawBehindAnOldOneHasLostNothing) {
