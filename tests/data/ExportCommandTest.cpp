@@ -1,7 +1,6 @@
 #include "data/ExportCommand.h"
 
 #include "data/CommandLine.h"
-#include "data/folder/Refusal.h"
 #include "support/TemporaryDirectory.h"
 #include "tools/SampleGames.h"
 

@@ -1,8 +1,6 @@
 #include "data/ImportCommand.h"
 
 #include "data/CommandLine.h"
-#include "data/folder/DrawsOnFile.h"
-#include "data/folder/Refusal.h"
 #include "platform/Services.h"
 #include "support/TemporaryDirectory.h"
 #include "support/WatchedFiles.h"
@@ -294,6 +292,13 @@ TEST_F(ImportCommandTest, AGameOfMorePicksThanItsFileHoldsIsRefused) {
     EXPECT_EQ(notes.str(),
               "ballhaven-data: Two and One has more than 10 picks in a draw, so its record is damaged. Look "
               "at it with ballhaven-data check.\n");
+    EXPECT_FALSE(directory.Has("GAME01.CDB"));
+}
+
+TEST_F(ImportCommandTest, AFolderThatIsInUseIsLeftAlone) {
+    const WorkFolder inUse(directory.Path());
+    EXPECT_EQ(Import("1986-09-28,1,2,3\n", {"--apply"}), refused);
+    EXPECT_NE(notes.str().find(" is in use by Ballhaven or by another run of this program."), std::string::npos);
     EXPECT_FALSE(directory.Has("GAME01.CDB"));
 }
 
