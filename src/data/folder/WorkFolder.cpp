@@ -66,7 +66,7 @@ WorkFolder::WorkFolder(const std::string& folder, DecidedChange decided) : direc
 }
 
 std::string WorkFolder::Change(const FileContents& files, const std::string& occasion) const {
-    const std::string copy = KeepCopy(files, occasion);
+    std::string copy = KeepCopy(files, occasion);
     const std::vector<FolderFile> known = AllFolderFiles();
     platform::FolderChange change(directory);
     try {

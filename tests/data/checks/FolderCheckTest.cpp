@@ -143,7 +143,7 @@ TEST_F(FolderCheckTest, MendingChangesNothingThatIsRead) {
     std::mt19937 chance(2002);
     const auto upTo = [&chance](std::size_t count) { return static_cast<std::size_t>(chance() % count); };
     int mendings = 0;
-    for (int round = 0; round < 24; ++round) {
+    for (int round = 0; round < 12; ++round) {
         for (const char* name : {"LOTTOSYS", "GAME01.CDB", "GAME03.CDB", "PLAYS01.CDB", "PLAYS03.CDB", "SHUFFLE.CDB"}) {
             std::string bytes = sample.at(name);
             for (int damage = 0; damage < 6; ++damage) {
@@ -170,7 +170,7 @@ TEST_F(FolderCheckTest, MendingChangesNothingThatIsRead) {
         EXPECT_TRUE(again.mended.empty()) << again.mended.begin()->first << " in round " << round;
         EXPECT_EQ(std::ranges::count(again.findings, Remedy::Mend, &Finding::remedy), 0);
     }
-    EXPECT_GT(mendings, 50);
+    EXPECT_GT(mendings, 25);
 }
 
 }  // namespace
