@@ -95,11 +95,24 @@ void GridPaneView::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(keyPressed(*event));
 }
 
+// The toolkit's table draws all of itself anew when its window or itself gets the keyboard or loses it: only the mark
+// of the current cell looks otherwise then.
+bool GridPaneView::viewportEvent(QEvent* event) {
+    const bool isOfTheWindow = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
+    return isOfTheWindow || QTableView::viewportEvent(event);
+}
+
 void GridPaneView::focusInEvent(QFocusEvent* event) {
-    QTableView::focusInEvent(event);
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update(visualRect(currentIndex()));
     if (focused) {
         focused();
     }
+}
+
+void GridPaneView::focusOutEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update(visualRect(currentIndex()));
 }
 
 void GridPaneView::paintEvent(QPaintEvent* event) {

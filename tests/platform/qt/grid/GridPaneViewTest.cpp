@@ -2,6 +2,7 @@
 
 #include "support/qt/GridOnScreen.h"
 
+#include <QApplication>
 #include <QScreen>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -49,6 +50,35 @@ TEST_F(GridPaneViews, BackOnTheyAreDrawnAnew) {
     QTest::qWait(1);
 
     EXPECT_NE(OnScreen(), drawn);
+}
+
+TEST_F(GridPaneViews, AWindowThatComesToTheFrontOrLeavesItLetsNoCellBeDrawnAnew) {
+    PaneView(1)->setFocus();
+    QTest::qWait(1);
+    for (const QEvent::Type change : {QEvent::WindowDeactivate, QEvent::WindowActivate}) {
+        cellsRead = 0;
+        QEvent event(change);
+        QApplication::sendEvent(PaneView(1), &event);
+        QApplication::sendEvent(PaneView(1)->viewport(), &event);
+        QTest::qWait(1);
+        EXPECT_EQ(cellsRead, 0) << change;
+    }
+}
+
+TEST_F(GridPaneViews, TheKeyboardComesAndGoesWithTheMarkOfOneCell) {
+    grid.GoTo(1, 1);
+    PaneView(0)->setFocus();
+    QTest::qWait(1);
+    const QImage without = OnScreen();
+    cellsRead = 0;
+    PaneView(1)->setFocus();
+    QTest::qWait(1);
+    EXPECT_NE(OnScreen(), without);
+    EXPECT_GT(cellsRead, 0);
+    EXPECT_LT(cellsRead, 10) << "the cell, and those that its mark touches";
+    PaneView(0)->setFocus();
+    QTest::qWait(1);
+    EXPECT_EQ(OnScreen(), without);
 }
 
 TEST_F(GridPaneViews, APlaceThatWasNeverDrawnIsEmptyWhileTheGridIsOff) {
