@@ -73,11 +73,22 @@ TEST(GameRecord, OfTheOlderFormBecomesOneOfThePresentForm) {
     EXPECT_EQ(InPresentForm(record), record);
 }
 
+TEST(GameRecord, OfTheOlderFormKeepsAHistorySetAboveNone) {
+    const auto converted = [](const char* set) {
+        return InPresentForm(WithColumns(record, {{31, "N"}, {27, set}})).substr(26, 3);
+    };
+    EXPECT_EQ(converted("000"), "010");
+    EXPECT_EQ(converted("001"), "001");
+    EXPECT_EQ(converted("995"), "000");
+}
+
 TEST(GameRecord, GetsItsConversionMarkFromTheNumberInItsPlace) {
     EXPECT_TRUE(HasConversionMark(record));
     EXPECT_FALSE(HasConversionMark(WithColumns(record, {{51, "7 "}})));
     EXPECT_EQ(WithConversionMark(WithColumns(record, {{51, "7 "}})), WithColumns(record, {{51, "N "}}));
     EXPECT_EQ(WithConversionMark(WithColumns(record, {{51, "8 "}})), record);
+    EXPECT_EQ(WithConversionMark(WithColumns(record, {{51, "71"}})), WithColumns(record, {{51, "N "}}))
+        << "the number has one digit";
 }
 
 }  // namespace
