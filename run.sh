@@ -2,7 +2,7 @@
 # Builds Ballhaven, puts its program folder at dist/Ballhaven and starts it there.
 #
 #   ./run.sh            builds and starts
-#   ./run.sh --mended   makes a new folder a mended one: it keeps the dates of today, and nothing that was entered is lost
+#   ./run.sh --mended   makes a new folder a mended one, which keeps the dates of today: for who begins now
 #   ./run.sh --sample   puts sample games into the folder first, unless it has data already (goes with --mended)
 #   ./run.sh --build    builds and fills the folder, and starts nothing (goes with both)
 #
@@ -75,7 +75,7 @@ if [[ $mended == yes ]] && has_data && ! is_mended; then
     exit 1
 fi
 if [[ $mended == no && $new_folder == yes ]]; then
-    echo "Ballhaven: $folder is an ordinary folder: a date after 18 May 2011 does not last in it; ./run.sh --mended begins one for the draws of today."
+    echo "Ballhaven: $folder is an ordinary folder: a date after 18 May 2011 does not last in it; $folder/ballhaven-data mend makes it one for the draws of today."
 fi
 if [[ $sample == yes ]] && has_data; then
     echo "Ballhaven: $folder has data already, which stay as they are; no sample games were put there."

@@ -199,8 +199,10 @@ class Commands {
     }
 
     void AddMend() {
-        CLI::App& mending =
-            Add("mend", "Marks the folder as mended, so that nothing that is entered gets lost", "mend");
+        CLI::App& mending = Add("mend",
+                                "Marks the folder as mended, so that it keeps the dates of today, and daily use loses "
+                                "nothing that was entered",
+                                "mend");
         mending.callback([this] { MendFolder(WorkFolder(folder), console); });
     }
 

@@ -17,7 +17,7 @@ constexpr int systemRecordNumber = 1;
 constexpr std::size_t fifthDigitPlace = 4;
 
 constexpr const char* whatIsDifferent =
-    "In a mended folder what was entered is kept, and no statistic ends the program:\n"
+    "In a mended folder no statistic ends the program, and daily use keeps what was entered:\n"
     "- dates after 18 May 2011 are kept, to 17 September 2073;\n"
     "- a damaged date costs its own draw, and hides or overwrites no other;\n"
     "- a pick that was only typed is saved;\n"

@@ -10,6 +10,7 @@
 #include "platform/Pointer.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
+#include "state/MendedFolder.h"
 #include "state/ViewRows.h"
 #include "state/modUTILS.h"
 
@@ -100,7 +101,8 @@ void BringInChosenDraw() {
     SortHistory();
     RefreshHistory(modUTILS::ToInt16(appState.pendingLogDate));
     const bool isNewDraw = appState.logDateText.empty();
-    if (isNewDraw) {
+    // In a mended folder the draws stand in the file as they are sorted, also after another date.
+    if (isNewDraw || FolderIsMended()) {
         appState.historyDirty = true;
     }
     appState.pendingLogDate = 0;

@@ -16,8 +16,7 @@ namespace ballhaven {
 /// The text of a table's cell, columns 0 to 3, from the cells of its row (`CellsOfRow`) in a view of so many games. A
 /// null where the row has too few cells. Raises the failures of `HotCellValue` where figures are narrow.
 [[nodiscard]] std::optional<std::string> HotCellText(HotTable table, std::span<const std::int32_t> cells, int column,
-                                                     int games, int gameType,
-                                                     FigureRange figures = FigureRange::Narrow);
+                                                     int games, int gameType, FigureRange figures);
 
 /// The colour of a card's text, or of that of a pair of cards. A pair is blue with a club and no spade or a spade and
 /// no club; else, and for a single card, hearts and diamonds are red, clubs and spades black.

@@ -46,9 +46,10 @@ std::string Companion(const std::string& words) {
 
 std::string WayOut(const std::exception& failure, bool inReading) {
     if (IsFileError(failure)) {
+        const std::string anotherSlot = appState.currentGame == 1 ? "2" : "1";
         return "The program ends. The files are as they were when they were last saved. Make it possible to read and "
-               "write this one, and start again. To start with another game, such as the one in slot 2, " +
-               Companion("--shown 2");
+               "write this one, and start again. If it is one of a game's, another one comes first when you " +
+               Companion("--shown " + anotherSlot);
     }
     if (inReading) {
         return "This came up while draws were counted or shown" + InWhichGame() +

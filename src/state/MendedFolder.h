@@ -5,9 +5,9 @@
 
 namespace ballhaven {
 
-// A folder can be marked as mended in record 1 of its LOTTOSYS. In such a folder nothing that was entered is lost, and
-// no statistic ends the program: the oddities that would cost data ask here, each at its line, and keep to what people
-// expect. Without the mark all of them stay.
+// A folder can be marked as mended in record 1 of its LOTTOSYS. In such a folder no statistic ends the program, and the
+// ways in which daily use loses what was entered are closed: the oddities concerned ask here, each at its line, and
+// keep to what people expect. Without the mark all of them stay.
 
 /// Whether the record says that its folder is mended.
 [[nodiscard]] bool IsMended(std::string_view systemRecord);

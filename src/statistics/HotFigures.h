@@ -15,11 +15,11 @@ enum class FigureRange {
 
 /// The hits in a hundred games, cut to a whole number. Raises the overflow failure for 328 hits or more where figures
 /// are narrow.
-[[nodiscard]] int HotPercentage(int games, int hits, FigureRange range = FigureRange::Narrow);
+[[nodiscard]] int HotPercentage(int games, int hits, FigureRange range);
 
 /// The average number of games from one hit to the next by the mask "##.0": one decimal, halves rounded away from zero,
 /// and no digit before the point of a value below 1. Of 0 hits, where figures are whole, it is empty; where they are
 /// narrow, that raises the failure of a division by zero.
-[[nodiscard]] std::string IntervalText(int games, int hits, FigureRange range = FigureRange::Narrow);
+[[nodiscard]] std::string IntervalText(int games, int hits, FigureRange range);
 
 }  // namespace ballhaven

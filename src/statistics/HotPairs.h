@@ -16,7 +16,7 @@ inline constexpr std::ptrdiff_t mostHotPairs = 501;
 /// equal ones by their lower and then by their higher pick. A pair with a pick outside the main range leaves a row of
 /// zeros at the end. One pair more than `mostPairs` is a subscript failure.
 [[nodiscard]] FoundRows<PairHits> FindHotPairs(const DrawRows& draws, std::span<const std::int16_t> candidates,
-                                               PickRange mainPicks, std::ptrdiff_t mostPairs = mostHotPairs);
+                                               PickRange mainPicks, std::ptrdiff_t mostPairs);
 
 /// Puts the pairs that stand together in two or more games of the view into `hotPairTable`, as `FindHotPairs` finds
 /// them. Candidates are the picks of `hotNumberTable`, which has to be current; they count in all columns of a game,

@@ -18,8 +18,7 @@ inline constexpr std::ptrdiff_t mostPairsDrawnOnce = 1001;
 /// begins with n above 1, a candidate is not paired with the n - 1 that follow it. One row more than `mostPairs` is a
 /// subscript failure if it is one of two picks; rows 0, 0 of one pick may stand beyond.
 [[nodiscard]] FoundRows<PickPair> FindPairsDrawnOnce(const DrawRows& draws, std::span<const std::int16_t> candidates,
-                                                     PickRange mainPicks,
-                                                     std::ptrdiff_t mostPairs = mostPairsDrawnOnce);
+                                                     PickRange mainPicks, std::ptrdiff_t mostPairs);
 
 /// Puts the pairs that stand together in exactly one game of the view into `pairedOnceTable`, as `FindPairsDrawnOnce`
 /// finds them. Candidates and games are those of `ComputeHotPairs`. Sets `pairedOnceLast` (-1 for none),

@@ -17,7 +17,7 @@ inline constexpr std::ptrdiff_t mostRepeats = std::numeric_limits<std::int16_t>:
 /// at the end. The direction of the log makes no difference. More repeats of a pick than `mostOfPick` are an overflow
 /// failure.
 [[nodiscard]] FoundRows<PickHits> FindRepeaters(const DrawRows& draws, std::span<const std::int16_t> candidates,
-                                                PickRange mainPicks, std::ptrdiff_t mostOfPick = mostRepeats);
+                                                PickRange mainPicks, std::ptrdiff_t mostOfPick);
 
 /// Puts the picks that came up again in the very next game of the view into `repeaterTable`, as `FindRepeaters` finds
 /// them. Candidates are the picks of `hotNumberTable`, which has to be current; they count in all columns of both

@@ -250,6 +250,19 @@ TEST_F(ChosenDraw, LeavesTheHistoryAsCleanAsItWasWhereOnlyItsDateIsNew) {
     EXPECT_FALSE(appState.historyDirty);
 }
 
+// Not a bug: ENTRY-ORDER-1 in docs/not-bugs.md, but in a mended folder.
+TEST_F(ChosenDraw, QuirkEntryOrder1InAMendedFolderAnotherDateIsSavedInItsOrder) {
+    ShowLog(ThreeOfNine(), DailyDraws(3));
+    support::MendFolder();
+    ExpectChangeQuestion(BoxAnswer::Yes);
+    EXPECT_TRUE(ChangeDate("01/20/1990"));
+    BringInChosenDraw();
+    EXPECT_TRUE(appState.historyDirty);
+    SaveWhatIsDirty();
+    EXPECT_EQ(directory.Read("GAME01.CDB").substr(64, 4), std::to_string(SerialOf("01/01/1990")));
+    EXPECT_EQ(directory.Read("GAME01.CDB").substr(3 * 64, 4), std::to_string(SerialOf("01/20/1990")));
+}
+
 TEST_F(ChosenDraw, IsBroughtInOnceThoughTheTimerTicksBehindItsMessage) {
     ShowLog(ThreeOfNine().HistorySet(10), DailyDraws(12));
     ChooseNewDraw("12/25/1989");

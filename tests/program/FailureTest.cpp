@@ -120,12 +120,13 @@ TEST_F(FailuresOfTheProgram, ADirectoryThatCannotBeWrittenIsNamedWhenTheGameIsLe
 
 TEST_F(FailuresOfTheProgram, AFileThatCannotBeReadIsNamedAtTheStart) {
     platform::fileSystem.read = [](int, std::int64_t, char*, std::size_t) { return std::int64_t{-EIO}; };
-    boxes.Expect("Ballhaven",
-                 FileError("LOTTOSYS", "Input/output error") +
-                     "\n\nThe program ends. The files are as they were when they were last saved. Make it possible to "
-                     "read and write this one, and start again. To start with another game, such as the one in slot 2, "
-                     "type in the folder of the program: ballhaven-data set --shown 2.",
-                 BoxButtons::Ok, BoxIcon::Critical);
+    boxes.Expect(
+        "Ballhaven",
+        FileError("LOTTOSYS", "Input/output error") +
+            "\n\nThe program ends. The files are as they were when they were last saved. Make it possible to "
+            "read and write this one, and start again. If it is one of a game's, another one comes first when you "
+            "type in the folder of the program: ballhaven-data set --shown 1.",
+        BoxButtons::Ok, BoxIcon::Critical);
     support::ResetState();
     StartProgram();
     EXPECT_EQ(exitCodes, (std::vector<int>{1}));

@@ -277,13 +277,13 @@ TEST(HotCellValue, APairOfZerosHasNoInterval) {
 TEST(HotCellText, TellsARowByItsCellsAlone) {
     const std::vector<std::int32_t> pair{1, 23, 5};
 
-    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, cardGame), "Ah, 10c");
-    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, numberGame), "1, 23");
-    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 1, 10, numberGame), "5");
-    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 2, 10, numberGame), "50");
-    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 3, 10, numberGame), "2.0");
-    EXPECT_EQ(HotCellText(HotTable::PairedOnce, pair, 0, 10, numberGame), "1, 23");
-    EXPECT_EQ(HotCellText(HotTable::PairedOnce, pair, 1, 10, numberGame), "");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, cardGame, FigureRange::Narrow), "Ah, 10c");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 0, 10, numberGame, FigureRange::Narrow), "1, 23");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 1, 10, numberGame, FigureRange::Narrow), "5");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 2, 10, numberGame, FigureRange::Narrow), "50");
+    EXPECT_EQ(HotCellText(HotTable::HotPairs, pair, 3, 10, numberGame, FigureRange::Narrow), "2.0");
+    EXPECT_EQ(HotCellText(HotTable::PairedOnce, pair, 0, 10, numberGame, FigureRange::Narrow), "1, 23");
+    EXPECT_EQ(HotCellText(HotTable::PairedOnce, pair, 1, 10, numberGame, FigureRange::Narrow), "");
 }
 
 TEST(HotCellText, OfARowWithTooFewCellsIsANull) {
@@ -295,8 +295,10 @@ TEST(HotCellText, OfARowWithTooFewCellsIsANull) {
                                                                                      {HotTable::PairedOnce, 2},
                                                                                      {HotTable::Repeaters, 2},
                                                                                      {HotTable::NoHitters, 1}}) {
-        EXPECT_NE(HotCellText(table, rowOf(needed), 0, 10, numberGame), std::nullopt) << static_cast<int>(table);
-        EXPECT_EQ(HotCellText(table, rowOf(needed - 1), 0, 10, numberGame), std::nullopt) << static_cast<int>(table);
+        EXPECT_NE(HotCellText(table, rowOf(needed), 0, 10, numberGame, FigureRange::Narrow), std::nullopt)
+            << static_cast<int>(table);
+        EXPECT_EQ(HotCellText(table, rowOf(needed - 1), 0, 10, numberGame, FigureRange::Narrow), std::nullopt)
+            << static_cast<int>(table);
     }
 }
 

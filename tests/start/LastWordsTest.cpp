@@ -45,12 +45,17 @@ TEST_F(TheLastWords, OfACountNameTheGameAndASmallerHistorySetAsTheWayOut) {
         "--history-set 100.");
 }
 
-TEST_F(TheLastWords, OfAFileNameItAndTheReason) {
-    EXPECT_EQ(
-        Told(RuntimeFailure("/data/LOTTOSYS", "Input/output error"), false),
-        "File error: /data/LOTTOSYS\nInput/output error\n\nThe program ends. The files are as they were when they "
-        "were last saved. Make it possible to read and write this one, and start again. To start with another game, "
-        "such as the one in slot 2, type in the folder of the program: ballhaven-data set --shown 2.");
+TEST_F(TheLastWords, OfAFileNameItAndTheReasonAndHowToBeginWithAnotherGame) {
+    const auto told = [](std::int16_t game) {
+        appState.currentGame = game;
+        return Told(RuntimeFailure("/data/GAME03.CDB", "Input/output error"), false);
+    };
+    EXPECT_EQ(told(3),
+              "File error: /data/GAME03.CDB\nInput/output error\n\nThe program ends. The files are as they were when "
+              "they were last saved. Make it possible to read and write this one, and start again. If it is one of a "
+              "game's, another one comes first when you type in the folder of the program: ballhaven-data set --shown "
+              "1.");
+    EXPECT_TRUE(told(1).ends_with("ballhaven-data set --shown 2."));
 }
 
 TEST_F(TheLastWords, OfAnyOtherFailureSayThatNothingWasSaved) {

@@ -89,7 +89,7 @@ std::vector<DrawPicks> DrawsOf501Pairs() {
 TEST(FindHotPairs, GivesThePairsOfTwoAndMoreDrawsWithMostHitsFirst) {
     const Table view = ViewOf({{1, 2, 3}, {3, 2, 9}, {2, 3, 1}, {8, 9}});
 
-    const FoundRows<PairHits> found = FindHotPairs(AllDraws(view), Picks{3, 2, 9, 1, 8}, {1, 9});
+    const FoundRows<PairHits> found = FindHotPairs(AllDraws(view), Picks{3, 2, 9, 1, 8}, {1, 9}, mostHotPairs);
 
     EXPECT_EQ(found.rows, (std::vector<PairHits>{{{2, 3}, 3}, {{1, 2}, 2}, {{1, 3}, 2}}));
     EXPECT_EQ(found.failure, std::nullopt);
@@ -98,15 +98,16 @@ TEST(FindHotPairs, GivesThePairsOfTwoAndMoreDrawsWithMostHitsFirst) {
 TEST(FindHotPairs, TakesNoPickThatIsNoCandidate) {
     const Table view = ViewOf({{1, 2, 3}, {1, 2, 3}});
 
-    EXPECT_EQ(FindHotPairs(AllDraws(view), Picks{3, 1}, {1, 9}).rows, (std::vector<PairHits>{{{1, 3}, 2}}));
-    EXPECT_TRUE(FindHotPairs(AllDraws(view), Picks{}, {1, 9}).rows.empty());
+    EXPECT_EQ(FindHotPairs(AllDraws(view), Picks{3, 1}, {1, 9}, mostHotPairs).rows,
+              (std::vector<PairHits>{{{1, 3}, 2}}));
+    EXPECT_TRUE(FindHotPairs(AllDraws(view), Picks{}, {1, 9}, mostHotPairs).rows.empty());
 }
 
 // Not a bug: PAIR-ZEROS-1 in docs/not-bugs.md.
 TEST(QuirkPairZeros1, FindHotPairsGivesZerosForAPairOutsideTheMainRange) {
     const Table view = ViewOf({{1, 2, 10}, {1, 2, 10}});
 
-    EXPECT_EQ(FindHotPairs(AllDraws(view), Picks{1, 2, 10}, {1, 9}).rows,
+    EXPECT_EQ(FindHotPairs(AllDraws(view), Picks{1, 2, 10}, {1, 9}, mostHotPairs).rows,
               (std::vector<PairHits>{{{1, 2}, 2}, {{0, 0}, 0}, {{0, 0}, 0}}));
 }
 
@@ -115,10 +116,10 @@ TEST(QuirkPairLimit1, FindHotPairsEndsAtThe502ndPairWithThoseBeforeItAsFound) {
     std::vector<DrawPicks> draws = DrawsOf501Pairs();
     Picks descending(100);
     std::iota(descending.rbegin(), descending.rend(), 0);
-    EXPECT_EQ(FindHotPairs(AllDraws(ViewOf(draws)), descending, {0, 99}).failure, std::nullopt);
+    EXPECT_EQ(FindHotPairs(AllDraws(ViewOf(draws)), descending, {0, 99}, mostHotPairs).failure, std::nullopt);
 
     draws.insert(draws.end(), 2, DrawPicks{4, 14});
-    const FoundRows<PairHits> found = FindHotPairs(AllDraws(ViewOf(draws)), descending, {0, 99});
+    const FoundRows<PairHits> found = FindHotPairs(AllDraws(ViewOf(draws)), descending, {0, 99}, mostHotPairs);
 
     EXPECT_EQ(found.failure, RuntimeFailure::Kind::SubscriptOutOfRange);
     EXPECT_EQ(found.rows.size(), 501U);

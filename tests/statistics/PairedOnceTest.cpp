@@ -74,19 +74,21 @@ DrawPicks Line(int first, int step, int count) {
 TEST(FindPairsDrawnOnce, GivesThePairsOfOneDrawByTheirPicks) {
     const Table view = ViewOf({{30, 2, 9}, {9, 30, 1}});
 
-    const FoundRows<PickPair> found = FindPairsDrawnOnce(AllDraws(view), Picks{30, 9, 2, 1}, {1, 49});
+    const FoundRows<PickPair> found =
+        FindPairsDrawnOnce(AllDraws(view), Picks{30, 9, 2, 1}, {1, 49}, mostPairsDrawnOnce);
 
     EXPECT_EQ(found.rows, (Pairs{{1, 9}, {1, 30}, {2, 9}, {2, 30}}));
     EXPECT_EQ(found.failure, std::nullopt);
 }
 
 TEST(FindPairsDrawnOnce, NeedsTwoDraws) {
-    EXPECT_TRUE(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}})), Picks{1, 2}, {1, 9}).rows.empty());
-    EXPECT_EQ(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}, {3}})), Picks{1, 2}, {1, 9}).rows, (Pairs{{1, 2}}));
+    EXPECT_TRUE(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}})), Picks{1, 2}, {1, 9}, mostPairsDrawnOnce).rows.empty());
+    EXPECT_EQ(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}, {3}})), Picks{1, 2}, {1, 9}, mostPairsDrawnOnce).rows,
+              (Pairs{{1, 2}}));
 }
 
 TEST(FindPairsDrawnOnce, WithoutCandidatesGivesNothing) {
-    EXPECT_TRUE(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}, {3}})), Picks{}, {0, 9}).rows.empty());
+    EXPECT_TRUE(FindPairsDrawnOnce(AllDraws(ViewOf({{1, 2}, {3}})), Picks{}, {0, 9}, mostPairsDrawnOnce).rows.empty());
 }
 
 TEST(ComputePairedOnce, OneGameHasNoPairsWhateverWasDrawn) {
@@ -153,7 +155,7 @@ TEST(ComputePairedOnce, CardGamesNeverShowAZeroPair) {
 TEST(QuirkPairedOnce1, TheBeginningOfTheMainRangeSaysWhereTheInnerWalkStarts) {
     const Table view = ViewOf({{5, 6, 7}, {8}});
     const auto pairsFrom = [&view](std::int16_t low) {
-        return FindPairsDrawnOnce(AllDraws(view), Picks{5, 6, 7, 8}, {low, 9}).rows;
+        return FindPairsDrawnOnce(AllDraws(view), Picks{5, 6, 7, 8}, {low, 9}, mostPairsDrawnOnce).rows;
     };
 
     EXPECT_EQ(pairsFrom(0), (Pairs{{0, 0}, {0, 0}, {0, 0}, {5, 6}, {5, 7}, {6, 7}}));
@@ -230,10 +232,12 @@ TEST(QuirkPairLimit1, FindPairsDrawnOnceEndsAtThe1002ndPairWithThoseBeforeItAsFo
     std::iota(descending.rbegin(), descending.rend(), 0);
     // The main range begins with 1, so that no value meets itself: 1001 pairs of 100 values.
     std::vector<DrawPicks> draws = DrawsOf1001Pairs();
-    EXPECT_EQ(FindPairsDrawnOnce(AllDraws(ViewOf(draws)), descending, {1, 99}).failure, std::nullopt);
+    EXPECT_EQ(FindPairsDrawnOnce(AllDraws(ViewOf(draws)), descending, {1, 99}, mostPairsDrawnOnce).failure,
+              std::nullopt);
 
     draws.push_back({5, 16});
-    const FoundRows<PickPair> found = FindPairsDrawnOnce(AllDraws(ViewOf(draws)), descending, {1, 99});
+    const FoundRows<PickPair> found =
+        FindPairsDrawnOnce(AllDraws(ViewOf(draws)), descending, {1, 99}, mostPairsDrawnOnce);
 
     EXPECT_EQ(found.failure, RuntimeFailure::Kind::SubscriptOutOfRange);
     EXPECT_EQ(found.rows.size(), 1001U);

@@ -54,27 +54,27 @@ std::string Caption() {
 TEST(FindRepeaters, GivesTheCandidatesThatCameAgainInTheNextDraw) {
     const Table view = ViewOf({{9, 5, 2}, {2, 9, 7}, {9, 5, 30}});
 
-    const FoundRows<PickHits> found = FindRepeaters(AllDraws(view), Picks{30, 9, 2, 5}, {1, 49});
+    const FoundRows<PickHits> found = FindRepeaters(AllDraws(view), Picks{30, 9, 2, 5}, {1, 49}, mostRepeats);
 
     EXPECT_EQ(found.rows, (std::vector<PickHits>{{9, 2}, {2, 1}}));
     EXPECT_EQ(found.failure, std::nullopt);
 }
 
 TEST(FindRepeaters, TakesNoPickThatIsNoCandidate) {
-    EXPECT_EQ(FindRepeaters(AllDraws(ViewOf({{1, 2}, {1, 2}})), Picks{2}, {1, 9}).rows,
+    EXPECT_EQ(FindRepeaters(AllDraws(ViewOf({{1, 2}, {1, 2}})), Picks{2}, {1, 9}, mostRepeats).rows,
               (std::vector<PickHits>{{2, 1}}));
 }
 
 TEST(FindRepeaters, LooksAtNoRowBehindTheDraws) {
     const Table view = ViewOf({{1}, {2}, {2}});
 
-    EXPECT_TRUE(FindRepeaters({view, 2, {1, 1}}, Picks{1, 2}, {1, 9}).rows.empty());
+    EXPECT_TRUE(FindRepeaters({view, 2, {1, 1}}, Picks{1, 2}, {1, 9}, mostRepeats).rows.empty());
 }
 
 TEST(FindRepeaters, TheLowestAndTheHighestValueOfAPickCount) {
     const Table view = ViewOf({{0, 1000, -2, 1001}, {0, 1000, -2, 1001}});
 
-    EXPECT_EQ(FindRepeaters(AllDraws(view), Picks{0, 1000}, {0, 1000}).rows,
+    EXPECT_EQ(FindRepeaters(AllDraws(view), Picks{0, 1000}, {0, 1000}, mostRepeats).rows,
               (std::vector<PickHits>{{0, 1}, {1000, 1}}));
 }
 
@@ -85,13 +85,13 @@ TEST(FindRepeaters, AnOverflowLeavesTheRepeatersBeforeItAsFound) {
         draws.push_back(game % 2 == 0 ? DrawPicks{7, 1, 2} : DrawPicks{7, 7, 7, 7, 7, 7, 7, 3});
     }
     const Table atLimit = ViewOf(draws);
-    const FoundRows<PickHits> fits = FindRepeaters(AllDraws(atLimit), Picks{9, 7}, {1, 9});
+    const FoundRows<PickHits> fits = FindRepeaters(AllDraws(atLimit), Picks{9, 7}, {1, 9}, mostRepeats);
     EXPECT_EQ(fits.failure, std::nullopt);
     EXPECT_EQ(fits.rows, (std::vector<PickHits>{{7, 32767}}));
 
     draws.insert(draws.end(), {{3}, {7}, {7}});
     const Table beyond = ViewOf(draws);
-    const FoundRows<PickHits> found = FindRepeaters(AllDraws(beyond), Picks{3, 7, 2}, {5, 9});
+    const FoundRows<PickHits> found = FindRepeaters(AllDraws(beyond), Picks{3, 7, 2}, {5, 9}, mostRepeats);
     EXPECT_EQ(found.failure, RuntimeFailure::Kind::Overflow);
     EXPECT_EQ(found.rows, (std::vector<PickHits>{{3, 1}}));
 }

@@ -28,7 +28,7 @@ constexpr std::int16_t d = 4;
 TEST(PartialWheel, EveryOtherCombinationComesFirst) {
     PlayPicks table = EmptyPlays();
     PlayStretch plays{1, 5, 5};
-    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table);
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 1);
 
     EXPECT_EQ(PicksText(table, mainPicks, 1, 6), "1 2|1 4|2 4|1 3|2 3|");
     EXPECT_EQ(table(mainPicks, 5, 0), byPartialWheel);
@@ -38,7 +38,7 @@ TEST(PartialWheel, EveryOtherCombinationComesFirst) {
 TEST(PartialWheel, ATotalOfAllCombinationsEndsOnTheLastRow) {
     PlayPicks table = EmptyPlays();
     PlayStretch plays{1, 6, 6};
-    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table);
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 1);
 
     EXPECT_EQ(PicksText(table, mainPicks, 1, 7), "1 2|1 4|2 4|1 3|2 3|3 4|");
     EXPECT_EQ(plays.lastPlay, 6);
@@ -47,7 +47,7 @@ TEST(PartialWheel, ATotalOfAllCombinationsEndsOnTheLastRow) {
 TEST(PartialWheel, AWheelThatIsCompleteBeforeTheTotalStops) {
     PlayPicks table = EmptyPlays();
     PlayStretch plays{1, 9, 9};
-    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table);
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 1);
 
     EXPECT_EQ(plays.lastPlay, 6);
     EXPECT_EQ(plays.plannedLast, 6);
@@ -57,7 +57,7 @@ TEST(PartialWheel, AWheelThatIsCompleteBeforeTheTotalStops) {
 TEST(PartialWheel, ATotalOfTwoGivesBothRowsInTheirOrder) {
     PlayPicks table = EmptyPlays();
     PlayStretch plays{1, 2, 2};
-    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table);
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 1);
 
     EXPECT_EQ(PicksText(table, mainPicks, 1, 3), "1 2|1 3|");
 }
@@ -65,8 +65,8 @@ TEST(PartialWheel, ATotalOfTwoGivesBothRowsInTheirOrder) {
 TEST(PartialWheel, ABonusPickStaysWithTheMainPicksOfItsRow) {
     PlayPicks table = EmptyPlays();
     PlayStretch plays{1, 5, 5};
-    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table);
-    PartialWheelPass({bonusPicks, {24, 25, 26}, 1}, plays, table);
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 1);
+    PartialWheelPass({bonusPicks, {24, 25, 26}, 1}, plays, table, 1);
 
     EXPECT_EQ(PicksText(table, bonusPicks, 1, 6), "24|26|25|25|24|");
 }
@@ -78,7 +78,7 @@ TEST(QuirkPartialWheelPlace1, AWheelBehindPlaysInUseReplacesTheFirstPlays) {
         PutPicks(table, mainPicks, play, {40 + play, 60, 70});
     }
     PlayStretch plays{11, 13, 13};
-    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table);
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 1);
 
     EXPECT_EQ(PicksText(table, mainPicks, 1, 4), "1 2 70|1 4 70|1 3 70|44 60 70");
     EXPECT_EQ(PicksText(table, mainPicks, 10, 14), "50 60 70||||");
@@ -101,7 +101,7 @@ TEST(QuirkPartialWheelFirst1, OnlyTheFirstCombinationsOfALargeWheelAreTaken) {
     PlayStretch plays{1, 10, 10};
     std::vector<std::int16_t> twenty(20);
     std::iota(twenty.begin(), twenty.end(), std::int16_t{1});
-    PartialWheelPass({mainPicks, twenty, 6}, plays, table);
+    PartialWheelPass({mainPicks, twenty, 6}, plays, table, 1);
 
     EXPECT_EQ(PicksText(table, mainPicks, 1, 5), "1 2 3 4 5 6|1 2 3 4 5 8|1 2 3 4 5 10|1 2 3 4 5 12|1 2 3 4 5 14");
     EXPECT_EQ(PicksText(table, mainPicks, 6, 11), "1 2 3 4 5 7|1 2 3 4 5 9|1 2 3 4 5 11|1 2 3 4 5 13|1 2 3 4 5 15|");
@@ -110,7 +110,7 @@ TEST(QuirkPartialWheelFirst1, OnlyTheFirstCombinationsOfALargeWheelAreTaken) {
 TEST(PartialWheel, TheLastPlaysCanBeReachedWithoutWritingBehindThem) {
     PlayPicks table = EmptyPlays();
     PlayStretch plays{4999, 5000, 5000};
-    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table);
+    PartialWheelPass({mainPicks, {a, b, c, d}, 2}, plays, table, 1);
 
     EXPECT_EQ(PicksText(table, mainPicks, 1, 3), "1 2|1 3|");
     EXPECT_EQ(PlaysInUse(table, mainPicks), 2);
@@ -135,7 +135,7 @@ RC_GTEST_PROP(PartialWheel, PlaysAreTheRowsOfOddAndThenOfEvenPlaces, ()) {
 
     PlayPicks table = EmptyPlays();
     PlayStretch plays{1, total, total};
-    PartialWheelPass({mainPicks, pool, k}, plays, table);
+    PartialWheelPass({mainPicks, pool, k}, plays, table, 1);
 
     RC_ASSERT(table == expected);
     RC_ASSERT(plays.lastPlay == static_cast<int>(rows.size()));
