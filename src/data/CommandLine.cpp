@@ -13,10 +13,10 @@
 #include "data/folder/Refusal.h"
 #include "data/folder/WorkFolder.h"
 #include "state/AppState.h"
-#include "state/RuntimeFailure.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <exception>
 #include <optional>
 #include <string_view>
 
@@ -129,11 +129,11 @@ class Commands {
         command.add_option("--from", winners.from, "The first day of the draws: 2010-01-01");
         command.add_option("--to", winners.to, "The last day of the draws");
         command.add_option("--last", winners.last, "Takes of these draws so many of the newest alone")
-            ->check(CLI::PositiveNumber);
+            ->check(OneOrMore());
         command.add_option("--top", winners.top, "How many winners are told, the best first; else 20, or all as CSV")
-            ->check(CLI::PositiveNumber);
+            ->check(OneOrMore());
         command.add_flag("--csv", winners.csv, "Tells the winners alone, as CSV");
-        command.callback([this] { ShowWinners(WorkFolder(folder), winners, console); });
+        command.callback([this] { ShowWinners(folder, winners, console); });
     }
 
     void AddGuarantee() {
@@ -148,9 +148,8 @@ class Commands {
         command.add_flag("--chosen", guarantee.chosenPicks, "The chosen numbers are those chosen for the wheels")
             ->excludes("--numbers");
         command.add_option("-m,--drawn", guarantee.drawn, "How many of the chosen numbers are drawn")
-            ->check(CLI::PositiveNumber);
-        command.add_option("-t,--hits", guarantee.hits, "How many of them a play has to hold")
-            ->check(CLI::PositiveNumber);
+            ->check(OneOrMore());
+        command.add_option("-t,--hits", guarantee.hits, "How many of them a play has to hold")->check(OneOrMore());
         command
             .add_option("--proof", guarantee.proof,
                         "A new file for the sets that no play hits, or, where there are none, for a play of each set")
@@ -158,6 +157,16 @@ class Commands {
             ->needs("--drawn")
             ->needs("--hits");
         command.callback([this] { ShowGuarantee(folder, guarantee, console); });
+    }
+
+    static CLI::Validator OneOrMore() {
+        const auto refuse = [](const std::string& text) {
+            const bool isPositive = !text.empty() &&
+                                    std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; }) &&
+                                    text.find_first_not_of('0') != std::string::npos;
+            return isPositive ? std::string() : "\"" + text + "\" is not 1 or more";
+        };
+        return {refuse, ""};
     }
 
     /// An option whose text `read` turns into a value; a text that is none is wrong usage.
@@ -248,7 +257,7 @@ ExitCode RunCommandLine(std::vector<std::string> arguments, const std::string& o
         return commands.Explain(error);
     } catch (const Refusal& refusal) {
         console.notes << "ballhaven-data: " << refusal.what() << '\n';
-    } catch (const RuntimeFailure& failure) {
+    } catch (const std::exception& failure) {
         console.notes << "ballhaven-data: " << failure.what() << '\n';
     }
     return refused;

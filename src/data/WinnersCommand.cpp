@@ -5,6 +5,7 @@
 #include "data/folder/IsoDate.h"
 #include "data/folder/PlaysOnFile.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/WorkFolder.h"
 #include "data/winners/Tickets.h"
 
 #include <algorithm>
@@ -47,8 +48,9 @@ DayRange RangeOf(const WinnersOptions& options) {
     return range;
 }
 
-Contest ReadContest(const WorkFolder& folder, const WinnersOptions& options) {
+Contest ReadContest(const std::string& directory, const WinnersOptions& options) {
     const DayRange range = RangeOf(options);
+    const WorkFolder folder(directory);
     const std::vector<GameOnFile> games = ReadGames(folder.Path());
     Contest contest{.game = FindGame(games, options.game), .draws = {}, .held = {}, .tickets = {}};
     const GameRules& rules = contest.game.rules;
@@ -128,7 +130,7 @@ void TellAsCsv(const Contest& contest, const std::vector<Tier>& tiers, const std
 
 }  // namespace
 
-void ShowWinners(const WorkFolder& folder, const WinnersOptions& options, const Console& console) {
+void ShowWinners(const std::string& folder, const WinnersOptions& options, const Console& console) {
     const Contest contest = ReadContest(folder, options);
     const GameRules& rules = contest.game.rules;
     std::vector<Picks> drawn;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "data/Console.h"
-#include "data/folder/WorkFolder.h"
 
 #include <optional>
 #include <string>
@@ -20,7 +19,7 @@ struct WinnersOptions {
 };
 
 /// Tells how often the plays of a game have hit how much in its draws, and the best of them. Without `top` it tells of
-/// 20, as CSV of all. Throws Refusal.
-void ShowWinners(const WorkFolder& folder, const WinnersOptions& options, const Console& console);
+/// 20, as CSV of all. The folder is held while it is read alone. Throws Refusal.
+void ShowWinners(const std::string& folder, const WinnersOptions& options, const Console& console);
 
 }  // namespace ballhaven::data

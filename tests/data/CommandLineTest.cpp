@@ -1,11 +1,15 @@
 #include "data/CommandLine.h"
 
+#include "support/ChildProcess.h"
+#include "support/TemporaryDirectory.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <iterator>
 #include <regex>
 #include <sstream>
+#include <sys/stat.h>
 
 namespace ballhaven::data {
 namespace {
@@ -73,6 +77,27 @@ TEST_F(CommandLineTest, TheManualTellsEveryCommandWithItsOptionsAndAnExample) {
         }
     }
     EXPECT_GT(options, 25);
+}
+
+TEST_F(CommandLineTest, ACountHasToBeOneOrMore) {
+    for (const char* count : {"0", "000", "-1", "1.5", "many", ""}) {
+        EXPECT_EQ(Run({"winners", "1", "--top", count}), wrongUsage) << count;
+        EXPECT_NE(notes.str().find("is not 1 or more"), std::string::npos) << notes.str();
+        notes.str("");
+    }
+    EXPECT_EQ(Run({"winners", "1", "--top", "1"}), refused);
+}
+
+TEST_F(CommandLineTest, WhateverTheSystemRefusesIsAMessageAndNoCrash) {
+    const support::TemporaryDirectory directory;
+    ASSERT_EQ(chmod(directory.Path().c_str(), 0700), 0);
+    const auto run = [&] {
+        support::BecomeOrdinaryUser();
+        const ExitCode code = RunCommandLine({"--folder", directory.Path(), "check", "--mend"}, "/nowhere", console);
+        return std::to_string(code) + " " + notes.str();
+    };
+    const std::string words = support::RunInChild(run).words;
+    EXPECT_TRUE(words.starts_with("1 ballhaven-data: ")) << words;
 }
 
 }  // namespace

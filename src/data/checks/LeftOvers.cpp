@@ -1,6 +1,7 @@
 #include "data/checks/LeftOvers.h"
 
 #include "data/folder/FolderFiles.h"
+#include "platform/files/FolderChange.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -38,7 +39,7 @@ std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
 }  // namespace
 
 bool HasDecidedChange(const std::string& directory) {
-    return std::filesystem::exists(std::filesystem::path(directory) / changeList);
+    return platform::HasDecidedChange(directory);
 }
 
 std::vector<std::string> FindLeftOvers(const std::string& directory) {

@@ -30,6 +30,10 @@ std::string StagedPath(const std::string& target) {
     return target + ".next";
 }
 
+bool IsNameInAFolder(const std::string& name) {
+    return !name.empty() && name != "." && name != ".." && name.find(directorySeparator) == std::string::npos;
+}
+
 /// Lets a call pass that does not find the file: somebody has done the step before.
 void CheckedIfThere(int result) {
     if (result < 0 && result != -ENOENT) {
@@ -124,10 +128,13 @@ void FolderChange::Decide() const {
     for (const Step& step : steps) {
         list.append(step.puts ? putWord : removeWord).append(step.name).append("\n");
     }
+    NewFile file(directory, listName, "");
     try {
-        NewFile(directory, listName, "").Save(list);
-    } catch (const std::system_error&) {
-        fileSystem.remove(directory + listName);  // it may bear its name already, and not be on the disk
+        file.SaveUnderItsName(list);
+    } catch (const std::system_error& error) {
+        if (error.code() != std::errc::file_exists) {
+            fileSystem.remove(directory + listName);  // it may bear its name already, and not be on the disk
+        }
         throw;
     }
 }
@@ -147,16 +154,35 @@ void FolderChange::TakeAll() {
     RemoveList(directory);
 }
 
-void FinishFolderChange(const std::string& folder) {
-    const std::string directory = WithSeparator(folder);
+std::vector<FolderChange::Step> FolderChange::DecidedSteps(const std::string& directory) {
     const std::optional<FileHead> list = ReadHeadIfThere(directory + listName, longestList);
-    if (!list) {
-        return;
-    }
-    std::istringstream lines(list->bytes);
+    std::vector<Step> steps;
+    std::istringstream lines(list ? list->bytes : std::string());
     for (std::string line; std::getline(lines, line);) {
         const bool puts = line.starts_with(putWord);
-        FolderChange::Take(directory, {line.substr((puts ? putWord : removeWord).size()), puts});
+        if (!puts && !line.starts_with(removeWord)) {
+            return {};
+        }
+        steps.push_back({line.substr((puts ? putWord : removeWord).size()), puts});
+        if (!IsNameInAFolder(steps.back().name)) {
+            return {};
+        }
+    }
+    return steps;
+}
+
+bool HasDecidedChange(const std::string& folder) {
+    return !FolderChange::DecidedSteps(WithSeparator(folder)).empty();
+}
+
+void FinishFolderChange(const std::string& folder) {
+    const std::string directory = WithSeparator(folder);
+    const std::vector<FolderChange::Step> steps = FolderChange::DecidedSteps(directory);
+    if (steps.empty()) {
+        return;
+    }
+    for (const FolderChange::Step& step : steps) {
+        FolderChange::Take(directory, step);
     }
     RemoveList(directory);
 }

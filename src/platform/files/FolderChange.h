@@ -45,15 +45,21 @@ class FolderChange {
     };
 
     static void Take(const std::string& directory, const Step& step);
+    /// The steps of the list; none where there is no list, or where the file that bears its name is somebody else's.
+    static std::vector<Step> DecidedSteps(const std::string& directory);
     void Decide() const;
     void TakeAll();
 
+    friend bool HasDecidedChange(const std::string& folder);
     friend void FinishFolderChange(const std::string& folder);
 
     std::string directory;
     std::vector<Step> steps;
     bool decided = false;
 };
+
+/// Whether a change was decided in a folder and not brought to its end. Throws std::system_error.
+[[nodiscard]] bool HasDecidedChange(const std::string& folder);
 
 /// Finishes the change that was decided in a folder and not brought to its end, if there is one. Throws
 /// std::system_error; another call goes on where this one stopped.

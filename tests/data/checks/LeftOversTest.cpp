@@ -28,7 +28,7 @@ TEST(LeftOversTest, OnlyFilesOfTheProgramsOwnAreLeftOvers) {
 TEST(LeftOversTest, WhatADecidedChangeNeedsIsNone) {
     const support::TemporaryDirectory directory;
     for (const char* name : {"CHANGE", "GAME01.CDB.next", "GAME01.CDB.new"}) {
-        directory.Write(name, "");
+        directory.Write(name, "remove GAME02.CDB\n");
     }
     EXPECT_TRUE(HasDecidedChange(directory.Path()));
     EXPECT_EQ(FindLeftOvers(directory.Path()), Names{"GAME01.CDB.new"});

@@ -14,6 +14,14 @@ TEST(SetCounts, TheCountsOfKnownLotteries) {
     EXPECT_EQ(counts(99, 10), 15'579'278'510'796U);
 }
 
+TEST(SetCounts, AGameFrom0To99HasAHundredNumbers) {
+    const SetCounts counts;
+    EXPECT_EQ(counts(100, 1), 100U);
+    EXPECT_EQ(counts(100, 2), 4950U);
+    EXPECT_EQ(counts(100, 6), 1'192'052'400U);
+    EXPECT_EQ(counts(100, 10), 17'310'309'456'440U);
+}
+
 TEST(SetCounts, ThereIsOneSetOfNoneAndOneOfAllAndNoneOfMoreThanThereAre) {
     const SetCounts counts;
 

@@ -232,6 +232,28 @@ TEST_F(FolderChangeTest, FinishingGoesOnWhereItStopped) {
     EXPECT_EQ(directory.Files(), newFiles);
 }
 
+TEST_F(FolderChangeTest, AFileOfThatNameThatIsNoListIsLeftAlone) {
+    for (const char* list :
+         {"", "hello\n", "xxxxxxxA\n", "remove ../A\n", "put \nremove B\n", "remove B\nremove ..\n", "remove /A\n"}) {
+        directory.Write("CHANGE", list);
+        EXPECT_FALSE(HasDecidedChange(directory.Path())) << list;
+        FinishFolderChange(directory.Path());
+        EXPECT_EQ(directory.Read("CHANGE"), list);
+        EXPECT_EQ(Change(), std::pair(false, EEXIST)) << list;
+        std::filesystem::remove(directory / "CHANGE");
+        EXPECT_EQ(directory.Files(), oldFiles) << list;
+    }
+}
+
+TEST_F(FolderChangeTest, ADecidedChangeIsKnownUntilItIsFinished) {
+    EXPECT_FALSE(HasDecidedChange(directory.Path()));
+    directory.Write("CHANGE", "remove B\n");
+    EXPECT_TRUE(HasDecidedChange(directory.Path()));
+    FinishFolderChange(directory.Path());
+    EXPECT_FALSE(HasDecidedChange(directory.Path()));
+    EXPECT_FALSE(directory.Has("CHANGE"));
+}
+
 TEST_F(FolderChangeTest, AFolderWithoutADecidedChangeStaysAsItIs) {
     const support::WatchedFiles watched;
     FinishFolderChange(directory.Path());
