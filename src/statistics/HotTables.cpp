@@ -46,7 +46,6 @@ const KeptTable& Kept(HotTable table) {
 }  // namespace
 
 void ComputeHotTable() {
-    const platform::OnlyReads counting;
     CountHotNumbers();
     const bool isChosen = appState.hotTableChoice > 0;
     if (isChosen) {
@@ -64,16 +63,15 @@ void ComputeHotTable() {
 }
 
 void BuildHotTable(HotTable table) {
-    const platform::OnlyReads counting;
     if (const KeptTable& kept = Kept(table); kept.build != nullptr) {
+        const platform::OnlyReads counting;
         kept.build();
     }
 }
 
 void RefreshHotTable(HotTable table) {
-    const platform::OnlyReads counting;
     if (const KeptTable& kept = Kept(table); kept.stale != nullptr && appState.*kept.stale) {
-        kept.build();
+        BuildHotTable(table);
     }
 }
 

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstddef>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,12 +22,17 @@ using platform::BoxButtons;
 using platform::BoxIcon;
 using support::Draw;
 
-constexpr const char* overflowInDrawing =
-    "Overflow: a number does not fit into 16 bits.\n\nThis came up while draws were counted or shown in the game \"Six "
-    "of "
-    "49\". The program ends; your draws and plays are saved. Choose a smaller history set for this game. If it ends "
-    "again "
-    "before you can, type in the folder of the program: ballhaven-data set 1 --history-set 100.";
+std::string ToldInReading(const std::string& failure) {
+    return failure +
+           "\n\nThis came up while draws were counted or shown in the game \"Six of 49\". The program ends; your draws "
+           "and "
+           "plays are saved. Choose a smaller history set for this game. If it ends again before you can, type in the "
+           "folder of the program: ballhaven-data set 1 --history-set 100.";
+}
+
+const std::string overflowInDrawing = ToldInReading("Overflow: a number does not fit into 16 bits.");
+
+const std::string tooManyPairs = ToldInReading("Subscript out of range: a table has no room for another row.");
 
 /// What ends the program: one box that names the failure and the way out, and no file half written.
 class FailuresOfTheProgram : public support::RunningProgram {
@@ -165,6 +172,89 @@ TEST_F(FailuresOfTheProgram, AFailureInDrawingSavesTheDrawsAndTheWindowsBehindIt
     EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf({{"01/01/1990", {7, 2, 3, 4, 5, 6}}}),
                                                 directory.Read("GAME01.CDB")));
     frmMainForm.grdHot.cellText = nullptr;
+}
+
+/// Ninety draws of ten picks: the first one 1 to 10, the second one 2 to 11, and so on; a bonus is always 99. Far more
+/// than 501 pairs were drawn at least twice, but none of two bonus picks, and not in the first ten draws.
+class FailuresOfACount : public FailuresOfTheProgram {
+  protected:
+    void SetUp() override { StoreDraws("100", 0); }
+
+    void StoreDraws(const std::string& historySet, int bonusPicks) {
+        const std::vector<int> lastDays = {31, 28, 31};
+        for (int month = 1; month <= 3; ++month) {
+            for (int day = 1; day <= lastDays.at(static_cast<std::size_t>(month) - 1); ++day) {
+                std::vector<int> picks(10);
+                std::iota(picks.begin(), picks.end(), static_cast<int>(draws.size()) + 1);
+                if (bonusPicks > 0) {
+                    picks.back() = 99;
+                }
+                draws.push_back({std::to_string(month) + "/" + std::to_string(day) + "/1990", picks});
+            }
+        }
+        Store({.gameType = bonusPicks > 0 ? 1 : 0,
+               .mainPicks = 10 - bonusPicks,
+               .bonusPicks = bonusPicks,
+               .high = 99,
+               .bonusHigh = 99,
+               .historySet = historySet,
+               .draws = draws});
+    }
+
+    void ExpectTooManyPairs() { boxes.Expect("Ballhaven", tooManyPairs, BoxButtons::Ok, BoxIcon::Critical); }
+
+    void ExpectTheEndWithTheTypedPickSaved() {
+        draws[0].picks[0] = 7;
+        EXPECT_EQ(boxes.Left(), 0U);
+        EXPECT_EQ(exitCodes, (std::vector<int>{1}));
+        EXPECT_TRUE(support::historyFileFormat.Same(support::HistoryFileOf(draws), directory.Read("GAME01.CDB")));
+    }
+
+    std::vector<Draw> draws;
+};
+
+TEST_F(FailuresOfACount, WhenItsTableIsChosenSaveTheDrawsFirst) {
+    Start();
+    TypeAPick();
+    ExpectTooManyPairs();
+    ChooseEntry("cboList(2)", 1);
+    ExpectTheEndWithTheTypedPickSaved();
+}
+
+/// The same with a bonus as the tenth pick.
+class FailuresOfACountOfAllPicks : public FailuresOfACount {
+  protected:
+    void SetUp() override { StoreDraws("100", 1); }
+};
+
+TEST_F(FailuresOfACountOfAllPicks, WhenMorePicksAreCountedSaveTheDrawsFirst) {
+    Start();
+    Click("optHot(1)");
+    ChooseEntry("cboList(2)", 1);
+    TypeAPick();
+    ExpectTooManyPairs();
+    Click("optHot(2)");
+    ExpectTheEndWithTheTypedPickSaved();
+}
+
+/// The same where ten of them are in view at first.
+class FailuresOfACountOfMoreDraws : public FailuresOfACount {
+  protected:
+    void SetUp() override { StoreDraws("010", 0); }
+};
+
+TEST_F(FailuresOfACountOfMoreDraws, WhenTheHistorySetIsChosenSaveThePlaysFirst) {
+    Start();
+    ChooseEntry("cboList(2)", 1);
+    const std::string before = directory.Read("PLAYS01.CDB");
+    ClickCell("grdPlay", 0, 4);
+    ASSERT_TRUE(appState.playsDirty);
+    ExpectTooManyPairs();
+    ChooseEntry("cboList(1)", 9);
+    EXPECT_EQ(boxes.Left(), 0U);
+    EXPECT_EQ(exitCodes, (std::vector<int>{1}));
+    EXPECT_FALSE(appState.playsDirty);
+    EXPECT_NE(directory.Read("PLAYS01.CDB"), before);
 }
 
 }  // namespace
