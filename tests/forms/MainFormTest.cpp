@@ -150,6 +150,12 @@ TEST_F(TheMainForm, HasItsTextsAndToolTips) {
     EXPECT_EQ(*frmMainForm.cmdColor[1].toolTip, "Clear Hi-Lites");
 }
 
+TEST_F(TheMainForm, CentresTheThreeCaptionsOverTheirLists) {
+    for (std::size_t list = 0; list < 3; ++list) {
+        EXPECT_EQ(*frmMainForm.lblLabel[list].alignment, platform::TextAlignment::Centre) << list;
+    }
+}
+
 TEST_F(TheMainForm, HidesTheCardPickersAtFirst) {
     EXPECT_FALSE(frmMainForm.picCards[0].visible);
     EXPECT_FALSE(frmMainForm.picCards[1].visible);

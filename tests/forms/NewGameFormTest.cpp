@@ -46,6 +46,10 @@ TEST_F(TheNewGameForm, EveryListIsCalledByTheLabelOnItsLeft) {
     }
 }
 
+TEST_F(TheNewGameForm, KeepsItsSize) {
+    EXPECT_TRUE(frmNewGame.window.fixedSize);
+}
+
 TEST_F(TheNewGameForm, HasItsTexts) {
     EXPECT_EQ(*frmNewGame.lblNewGame[0].text, "Enter a name for this game:");
     EXPECT_EQ(*LabelOf(gameTypeList).text, "Select type of game:");
