@@ -177,6 +177,16 @@ TEST_F(Calendar, OkHandsOverTheDateAndCloses) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "no hourglass is left";
 }
 
+TEST_F(Calendar, TheHourglassIsOverTheScreenWhileTheDateIsTaken) {
+    Qt::CursorShape pointer = Qt::ArrowCursor;
+    form.acceptDate = [&pointer](const std::string&) {
+        pointer = QApplication::overrideCursor() == nullptr ? Qt::ArrowCursor : QApplication::overrideCursor()->shape();
+        return true;
+    };
+    Use(year{2004} / 2 / 3, [] { QTest::mouseClick(&ButtonOf(1), Qt::LeftButton); });
+    EXPECT_EQ(pointer, Qt::WaitCursor);
+}
+
 TEST_F(Calendar, ARefusedDateKeepsItOpenForAnotherChoice) {
     accepts = false;
     Use(year{2004} / 2 / 3, [this] {
