@@ -482,6 +482,23 @@ TEST_F(LogGridOfABonusGame, ChecksABonusPickAgainstItsOwnPool) {
     ExpectCursor(datePane, 0, 0);
 }
 
+/// A game whose record tells no number of picks: it has one column of picks, and no main pick.
+class LogGridWithoutMainPicks : public LogGrid {
+  protected:
+    void SetUp() override {
+        Store({.mainPicks = 0, .draws = {{January(1), {5}}}});
+        Start();
+    }
+};
+
+TEST_F(LogGridWithoutMainPicks, TakesAnyNumberBehindThem) {
+    ClickCell("grdHist", 0, 1);
+    Type("99");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(CellText("grdHist", 0, 1), "99");
+    EXPECT_EQ(appState.HistoryTable(1, 0), 99);
+}
+
 /// Ten numbers of 1 to 49, more than the pane of the picks is wide.
 class LogGridOfTenPicks : public LogGrid {
   protected:
