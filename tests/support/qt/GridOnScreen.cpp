@@ -152,7 +152,7 @@ void GridOnScreen::Type(const std::string& text) {
     }
 }
 
-QImage GridOnScreen::Draw(int scale) {
+QImage GridOnScreen::Draw(double scale) {
     QImage image(widget->size() * scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
     widget->render(&image);

@@ -41,7 +41,7 @@ class GridOnScreen {
     void Type(const std::string& text);
 
     /// The grid's pixels at a scale.
-    [[nodiscard]] QImage Draw(int scale = 1);
+    [[nodiscard]] QImage Draw(double scale = 1);
 
     /// The open editor, null for none.
     [[nodiscard]] QLineEdit* Editor() const;

@@ -6,6 +6,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
 namespace ballhaven::platform {
 namespace {
 
@@ -112,6 +115,43 @@ TEST_F(GridDrawing, APaneThatMarksNoCellShowsNoMark) {
 
     EXPECT_EQ(support::PixelAt(image, PaneView(1)->mapTo(widget, QPoint(80, 15 + 2 * 15 + 5))), yellow);
 }
+
+/// A grid at one scale: how many pixels of the screen each of its lines has.
+class GridAtScale : public GridDrawing, public testing::WithParamInterface<std::pair<double, int>> {
+  protected:
+    /// The lengths of the runs of the lines' colour along a stretch of the image, which is given in pixels of scale 1.
+    [[nodiscard]] std::vector<int> Runs(QPoint from, QPoint to) {
+        const double scale = GetParam().first;
+        const QImage image = Draw(scale);
+        const QPoint first(qRound(from.x() * scale), qRound(from.y() * scale));
+        const QPoint last(qRound(to.x() * scale), qRound(to.y() * scale));
+        const QPoint step(last.x() > first.x() ? 1 : 0, last.y() > first.y() ? 1 : 0);
+        std::vector<int> runs;
+        bool inLine = false;
+        for (QPoint place = first; place != last; place += step) {
+            const bool isLine = image.pixel(place) == qRgb(214, 211, 203);
+            if (isLine && !inLine) {
+                runs.push_back(0);
+            }
+            if (isLine) {
+                ++runs.back();
+            }
+            inLine = isLine;
+        }
+        return runs;
+    }
+};
+
+TEST_P(GridAtScale, AllLinesOfItsCellsHaveTheSameThickness) {
+    const QPoint cell = MiddleOf(5, 1);
+    EXPECT_EQ(Runs(cell - QPoint(15, 0), cell + QPoint(-15, 10 * 15)), std::vector<int>(10, GetParam().second));
+    const QPoint above(0, -6);  // of the texts
+    EXPECT_EQ(Runs(cell + above, MiddleOf(5, 6) + above), std::vector<int>(5, GetParam().second));
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, GridAtScale,
+                         testing::Values(std::pair(1.0, 1), std::pair(1.25, 1), std::pair(1.5, 2), std::pair(1.75, 2),
+                                         std::pair(2.0, 2)));
 
 TEST_F(GridDrawing, OnlyTheCurrentRowHasADropDownButton) {
     grid.GoToRow(4);
