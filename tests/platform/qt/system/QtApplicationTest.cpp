@@ -7,6 +7,8 @@
 #include <QIcon>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace ballhaven::platform {
 namespace {
 
@@ -17,6 +19,13 @@ TEST(QtApplication, SetsTheToolkitUpWithTheProgramsNameAndPictures) {
     EXPECT_EQ(QApplication::applicationName(), QStringLiteral("Ballhaven"));
     EXPECT_EQ(QApplication::desktopFileName(), QStringLiteral("ballhaven"));
     EXPECT_TRUE(QFile::exists(QStringLiteral(":/pictures/1/print.argb")));
+}
+
+// Pictures take their time: the first window does not wait for them.
+TEST(QtApplicationDeathTest, TakesItsIconOnceEventsAreServed) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // in a process that begins anew
+    EXPECT_EXIT(std::_Exit(QApplication::windowIcon().isNull() ? 0 : 1), testing::ExitedWithCode(0), "");
+    QApplication::processEvents();
     EXPECT_FALSE(QApplication::windowIcon().isNull());
 }
 
