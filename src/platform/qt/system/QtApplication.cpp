@@ -10,6 +10,7 @@
 #include "platform/qt/widgets/BuiltPicture.h"
 #include "platform/qt/widgets/Conversions.h"
 #include "platform/qt/widgets/SurfaceCells.h"
+#include "platform/qt/widgets/ToldOption.h"
 #include "platform/qt/windows/QtToolkit.h"
 #include "platform/qt/windows/WindowRole.h"
 
@@ -58,6 +59,7 @@ QtApplication::QtApplication(int& argc, char** argv) {
     InstallJoinedTables();
     InstallWindowRoles();
     InstallSurfaceCells();
+    InstallToldOptions();
     InstallQtServices(parts->qtToolkit, parts->instance);
     toolkit = &parts->qtToolkit;
     QTimer::singleShot(0, &parts->application, [] { QApplication::setWindowIcon(ProgramIcon()); });  // the window first
