@@ -55,7 +55,8 @@ void GridPaneView::TakeRows(int count) {
 
 void GridPaneView::FollowCurrentCell() {
     following = true;
-    selectionModel()->setCurrentIndex(cells.IndexOf(grid.CurrentCell()), QItemSelectionModel::NoUpdate);
+    const QModelIndex current = hasFocus() ? cells.IndexOf(grid.CurrentCell()) : QModelIndex();
+    selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     following = false;
 }
 
@@ -104,7 +105,9 @@ bool GridPaneView::viewportEvent(QEvent* event) {
 
 void GridPaneView::focusInEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusInEvent(event);
-    viewport()->update(visualRect(currentIndex()));
+    setAutoScroll(false);  // a click is for the cell on which it fell
+    FollowCurrentCell();
+    setAutoScroll(true);
     if (focused) {
         focused();
     }
@@ -112,7 +115,7 @@ void GridPaneView::focusInEvent(QFocusEvent* event) {
 
 void GridPaneView::focusOutEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusOutEvent(event);
-    viewport()->update(visualRect(currentIndex()));
+    FollowCurrentCell();
 }
 
 void GridPaneView::paintEvent(QPaintEvent* event) {

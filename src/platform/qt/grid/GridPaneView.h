@@ -23,7 +23,8 @@ class GridPaneView : public QTableView {
     /// Has so many rows from now on.
     void TakeRows(int count);
 
-    /// Makes the grid's current cell the table's own, for assistive tools; none if it is in another pane.
+    /// Makes the grid's current cell the table's own, for assistive tools, to which it has the keyboard then; none if
+    /// it is in another pane, or the pane does not have the keyboard.
     void FollowCurrentCell();
 
     /// Scrolls a cell of the pane into view.

@@ -328,6 +328,7 @@ TEST_F(BoardsShown, OnlyTheCellOfTheRightBoardHasItsColours) {
 }
 
 TEST_F(BoardsShown, OnlyTheBoardOfTheCurrentCellHasAMark) {
+    grid.TakeFocus();
     grid.GoTo({1, 5, 4});
 
     EXPECT_TRUE(PaneView(1)->currentIndex().isValid());
