@@ -2,11 +2,14 @@
 
 #include "platform/qt/widgets/Conversions.h"
 
+#include <QAccessible>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QtMath>
+
+#include <algorithm>
 
 namespace ballhaven::platform {
 
@@ -82,6 +85,41 @@ void DrawingSurfaceWidget::Refresh() {
     update();
 }
 
+void DrawingSurfaceWidget::Repaint() {
+    update();
+    if (hasFocus()) {
+        TellSelectedCell();
+    }
+}
+
+std::vector<SurfaceCell> DrawingSurfaceWidget::Cells() const {
+    std::vector<SurfaceCell> cells;
+    if (surface.cells) {
+        RunGuardedReading([&] { cells = surface.cells(); });
+    }
+    return cells;
+}
+
+int DrawingSurfaceWidget::SelectedCell() const {
+    const std::vector<SurfaceCell> cells = Cells();
+    const auto selected = std::ranges::find_if(cells, &SurfaceCell::selected);
+    return selected == cells.end() ? -1 : static_cast<int>(selected - cells.begin());
+}
+
+void DrawingSurfaceWidget::TellSelectedCell() {
+    const int cell = QAccessible::isActive() ? SelectedCell() : -1;
+    if (cell < 0) {
+        return;
+    }
+    const std::string name = Cells()[static_cast<std::size_t>(cell)].name;
+    if (name != toldCell) {
+        toldCell = name;
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild(cell);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
 int DrawingSurfaceWidget::TextWidth(std::string_view text) const {
     return fontMetrics().horizontalAdvance(ToQString(text));
 }
@@ -136,6 +174,12 @@ void DrawingSurfaceWidget::keyPressEvent(QKeyEvent* event) {
     if (!served) {
         QWidget::keyPressEvent(event);
     }
+}
+
+void DrawingSurfaceWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    toldCell.clear();
+    TellSelectedCell();
 }
 
 }  // namespace ballhaven::platform

@@ -5,6 +5,9 @@
 
 #include <QWidget>
 
+#include <string>
+#include <vector>
+
 namespace ballhaven::platform {
 
 /// Shows a surface that the program draws itself, sharp at every scale.
@@ -12,12 +15,16 @@ class DrawingSurfaceWidget final : public ControlWidget<QWidget, DrawingSurfaceV
   public:
     DrawingSurfaceWidget(DrawingSurface& shownSurface, QWidget* parent);
     void Refresh() override;
-    void Repaint() override { update(); }
+    void Repaint() override;
     [[nodiscard]] int TextWidth(std::string_view text) const override;
     [[nodiscard]] int TextHeight() const override;
 
-    // For what assistive tools are told.
-    [[nodiscard]] const DrawingSurface& Shown() const { return surface; }
+    /// The cells of what is drawn, for assistive tools, which are told of the selected one when it changes while the
+    /// surface has the keyboard.
+    [[nodiscard]] std::vector<SurfaceCell> Cells() const;
+
+    /// The number of the selected cell, -1 where none is.
+    [[nodiscard]] int SelectedCell() const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -26,9 +33,13 @@ class DrawingSurfaceWidget final : public ControlWidget<QWidget, DrawingSurfaceV
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
   private:
+    void TellSelectedCell();
+
     const DrawingSurface& surface;
+    std::string toldCell;
 };
 
 }  // namespace ballhaven::platform

@@ -1,6 +1,5 @@
 #include "platform/qt/widgets/SurfaceCells.h"
 
-#include "platform/Guard.h"
 #include "platform/qt/widgets/Conversions.h"
 #include "platform/qt/widgets/DrawingSurfaceWidget.h"
 #include "platform/qt/widgets/ToldCells.h"
@@ -16,14 +15,6 @@ namespace ballhaven::platform {
 
 namespace {
 
-std::vector<SurfaceCell> CellsOf(const DrawingSurface& surface) {
-    std::vector<SurfaceCell> cells;
-    if (surface.cells) {
-        RunGuardedReading([&] { cells = surface.cells(); });
-    }
-    return cells;
-}
-
 /// A cell is told by its number, so that it says what is drawn at the time.
 class DrawnCell final : public ToldCell {
   public:
@@ -31,7 +22,7 @@ class DrawnCell final : public ToldCell {
 
     [[nodiscard]] int Number() const override { return number; }
     [[nodiscard]] bool isValid() const override {
-        return !widget.isNull() && number < static_cast<int>(CellsOf(widget->Shown()).size());
+        return !widget.isNull() && number < static_cast<int>(widget->Cells().size());
     }
     [[nodiscard]] QAccessibleInterface* parent() const override {
         return QAccessible::queryAccessibleInterface(widget);
@@ -52,11 +43,13 @@ class DrawnCell final : public ToldCell {
         state.invalid = !isValid();
         state.selectable = true;
         state.selected = isValid() && Cell().selected;
+        state.focusable = true;
+        state.focused = state.selected && widget->hasFocus();
         return state;
     }
 
   private:
-    [[nodiscard]] SurfaceCell Cell() const { return CellsOf(widget->Shown()).at(static_cast<std::size_t>(number)); }
+    [[nodiscard]] SurfaceCell Cell() const { return widget->Cells().at(static_cast<std::size_t>(number)); }
 
     QPointer<DrawingSurfaceWidget> widget;
     int number;
@@ -66,7 +59,7 @@ class ToldSurface final : public QAccessibleWidget {
   public:
     explicit ToldSurface(DrawingSurfaceWidget& surface) : QAccessibleWidget(&surface, QAccessible::Grouping) {}
 
-    [[nodiscard]] int childCount() const override { return static_cast<int>(CellsOf(Surface().Shown()).size()); }
+    [[nodiscard]] int childCount() const override { return static_cast<int>(Surface().Cells().size()); }
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
         return 0 <= index && index < childCount()
                    ? cells.At(index, [this, index] { return new DrawnCell(Surface(), index); })
@@ -77,11 +70,22 @@ class ToldSurface final : public QAccessibleWidget {
     }
     [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override {
         const QPoint place = Surface().mapFromGlobal(QPoint(x, y));
-        const std::vector<SurfaceCell> all = CellsOf(Surface().Shown());
+        const std::vector<SurfaceCell> all = Surface().Cells();
         const auto found = std::ranges::find_if(all, [place](const SurfaceCell& cell) {
             return cell.place.Holds({place.x(), place.y()});
         });
         return found == all.end() ? nullptr : child(static_cast<int>(found - all.begin()));
+    }
+
+    // Where a cell is selected, the keyboard is on it.
+    [[nodiscard]] QAccessibleInterface* focusChild() const override {
+        QAccessibleInterface* const selected = Surface().hasFocus() ? child(Surface().SelectedCell()) : nullptr;
+        return selected == nullptr ? QAccessibleWidget::focusChild() : selected;
+    }
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.focused = state.focused && Surface().SelectedCell() < 0;
+        return state;
     }
 
   private:

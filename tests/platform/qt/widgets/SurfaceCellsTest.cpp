@@ -6,6 +6,8 @@
 #include <QAccessible>
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace ballhaven::platform {
 namespace {
 
@@ -54,6 +56,23 @@ TEST_F(SurfaceCells, SayWhatIsDrawnAtTheTime) {
     cells.pop_back();
     EXPECT_FALSE(second->isValid());
     EXPECT_EQ(second->text(QAccessible::Name), QString());
+}
+
+TEST_F(SurfaceCells, TheSelectedOneHasTheKeyboardOfItsSurface) {
+    QWidget& widget = *form.Find<QWidget>("surface");
+    widget.clearFocus();
+    EXPECT_FALSE(Told().child(1)->state().focused);
+    EXPECT_EQ(Told().focusChild(), nullptr);
+
+    widget.setFocus();
+    EXPECT_TRUE(Told().child(1)->state().focused);
+    EXPECT_FALSE(Told().child(0)->state().focused);
+    EXPECT_FALSE(Told().state().focused);
+    EXPECT_EQ(Told().focusChild(), Told().child(1));
+
+    cells[1].selected = false;
+    EXPECT_TRUE(Told().state().focused);
+    EXPECT_EQ(Told().focusChild(), &Told());
 }
 
 TEST_F(SurfaceCells, ASurfaceMayHaveNone) {
