@@ -1,15 +1,26 @@
+#include "forms/CalendarForm.h"
+#include "forms/MainForm.h"
 #include "support/qt/RunningProgram.h"
 
 #include <QAccessible>
+#include <QTest>
+
+#include <chrono>
+#include <string>
+#include <vector>
 
 namespace ballhaven {
 namespace {
+
+using Names = std::vector<std::string>;
 
 /// What a screen reader is told of the program's windows.
 class ScreenReader : public support::RunningProgram {
   protected:
     void SetUp() override {
-        Store({.gameType = 1, .bonusPicks = 1, .draws = {{"01/02/1990", {1, 2, 3, 4, 5, 6, 7}}}});
+        Store({.gameType = 1,
+               .bonusPicks = 1,
+               .draws = {{"01/01/1990", {1, 2, 3, 4, 5, 6, 7}}, {"01/02/1990", {1, 2, 3, 4, 5, 6, 7}}}});
         Start();
     }
 
@@ -22,6 +33,31 @@ class ScreenReader : public support::RunningProgram {
     [[nodiscard]] std::string LabelOf(const char* name) const {
         const auto labels = Told(name).relations(QAccessible::Label);
         return labels.size() == 1 ? labels[0].first->text(QAccessible::Name).toStdString() : "";
+    }
+
+    /// The days of the open calendar that are told as the selected ones.
+    [[nodiscard]] Names SelectedDays() const {
+        Names selected;
+        for (int cell = 0; cell < Told("surface").childCount(); ++cell) {
+            const QAccessibleInterface& day = *Told("surface").child(cell);
+            if (day.state().selected) {
+                selected.push_back(day.text(QAccessible::Name).toStdString());
+            }
+        }
+        return selected;
+    }
+
+    /// Clicks the day of a name in the open calendar, in the place that is told of it.
+    void ClickDay(const QString& name) const {
+        for (int cell = 0; cell < Told("surface").childCount(); ++cell) {
+            const QAccessibleInterface& day = *Told("surface").child(cell);
+            if (day.text(QAccessible::Name) == name) {
+                QTest::mouseClick(&Find("surface"), Qt::LeftButton, {},
+                                  Find("surface").mapFromGlobal(day.rect().center()));
+                return;
+            }
+        }
+        ADD_FAILURE() << "no such day: " << name.toStdString();
     }
 };
 
@@ -82,8 +118,49 @@ TEST_F(ScreenReader, TheLogIsOneTable) {
     EXPECT_EQ(log->columnDescription(0), QStringLiteral("Date"));
     EXPECT_EQ(log->columnDescription(1), QStringLiteral("Pick 1"));
     EXPECT_EQ(log->columnDescription(7), QStringLiteral("Bonus 1"));
-    EXPECT_EQ(log->rowDescription(0), QStringLiteral("01/02/1990"));
+    EXPECT_EQ(log->rowDescription(0), QStringLiteral("01/01/1990"));
     EXPECT_EQ(log->cellAt(0, 7)->text(QAccessible::Name), QStringLiteral("7"));
+}
+
+TEST_F(ScreenReader, TheCalendarTellsItsDaysAndTheSelectedOne) {
+    platform::services.today = [] { return std::chrono::year{1990} / std::chrono::January / 20; };
+    InModal(ahcCalendar.window, [this] {
+        EXPECT_EQ(Told("surface").childCount(), 42);
+        EXPECT_EQ(SelectedDays(), Names{"20 January 1990"});
+        ClickDay(QStringLiteral("12 January 1990"));
+        EXPECT_EQ(SelectedDays(), Names{"12 January 1990"});
+        ClickToClose("cmdCal(0)");
+    });
+    Click("cmdButton(2)");
+}
+
+TEST_F(ScreenReader, OnlyATableThatHasTheKeyboardTellsOfACellWithIt) {
+    const auto cellHasIt = [this](const char* pane) {
+        return Told(pane).tableInterface()->cellAt(0, 2)->state().focused == 1;
+    };
+    frmMainForm.grdHot.GoTo(0, 2);
+    frmMainForm.grdPlay.GoTo(0, 2);
+    Find("grdHot.pane(0)").setFocus();
+    EXPECT_TRUE(cellHasIt("grdHot.pane(0)"));
+    EXPECT_FALSE(cellHasIt("grdPlay.pane(0)"));
+    ClickCell("grdHist", 0, 1);
+    EXPECT_FALSE(cellHasIt("grdHot.pane(0)"));
+}
+
+TEST_F(ScreenReader, TheHotTableIsCalledByItsCaption) {
+    for (const char* const part : {"grdHot", "grdHot.pane(0)"}) {
+        EXPECT_EQ(Name(part), "Hot Numbers in last 2 games");
+    }
+    ChooseEntry("cboList(2)", 1);
+    for (const char* const part : {"grdHot", "grdHot.pane(0)"}) {
+        EXPECT_EQ(Name(part), "Hot Pairs in last 2 games");
+    }
+}
+
+TEST_F(ScreenReader, TheOptionsAreRadioButtons) {
+    for (const char* const option : {"optHot(0)", "optHot(1)", "optHot(2)"}) {
+        EXPECT_EQ(Told(option).role(), QAccessible::RadioButton);
+    }
 }
 
 TEST_F(ScreenReader, ABoardsCellTellsItsLineItsPickAndWhetherItIsChosen) {
