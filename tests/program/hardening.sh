@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Looks into the built program for what makes it hard to attack: addresses of the system's choice, tables that are
-# read-only once it runs, a stack that cannot be run, guards of the stack; and into the build of the release for checked
-# copies and for marks where indirect jumps may land. Ends at the first thing that is missing.
+# read-only once it runs, a stack that cannot be run, guards of the stack, and no library that takes in what others send;
+# and into the build of the release for checked copies and for marks where indirect jumps may land. Ends at the first
+# thing that is missing.
 #
 #   tests/program/hardening.sh BALLHAVEN SOURCES
 set -uo pipefail
@@ -23,6 +24,10 @@ shows 'FLAGS_1.* NOW.* PIE' "not all symbols are bound at the start" --dynamic
 shows 'GNU_RELRO' "tables stay writable" --program-headers
 shows 'GNU_STACK.* RW +0x' "the stack can be run" --program-headers
 shows 'UND __stack_chk_fail' "no guard of the stack" --dyn-syms
+
+needed=$(readelf --wide --dynamic "$ballhaven" | grep NEEDED) || fail "the program needs no library"
+[[ $needed != *Qt6Network* ]] || fail "Qt Network is linked"
+[[ $needed != *Qt6Svg* ]] || fail "Qt Svg is linked"
 
 build=$(mktemp -d)
 trap 'rm -rf "$build"' EXIT
