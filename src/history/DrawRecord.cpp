@@ -3,7 +3,6 @@
 #include "state/modUTILS.h"
 
 #include <cstddef>
-#include <limits>
 
 namespace ballhaven {
 
@@ -48,7 +47,7 @@ std::string WithoutDeletedMark(std::string header) {
 
 bool DecodeDraw(std::string_view record, DateDigits digits, std::span<std::int16_t> cells) {
     const std::int64_t date = modUTILS::ValueOf(modUTILS::Columns(record, dateColumn, static_cast<int>(digits)));
-    if (date <= 0 || date > std::numeric_limits<std::int16_t>::max()) {
+    if (date <= 0 || date > LastDateOf(DateDigits::Five)) {
         return false;
     }
     cells[0] = static_cast<std::int16_t>(date);

@@ -16,10 +16,16 @@ inline constexpr int drawRecordLength = 64;
 inline constexpr int headerRecord = 1;
 inline constexpr int firstDrawRecord = 2;
 inline constexpr int drawFileRecords = 1 + historyRows;
+inline constexpr int mostPicksOfDraw = 10;
 inline constexpr int olderDrawFileRecords = 1 + 100;  ///< of the version that kept 100 draws
 
 /// How many digits of a date's serial a file keeps. Four reach to 18 May 2011.
 enum class DateDigits : int { Four = 4, Five = 5 };
+
+/// The last serial of a date that a file with so many digits keeps.
+[[nodiscard]] constexpr int LastDateOf(DateDigits digits) {
+    return digits == DateDigits::Five ? 32'767 : 9999;
+}
 
 /// What the header of a file says of its dates.
 [[nodiscard]] DateDigits DateDigitsOf(std::string_view header);

@@ -19,13 +19,9 @@ bool IsRedCard(std::string_view card) {
     return card.ends_with('h') || card.ends_with('d');
 }
 
-bool SharesOnePool(int gameType) {
-    return gameType == 1 || gameType == 4;
-}
-
 /// The boxes whose picks a column of the log can hold.
 BoxRange BoxesOfColumn(int column, const GameRules& rules) {
-    if (SharesOnePool(rules.gameType)) {
+    if (BonusComesFromMainPool(rules.gameType)) {
         return AllBoxes(rules.mainPickCount, rules.bonusPickCount);
     }
     return column <= rules.mainPickCount ? MainBoxes(rules.mainPickCount)

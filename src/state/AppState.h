@@ -161,6 +161,16 @@ extern AppState appState;
     return gameType != 0 && gameType != 3;
 }
 
+/// Whether the bonus picks of a game of this kind come from the main picks' numbers or cards.
+[[nodiscard]] constexpr bool BonusComesFromMainPool(int gameType) {
+    return gameType == 1 || gameType == 4;
+}
+
+/// Whether they come from numbers or cards of their own, so that they can repeat a main pick.
+[[nodiscard]] constexpr bool BonusComesFromOwnPool(int gameType) {
+    return gameType == 2 || gameType == 5;
+}
+
 /// Marks every table but Hot Numbers as one to be rebuilt before it is next shown or printed.
 void MarkHotTablesStale();
 

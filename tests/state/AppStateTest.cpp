@@ -91,9 +91,11 @@ TEST(KindsOfGame, TheFirstThreeAreNumberGamesAndTheRestCardGames) {
 TEST(KindsOfGame, TheFirstNumberGameAndTheFirstCardGameHaveNoBonus) {
     for (const int gameType : {0, 3}) {
         EXPECT_FALSE(HasBonus(gameType)) << gameType;
+        EXPECT_FALSE(BonusComesFromMainPool(gameType) || BonusComesFromOwnPool(gameType)) << gameType;
     }
     for (const int gameType : {1, 2, 4, 5}) {
         EXPECT_TRUE(HasBonus(gameType)) << gameType;
+        EXPECT_NE(BonusComesFromMainPool(gameType), BonusComesFromOwnPool(gameType)) << gameType;
     }
 }
 

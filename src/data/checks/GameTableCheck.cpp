@@ -1,6 +1,7 @@
 #include "data/checks/GameTableCheck.h"
 
 #include "data/folder/TableOnFile.h"
+#include "history/DrawRecord.h"
 #include "platform/files/CodePage.h"
 #include "state/AppState.h"
 #include "state/GameRecord.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr int systemRecordNumber = 1;
 constexpr int highestNumber = 99;
-constexpr int mostPicks = 10;
 constexpr const char* alterIt = "Choose it in Ballhaven with \"Alter Game Configuration\".";
 
 // Record 1.
@@ -175,11 +175,11 @@ class TableCheck {
     void CheckCounts(const GameRules& rules) {
         const NamedField mainCount{gameField::mainPickCount, "main picks of a draw"};
         const NamedField bonusCount{gameField::bonusPickCount, "bonus picks of a draw"};
-        if (!IsWithin(NumberIn(Text(mainCount.columns)), 1, mostPicks)) {
+        if (!IsWithin(NumberIn(Text(mainCount.columns)), 1, mostPicksOfDraw)) {
             examination.LeaveField(mainCount, "outside 1 to 10", alterIt);
         } else if (!NumberIn(Text(bonusCount.columns))) {
             examination.LeaveField(bonusCount, "no number", alterIt);
-        } else if (TotalPicksOf(rules) > mostPicks) {
+        } else if (TotalPicksOf(rules) > mostPicksOfDraw) {
             examination.LeaveField(bonusCount, "more than a draw of 10 picks has left", alterIt);
         }
     }

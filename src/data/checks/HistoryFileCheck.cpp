@@ -5,7 +5,6 @@
 #include "state/GameRules.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace ballhaven::data {
 
@@ -16,7 +15,6 @@ constexpr RecordField markField{64, 1};
 constexpr std::string_view stamp = "10-26-2002";
 constexpr int dateColumn = 1;
 constexpr int fifthDigitColumn = 5;
-constexpr int mostPicks = 10;
 
 constexpr RecordField PickField(int pick) {
     return {3 * pick + 3, 2};
@@ -28,7 +26,7 @@ RecordField DateField(DateDigits digits) {
 
 std::vector<RecordField> RowFields() {
     std::vector<RecordField> fields{DateField(DateDigits::Five)};
-    for (int pick = 1; pick <= mostPicks; ++pick) {
+    for (int pick = 1; pick <= mostPicksOfDraw; ++pick) {
         fields.push_back(PickField(pick));
     }
     return fields;
@@ -45,7 +43,7 @@ Limits LimitsOf(const GameRules& rules, int pick) {
 }
 
 bool HasKnownRules(const GameOnFile& game) {
-    return game.defined && game.rules.gameType <= 5 && TotalPicksOf(game.rules) <= mostPicks;
+    return game.defined && game.rules.gameType <= 5 && TotalPicksOf(game.rules) <= mostPicksOfDraw;
 }
 
 class HistoryCheck {
@@ -120,7 +118,7 @@ class HistoryCheck {
         if (!date) {
             const bool isRead = modUTILS::ValueOf(FieldText(row, field.columns)) > 0;
             examination.LeaveField(field, "no date", isRead ? "Ballhaven reads the digits before it." : words);
-        } else if (*date < 1 || *date > std::numeric_limits<std::int16_t>::max()) {
+        } else if (*date < 1 || *date > LastDateOf(DateDigits::Five)) {
             examination.LeaveField(field, "outside the dates from 1984-01-02 to 2073-09-17", words);
         }
         CheckFifthDigit(row);
@@ -141,7 +139,7 @@ class HistoryCheck {
 
     void CheckPicks(int record) {
         const int picks = HasKnownRules(game) ? TotalPicksOf(game.rules) : 0;
-        for (int pick = 1; pick <= mostPicks; ++pick) {
+        for (int pick = 1; pick <= mostPicksOfDraw; ++pick) {
             const NamedField field{PickField(pick), "pick " + std::to_string(pick)};
             const std::string text = examination.Text(record, field.columns);
             if (IsBlank(text)) {

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <limits>
 #include <span>
 
 namespace ballhaven::data {
@@ -15,7 +14,7 @@ namespace ballhaven::data {
 namespace {
 
 constexpr std::size_t longestPick = 3;  // "10h"
-constexpr int lastDateOfProgram = std::numeric_limits<std::int16_t>::max();
+constexpr int lastDateOfProgram = LastDateOf(DateDigits::Five);
 
 /// Whether a pick, from 0, of a draw is a bonus pick.
 bool IsBonus(const GameRules& rules, std::size_t pick) {
@@ -84,9 +83,9 @@ std::string FaultOfRepeats(const GameRules& rules, const std::vector<std::int16_
     }
     // A pool of their own lets the bonus picks repeat what the main picks have.
     const std::span<const std::int16_t> all(picks);
-    const bool ownPool = rules.gameType == 2 || rules.gameType == 5;
-    const std::size_t mains =
-        ownPool ? std::min(static_cast<std::size_t>(rules.mainPickCount), picks.size()) : picks.size();
+    const std::size_t mains = BonusComesFromOwnPool(rules.gameType)
+                                  ? std::min(static_cast<std::size_t>(rules.mainPickCount), picks.size())
+                                  : picks.size();
     const std::int16_t twice = std::max(FirstTwice(all.first(mains)), FirstTwice(all.subspan(mains)));
     return twice < 0 ? std::string() : PickToText(twice, rules.gameType) + " stands twice in the draw";
 }

@@ -1,15 +1,12 @@
 #include "data/winners/TicketHits.h"
 
+#include "state/AppState.h"
+
 #include <algorithm>
 
 namespace ballhaven::data {
 
 namespace {
-
-/// Kinds of game whose bonus is drawn from the main picks' pool: numbers, and cards.
-constexpr bool BonusComesFromMainPool(int gameType) {
-    return gameType == 1 || gameType == 4;
-}
 
 int HitsAtTheirPlaces(std::span<const int> ticket, std::span<const int> drawn) {
     const std::size_t places = std::min(ticket.size(), drawn.size());
