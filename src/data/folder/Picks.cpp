@@ -63,7 +63,8 @@ std::string NameOfPlay(int play) {
 std::string PickTexts(const GameRules& rules, std::span<const int> picks) {
     std::string texts;
     for (const int pick : picks) {
-        texts += (texts.empty() ? "" : " ") + (pick == noPick ? "-" : PickToText(pick, rules.gameType));
+        texts += texts.empty() ? "" : " ";
+        texts += pick == noPick ? "-" : PickToText(pick, rules.gameType);
     }
     return texts;
 }
