@@ -69,15 +69,15 @@ void CheckDraws(const data::ImportedDraws& imported, const GameRules& rules, int
 void CheckRoundTrip(const data::ImportedDraws& imported, const GameRules& rules) {
     std::istringstream csv(data::CsvOfDraws(rules, imported.draws));
     const data::GivenForm given{.delimiter = ',', .header = true};
-    const data::FileForm form = data::RecognisedForm(csv, given, TotalPicksOf(rules));
+    const data::FileForm form = data::RecognisedForm(csv, given, rules);
     const data::ImportedDraws again = data::ImportDraws(csv, form, rules, 32'767);
     Expect(again.faults.Count() == 0 && again.draws == imported.draws, "an export comes back as it was");
 }
 
-void CheckMerge(const data::ImportedDraws& imported) {
-    const data::MergedDraws first = data::Merged({}, imported.draws, false);
+void CheckMerge(const data::ImportedDraws& imported, const GameRules& rules) {
+    const data::MergedDraws first = data::Merged(rules, {}, imported.draws, false);
     Expect(first.draws.size() == std::min<std::size_t>(imported.draws.size(), historyRows), "a game keeps a thousand");
-    const data::MergedDraws second = data::Merged(first.draws, imported.draws, true);
+    const data::MergedDraws second = data::Merged(rules, first.draws, imported.draws, true);
     Expect(second.draws == first.draws && !second.changesGame, "the same draws again change nothing");
 }
 
@@ -96,11 +96,11 @@ void CheckImport(FuzzInput& input) {
     const int lastDate = input.Choice(2) == 0 ? 9999 : 32'767;
     std::istringstream bytes(input.Rest());
     try {
-        const data::FileForm form = data::RecognisedForm(bytes, given, TotalPicksOf(rules));
+        const data::FileForm form = data::RecognisedForm(bytes, given, rules);
         const data::ImportedDraws imported = data::ImportDraws(bytes, form, rules, lastDate);
         CheckFaults(imported);
         CheckDraws(imported, rules, lastDate);
-        CheckMerge(imported);
+        CheckMerge(imported, rules);
         if (!imported.draws.empty()) {
             CheckRoundTrip(imported, rules);
         }

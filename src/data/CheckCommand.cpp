@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace ballhaven::data {
@@ -58,7 +59,8 @@ void RemoveLeftOvers(const WorkFolder& folder, const std::vector<std::string>& n
     }
 }
 
-void MendAll(const std::string& path, const Console& console) {
+/// Repairs what can be repaired. Returns the words about what was changed, empty where nothing was.
+std::string MendAll(const std::string& path, const Console& console) {
     const bool finishes = HasDecidedChange(path);
     const WorkFolder folder(path);
     if (finishes) {
@@ -71,28 +73,31 @@ void MendAll(const std::string& path, const Console& console) {
     }
     RemoveLeftOvers(folder, found.leftOvers);
     List(found.findings, Remedy::Mend, "mended: ", console);
-    if (!copy.empty()) {
-        console.out << "What was there is kept in " << copy << ".\n";
+    if (copy.empty()) {
+        return finishes || !found.leftOvers.empty() ? "What a crash had left is gone." : "";
     }
+    std::string isKept = "What was there is kept in " + copy + ".";
+    console.out << isKept << '\n';
+    return isKept;
 }
 
 }  // namespace
 
-bool CheckData(const std::string& folder, bool mend, const Console& console) {
+CheckOutcome CheckData(const std::string& folder, bool mend, const Console& console) {
     if (!mend) {
         const WorkFolder work(folder, DecidedChange::Leave);
         const CheckedFolder checked = CheckFolder(work.Path());
         TellAll(checked, console);
-        return std::ranges::none_of(checked.findings, IsFault);
+        return {.nothingIsWrong = std::ranges::none_of(checked.findings, IsFault)};
     }
-    MendAll(folder, console);
+    std::string changed = MendAll(folder, console);
     const CheckedFolder left = CheckFolder(folder);
     List(left.findings, Remedy::User, "left: ", console);
     const auto count = std::ranges::count_if(left.findings, IsFault);
     console.out << (count == 0 ? std::string("Nothing is wrong any more.")
                                : CountText(count, "finding") + " left, for you to put right.")
                 << '\n';
-    return count == 0;
+    return {.nothingIsWrong = count == 0, .changed = std::move(changed)};
 }
 
 }  // namespace ballhaven::data

@@ -6,9 +6,14 @@
 
 namespace ballhaven::data {
 
+/// How a check has ended.
+struct CheckOutcome {
+    bool nothingIsWrong = false;  ///< any more
+    std::string changed = {};     ///< the words about what was changed; empty where nothing was
+};
+
 /// Tells of all that is wrong in a folder, one line a finding; with `mend` it repairs what can be repaired without a
-/// guess, keeps a copy of what was there, and tells what is left. Returns whether nothing is wrong any more. Throws
-/// Refusal.
-[[nodiscard]] bool CheckData(const std::string& folder, bool mend, const Console& console);
+/// guess, keeps a copy of what was there, and tells what is left. Throws Refusal.
+[[nodiscard]] CheckOutcome CheckData(const std::string& folder, bool mend, const Console& console);
 
 }  // namespace ballhaven::data

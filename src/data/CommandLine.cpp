@@ -33,6 +33,11 @@ std::string IsHistorySet(const std::string& text) {
                : text + " is no history set: 10, 20 and so on to 1000";
 }
 
+/// What is wrong with a text that has to name a file or a folder.
+std::string IsNamed(const std::string& text) {
+    return text.empty() ? "it names nothing" : "";
+}
+
 /// What a line asks for: the folder, and one command with its options.
 class Commands {
   public:
@@ -41,7 +46,8 @@ class Commands {
         app.require_subcommand(1);
         app.fallthrough();
         app.add_option("--folder", folder, "The folder of the data; without it the one that this program lies in")
-            ->type_name("DIRECTORY");
+            ->type_name("DIRECTORY")
+            ->check(IsNamed);
         AddGames();
         AddImport();
         AddExport();
@@ -59,7 +65,7 @@ class Commands {
         std::ranges::reverse(arguments);
         app.parse(std::move(arguments));
         if (!console.out.flush()) {
-            throw Refusal("The output could not be written to its end.");
+            TellOfLostOutput();
         }
         return end;
     }
@@ -69,6 +75,15 @@ class Commands {
     }
 
   private:
+    /// Where the command has changed something, lost words about it are no refusal.
+    void TellOfLostOutput() const {
+        const std::string words = "The output could not be written to its end";
+        if (changed.empty()) {
+            throw Refusal(words + ".");
+        }
+        console.notes << "ballhaven-data: " << words << ", but the command is done: " << changed << '\n';
+    }
+
     /// A command of the line, which runs when the whole line has been read.
     CLI::App& Add(const std::string& name, const std::string& what, const std::string& example) {
         CLI::App& command = *app.add_subcommand(name, what);
@@ -108,7 +123,7 @@ class Commands {
             ->excludes("--header");
         command.add_flag("--replace", importing.replaces, "Dates that the game has already take the picks of the file");
         command.add_flag("--apply", importing.applies, "Brings the draws in; without it nothing is changed");
-        command.callback([this] { ImportFile(WorkFolder(folder), importing, console); });
+        command.callback([this] { changed = ImportFile(WorkFolder(folder), importing, console); });
     }
 
     void AddExport() {
@@ -117,7 +132,8 @@ class Commands {
         AddGame(command, exporting.game);
         command.add_flag("--plays", exporting.plays, "The plays in use instead of the draws");
         command.add_option("--output", exporting.output, "A new file instead of the standard output")
-            ->option_text("FILE");
+            ->option_text("FILE")
+            ->check(IsNamed);
         command.callback([this] { ExportGame(WorkFolder(folder), exporting, console); });
     }
 
@@ -154,6 +170,7 @@ class Commands {
             .add_option("--proof", guarantee.proof,
                         "A new file for the sets that no play hits, or, where there are none, for a play of each set")
             ->option_text("FILE")
+            ->check(IsNamed)
             ->needs("--drawn")
             ->needs("--hits");
         command.callback([this] { ShowGuarantee(folder, guarantee, console); });
@@ -185,13 +202,17 @@ class Commands {
     void AddCheck() {
         CLI::App& check = Add("check", "Looks for damage in every file, record and field", "check --mend");
         check.add_flag("--mend", mend, "Repairs what can be repaired without a guess");
-        check.callback([this] { end = CheckData(folder, mend, console) ? done : refused; });
+        check.callback([this] {
+            const CheckOutcome outcome = CheckData(folder, mend, console);
+            end = outcome.nothingIsWrong ? done : refused;
+            changed = outcome.changed;
+        });
     }
 
     void AddBackup() {
         CLI::App& backup = Add("backup", "Copies all data into a new zip, with checksums", "backup monday.zip");
         AddZip(backup, "The zip, which must not be there yet");
-        backup.callback([this] { BackUp(WorkFolder(folder), zip, console); });
+        backup.callback([this] { changed = BackUp(WorkFolder(folder), zip, console); });
     }
 
     void AddRestore() {
@@ -200,7 +221,7 @@ class Commands {
                                 "was there is kept",
                                 "restore monday.zip");
         AddZip(restore, "A zip of \"backup\", or one of the folder \"copies\"");
-        restore.callback([this] { Restore(WorkFolder(folder), zip, console); });
+        restore.callback([this] { changed = Restore(WorkFolder(folder), zip, console); });
     }
 
     void AddZip(CLI::App& command, const std::string& what) {
@@ -212,7 +233,7 @@ class Commands {
                                 "Marks the folder as mended, so that it keeps the dates of today, and daily use loses "
                                 "nothing that was entered",
                                 "mend");
-        mending.callback([this] { MendFolder(WorkFolder(folder), console); });
+        mending.callback([this] { changed = MendFolder(WorkFolder(folder), console); });
     }
 
     void AddSet() {
@@ -231,7 +252,7 @@ class Commands {
             ->type_name("N")
             ->check(CLI::Range(1, gameSlots));
         set.require_option(1, 0);
-        set.callback([this] { Set(WorkFolder(folder), settings, console); });
+        set.callback([this] { changed = Set(WorkFolder(folder), settings, console); });
     }
 
     std::string folder;
@@ -243,6 +264,7 @@ class Commands {
     bool mend = false;
     SetOptions settings;
     ExitCode end = done;
+    std::string changed;  ///< what the command has changed, in words; empty for nothing
     const Console& console;
     CLI::App app{"Takes draws in and out of a Ballhaven folder, checks it and copies it."};
 };

@@ -48,7 +48,7 @@ FileContents DifferentFiles(const std::string& directory, FileContents files) {
 
 }  // namespace
 
-void BackUp(const WorkFolder& folder, const std::string& zip, const Console& console) {
+std::string BackUp(const WorkFolder& folder, const std::string& zip, const Console& console) {
     FileContents files;
     for (const FolderFile& file : AllFolderFiles()) {
         files[file.name] = ReadFolderFile(folder.Path(), file);
@@ -58,20 +58,24 @@ void BackUp(const WorkFolder& folder, const std::string& zip, const Console& con
         throw Refusal(folder.Path() + " holds no data of Ballhaven. Name the right folder with --folder.");
     }
     SaveNewOutput(zip, ArchiveOf(files));
-    console.out << count << " files are in " << zip << ".\n";
+    std::string made = std::to_string(count) + " files are in " + zip + ".";
+    console.out << made << '\n';
+    return made;
 }
 
-void Restore(const WorkFolder& folder, const std::string& zip, const Console& console) {
+std::string Restore(const WorkFolder& folder, const std::string& zip, const Console& console) {
     const FileContents files = DifferentFiles(folder.Path(), FilesOf(ReadZip(zip), zip));
     if (files.empty()) {
         console.out << "The folder holds just what " << zip << " holds. Nothing was changed.\n";
-        return;
+        return {};
     }
     const std::string copy = folder.Change(files, "restore");
     for (const auto& [name, content] : files) {
         console.out << name << (content ? " is as it was.\n" : " was not there, and is gone.\n");
     }
-    console.out << "What was there is kept in " << copy << ".\n";
+    std::string isKept = "What was there is kept in " + copy + ".";
+    console.out << isKept << '\n';
+    return isKept;
 }
 
 }  // namespace ballhaven::data

@@ -14,7 +14,6 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
-#include <limits>
 #include <optional>
 #include <span>
 #include <system_error>
@@ -24,7 +23,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr int lastDateOfFourDigits = 9999;
 constexpr std::size_t datesNamed = 20;
 
 /// A game of a folder as it stands before the import.
@@ -32,10 +30,6 @@ struct Target {
     GameOnFile game;
     std::optional<std::string> content;  ///< of its file of draws
     DrawsOnFile before;                  ///< with as many digits of its dates as the file is to have
-
-    [[nodiscard]] int LastDate() const {
-        return before.digits == DateDigits::Five ? std::numeric_limits<std::int16_t>::max() : lastDateOfFourDigits;
-    }
 };
 
 Target ReadTarget(const std::string& directory, const std::string& word) {
@@ -43,8 +37,8 @@ Target ReadTarget(const std::string& directory, const std::string& word) {
     Target target;
     target.game = FindGame(games, word);
     target.content = ReadFolderFile(directory, HistoryFileOf(target.game.slot));
-    if (TotalPicksOf(target.game.rules) > picksPerPlay) {
-        throw Refusal(target.game.Title() + " has more than " + std::to_string(picksPerPlay) +
+    if (TotalPicksOf(target.game.rules) > mostPicksOfDraw) {
+        throw Refusal(target.game.Title() + " has more than " + std::to_string(mostPicksOfDraw) +
                       " picks in a draw, so its record is damaged. Look at it with ballhaven-data check.");
     }
     target.before = DrawsOf(target.content.value_or(""), TotalPicksOf(target.game.rules));
@@ -107,19 +101,39 @@ struct ImportedFile {
 ImportedFile ReadImportedFile(const ImportOptions& options, const Target& target) {
     std::ifstream file = Opened(options.file);
     try {
-        const FileForm form = RecognisedForm(file, options.form, TotalPicksOf(target.game.rules));
-        return {form, ImportDraws(file, form, target.game.rules, target.LastDate())};
+        const FileForm form = RecognisedForm(file, options.form, target.game.rules);
+        return {form, ImportDraws(file, form, target.game.rules, LastDateOf(target.before.digits))};
     } catch (const Refusal& refusal) {
         throw Refusal(options.file + ": " + refusal.what() + ".");
     }
 }
 
+std::string AboveText(int records) {
+    if (records > 1) {
+        return ", " + std::to_string(records) + " lines above the draws";
+    }
+    return records == 1 ? ", header" : "";
+}
+
 void TellOfFile(const ImportOptions& options, const ImportedFile& file, std::ostream& out) {
-    out << options.file << " (" << NameOfDelimiter(file.form.delimiter) << (file.form.hasHeader ? ", header" : "")
+    out << options.file << " (" << NameOfDelimiter(file.form.delimiter) << AboveText(file.form.recordsAbove)
         << ", dates " << NameOf(file.form.dates) << "): " << Count(std::ssize(file.content.draws), "draw")
         << Range(file.content.draws) << '\n';
     if (file.content.incomplete > 0) {
         out << "  " << Count(file.content.incomplete, "draw") << " without all picks\n";
+    }
+}
+
+/// What stands in the game's file and does not outlast the import.
+void TellOfLoss(const Target& target, std::ostream& out) {
+    const BesideDraws lost = BesideDrawsOf(target.content.value_or(""), TotalPicksOf(target.game.rules));
+    const std::string wayOut = "; ballhaven-data check tells which\n";
+    if (lost.recordsWithoutDate > 0) {
+        out << "  dropped, since no date can be read in it: " << Count(lost.recordsWithoutDate, "record") << wayOut;
+    }
+    if (lost.drawsWithMorePicks > 0) {
+        out << "  with more picks than the game draws, which are dropped: " << Count(lost.drawsWithMorePicks, "draw")
+            << '\n';
     }
 }
 
@@ -148,22 +162,29 @@ void TellOfMerge(const Target& target, const MergedDraws& merged, bool replaces,
 
 }  // namespace
 
-void ImportFile(const WorkFolder& folder, const ImportOptions& options, const Console& console) {
+std::string ImportFile(const WorkFolder& folder, const ImportOptions& options, const Console& console) {
     const Target target = ReadTarget(folder.Path(), options.game);
     ImportedFile file = ReadImportedFile(options, target);
     RefuseForFaults(options.file, file.content.faults, console.notes);
     TellOfFile(options, file, console.out);
-    const MergedDraws merged = Merged(target.before.draws, std::move(file.content.draws), options.replaces);
+    const MergedDraws merged =
+        Merged(target.game.rules, target.before.draws, std::move(file.content.draws), options.replaces);
     TellOfMerge(target, merged, options.replaces, console.out);
-    if (!merged.changesGame) {
-        console.out << "There is nothing to change.\n";
-    } else if (!options.applies) {
-        console.out << "Nothing was changed: this is what would happen. Add --apply to do it.\n";
+    if (merged.changesGame) {
+        TellOfLoss(target, console.out);
     } else {
-        const std::string content = ContentOf({target.before.digits, merged.draws}, target.content);
-        const std::string copy = folder.Change({{HistoryFileOf(target.game.slot).name, content}}, "import");
-        console.out << "Done. What the game held before is kept in " << copy << ".\n";
+        console.out << "There is nothing to change.\n";
+        return {};
     }
+    if (!options.applies) {
+        console.out << "Nothing was changed: this is what would happen. Add --apply to do it.\n";
+        return {};
+    }
+    const std::string content = ContentOf({target.before.digits, merged.draws}, target.content);
+    const std::string copy = folder.Change({{HistoryFileOf(target.game.slot).name, content}}, "import");
+    std::string changed = "Done. What the game held before is kept in " + copy + ".";
+    console.out << changed << '\n';
+    return changed;
 }
 
 }  // namespace ballhaven::data

@@ -17,7 +17,8 @@ struct ImportOptions {
 };
 
 /// Brings the draws of a file into a game of a folder, all or nothing, and tells what that does. Throws Refusal, after
-/// the first faults of the file have been told in `console.notes`.
-void ImportFile(const WorkFolder& folder, const ImportOptions& options, const Console& console);
+/// the first faults of the file have been told in `console.notes`. Returns the words about the change that was made;
+/// none where there was none.
+[[nodiscard]] std::string ImportFile(const WorkFolder& folder, const ImportOptions& options, const Console& console);
 
 }  // namespace ballhaven::data

@@ -1,6 +1,7 @@
 #include "data/MendCommand.h"
 
 #include "data/folder/FolderFiles.h"
+#include "data/folder/Refusal.h"
 #include "data/folder/TableOnFile.h"
 #include "history/DrawRecord.h"
 #include "state/AppState.h"
@@ -8,6 +9,7 @@
 #include "state/modUTILS.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace ballhaven::data {
 
@@ -49,25 +51,41 @@ FileContents MarkedHistories(const std::string& directory) {
     return files;
 }
 
+/// Whether a folder without a table of games can be one of Ballhaven: a new one, or that of the program.
+bool CanBeginHere(const std::string& directory) {
+    try {
+        return std::filesystem::is_empty(directory) || std::filesystem::exists(directory + "ballhaven");
+    } catch (const std::filesystem::filesystem_error& error) {
+        throw Refusal(directory + " cannot be read: " + error.code().message() + ".");
+    }
+}
+
 }  // namespace
 
-void MendFolder(const WorkFolder& folder, const Console& console) {
+std::string MendFolder(const WorkFolder& folder, const Console& console) {
     const std::string tableName = GameTableFile().name;
     const std::optional<std::string> found = ReadFolderFile(folder.Path(), GameTableFile());
+    if (!found && !CanBeginHere(folder.Path())) {
+        throw Refusal(folder.Path() + " holds other things and no " + tableName +
+                      ", so it is no folder of Ballhaven. Name the right one, or an empty one, with --folder.");
+    }
     std::string table = WholeTable(found.value_or(""));
     const std::string record = TableRecord(table, systemRecordNumber);
     if (found && IsMended(record)) {
         console.out << folder.Path() << " is mended already. Nothing was changed.\n";
-        return;
+        return {};
     }
     PutTableRecord(table, systemRecordNumber, WithMendedMark(record));
     FileContents files = MarkedHistories(folder.Path());
     files[tableName] = table;
     const std::string copy = folder.Change(files, "mend");
-    console.out << folder.Path() << " is mended now.\n" << whatIsDifferent;
-    console.out << "What was there is kept in " << copy << ".\n"
+    const std::string isMended = folder.Path() + " is mended now.";
+    const std::string isKept = "What was there is kept in " + copy + ".";
+    console.out << isMended << '\n'
+                << whatIsDifferent << isKept << '\n'
                 << "To go back to it, without what is entered from now on:\n  ballhaven-data --folder \""
                 << folder.Path() << "\" restore \"" << copy << "\"\n";
+    return isMended + " " + isKept;
 }
 
 }  // namespace ballhaven::data

@@ -26,7 +26,7 @@ void SetShownSlot(std::string& table, int slot) {
 
 }  // namespace
 
-void Set(const WorkFolder& folder, const SetOptions& options, const Console& console) {
+std::string Set(const WorkFolder& folder, const SetOptions& options, const Console& console) {
     const std::vector<GameOnFile> games = ReadGames(folder.Path());
     std::string table = WholeTable(ReadFolderFile(folder.Path(), GameTableFile()).value_or(""));
     if (options.historySet) {
@@ -43,7 +43,9 @@ void Set(const WorkFolder& folder, const SetOptions& options, const Console& con
     if (options.shownSlot) {
         console.out << "Ballhaven starts with slot " << *options.shownSlot << ".\n";
     }
-    console.out << "What was there is kept in " << copy << ".\n";
+    std::string isKept = "What was there is kept in " + copy + ".";
+    console.out << isKept << '\n';
+    return isKept;
 }
 
 }  // namespace ballhaven::data

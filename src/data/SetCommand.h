@@ -15,7 +15,7 @@ struct SetOptions {
 };
 
 /// Sets in the table of games how many draws a game shows, and which game Ballhaven shows when it starts. No other file
-/// is touched or read. Throws Refusal.
-void Set(const WorkFolder& folder, const SetOptions& options, const Console& console);
+/// is touched or read. Returns the words about the copy of what was there. Throws Refusal.
+[[nodiscard]] std::string Set(const WorkFolder& folder, const SetOptions& options, const Console& console);
 
 }  // namespace ballhaven::data

@@ -87,5 +87,15 @@ TEST_F(CheckCommandTest, AFolderWithoutDataIsRefused) {
     EXPECT_EQ(notes.str(), "ballhaven-data: /not/there/ cannot be used: No such file or directory.\n");
 }
 
+TEST_F(CheckCommandTest, ARepairIsNoRefusalBecauseTheWordsAboutItAreLost) {
+    PutInto("GAME01.CDB", 1, 20, "x");
+    EXPECT_EQ(RunWithoutOutput({"check"}), refused);
+    EXPECT_EQ(RunWithoutOutput({"check", "--mend"}), done);
+    EXPECT_EQ(notes.str(),
+              "ballhaven-data: The output could not be written to its end, but the command is done: What was there is "
+              "kept in " +
+                  OnlyCopy() + ".\n");
+}
+
 }  // namespace
 }  // namespace ballhaven::data

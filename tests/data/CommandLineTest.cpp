@@ -33,6 +33,16 @@ TEST_F(CommandLineTest, AnUnknownCommandIsWrongUsage) {
     EXPECT_EQ(out.str(), "");
 }
 
+TEST_F(CommandLineTest, AnOptionThatNamesNothingIsWrongUsage) {
+    for (const std::vector<std::string>& line : {std::vector<std::string>{"--folder", "", "games"},
+                                                 {"export", "1", "--output", ""},
+                                                 {"guarantee", "1", "-m", "2", "-t", "2", "--proof", ""}}) {
+        notes.str("");
+        EXPECT_EQ(Run(line), wrongUsage);
+        EXPECT_NE(notes.str().find("it names nothing"), std::string::npos) << notes.str();
+    }
+}
+
 TEST_F(CommandLineTest, HelpIsDoneAndGoesToTheOutput) {
     EXPECT_EQ(Run({"--help"}), done);
     EXPECT_NE(out.str().find("--folder"), std::string::npos);

@@ -13,6 +13,12 @@
 
 namespace ballhaven::data {
 
+/// A stream that takes nothing, as one into a full disk.
+class FullDisk : public std::streambuf {
+  protected:
+    int_type overflow(int_type) override { return traits_type::eof(); }
+};
+
 /// Commands that are run on the sample games, in a folder of their own.
 class CommandTest : public testing::Test {
   protected:
@@ -23,6 +29,14 @@ class CommandTest : public testing::Test {
         out.str("");
         notes.str("");
         return RunCommandLine(arguments, directory.Path(), console);
+    }
+
+    /// Runs a line on the folder while the output takes nothing.
+    ExitCode RunWithoutOutput(const std::vector<std::string>& arguments) {
+        notes.str("");
+        FullDisk disk;
+        std::ostream full(&disk);
+        return RunCommandLine(arguments, directory.Path(), {full, notes});
     }
 
     [[nodiscard]] bool Says(const std::string& words) const { return out.str().find(words) != std::string::npos; }

@@ -245,5 +245,19 @@ TEST_F(CopyCommandsTest, NoCommandTouchesAFolderThatIsInUse) {
     EXPECT_FALSE(elsewhere.Has("another.zip"));
 }
 
+TEST_F(CopyCommandsTest, ACopyAndARestoreAreDoneThoughTheWordsAboutThemAreLost) {
+    EXPECT_EQ(RunWithoutOutput({"backup", directory / "all.zip"}), done);
+    EXPECT_EQ(notes.str(),
+              "ballhaven-data: The output could not be written to its end, but the command is done: 22 files are in " +
+                  (directory / "all.zip") + ".\n");
+    directory.Write("GAME01.CDB", "");
+    EXPECT_EQ(RunWithoutOutput({"restore", directory / "all.zip"}), done);
+    EXPECT_EQ(notes.str(),
+              "ballhaven-data: The output could not be written to its end, but the command is done: What was there is "
+              "kept in " +
+                  OnlyCopy() + ".\n");
+    EXPECT_NE(directory.Read("GAME01.CDB"), "");
+}
+
 }  // namespace
 }  // namespace ballhaven::data

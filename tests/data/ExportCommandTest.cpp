@@ -1,6 +1,6 @@
 #include "data/ExportCommand.h"
 
-#include "data/CommandLine.h"
+#include "data/CommandTest.h"
 #include "support/TemporaryDirectory.h"
 #include "tools/SampleGames.h"
 
@@ -11,12 +11,6 @@
 
 namespace ballhaven::data {
 namespace {
-
-/// A stream that takes nothing, as one into a full disk.
-class FullDisk : public std::streambuf {
-  protected:
-    int_type overflow(int_type) override { return traits_type::eof(); }
-};
 
 class ExportCommandTest : public testing::Test {
   protected:

@@ -1,6 +1,6 @@
 #include "data/ImportCommand.h"
 
-#include "data/CommandLine.h"
+#include "data/CommandTest.h"
 #include "platform/Services.h"
 #include "support/TemporaryDirectory.h"
 #include "support/WatchedFiles.h"
@@ -112,6 +112,43 @@ TEST_F(ImportCommandTest, AppliedItWritesTheDrawsInAscendingOrderOfDate) {
     EXPECT_TRUE(directory.Has("copies/2026-11-22 09.05.07 import.zip"));
 }
 
+TEST_F(ImportCommandTest, DrawsThatAreInAreNoRefusalBecauseTheWordsAboutThemAreLost) {
+    files.Write("draws.csv", "1986-09-27,7,3,1\n");
+    const std::vector<std::string> line{"--folder", directory.Path(), "import", "1", files / "draws.csv"};
+    std::vector<std::string> applied = line;
+    applied.emplace_back("--apply");
+    FullDisk disk;
+    std::ostream full(&disk);
+    EXPECT_EQ(RunCommandLine(line, "/nowhere", {full, notes}), refused);
+    EXPECT_EQ(notes.str(), "ballhaven-data: The output could not be written to its end.\n");
+    notes.str("");
+    EXPECT_EQ(RunCommandLine(applied, "/nowhere", {full, notes}), done);
+    EXPECT_EQ(
+        notes.str(),
+        "ballhaven-data: The output could not be written to its end, but the command is done: Done. What the game held "
+        "before is kept in " +
+            directory.Path() + "copies/2026-11-22 09.05.07 import.zip.\n");
+    EXPECT_EQ(Draws(), FileOf(Row("1000  7  3  1")));
+}
+
+TEST_F(ImportCommandTest, AFirstLineWithoutADateIsAFaultAndNoHeader) {
+    EXPECT_EQ(Import(",1,2,3\n2010-01-30,1,2,3\n"), refused);
+    EXPECT_NE(Told(notes).find("draws.csv, line 1: \"\" is no date"), std::string::npos) << notes.str();
+}
+
+TEST_F(ImportCommandTest, TheExportOfAnEmptyGameChangesNothing) {
+    EXPECT_EQ(RunCommandLine({"export", "1"}, directory.Path(), {out, notes}), done);
+    EXPECT_EQ(Import(out.str(), {"--apply"}), done) << notes.str();
+    EXPECT_NE(out.str().find("There is nothing to change.\n"), std::string::npos);
+    EXPECT_FALSE(directory.Has("GAME01.CDB"));
+}
+
+TEST_F(ImportCommandTest, AnExportOfPlaysIsRefusedByItsName) {
+    EXPECT_EQ(RunCommandLine({"export", "1", "--plays"}, directory.Path(), {out, notes}), done);
+    EXPECT_EQ(Import(out.str()), refused);
+    EXPECT_NE(notes.str().find("it holds plays, as \"export --plays\" writes them"), std::string::npos) << notes.str();
+}
+
 TEST_F(ImportCommandTest, AGameIsFoundByItsNameToo) {
     EXPECT_EQ(Import("1986-09-27,Ah,10c\n", {"--apply"}, "two cards"), done);
     EXPECT_EQ(directory.Read("GAME02.CDB"), FileOf(Row("1000  1 23")));
@@ -129,6 +166,21 @@ TEST_F(ImportCommandTest, DatesThatTheGameHasAreNamedAndLeftAlone) {
               std::string::npos)
         << out.str();
     EXPECT_EQ(Draws(), FileOf(Row("1000  7  3  1") + Row("1001  1  2  3") + Row("1002  4  5  6")));
+}
+
+TEST_F(ImportCommandTest, WhatTheGamesFileHoldsBesideItsDrawsIsToldBeforeItIsDropped) {
+    directory.Write("GAME01.CDB", FileOf(Row("1000  7  3  1") + Row("x001  1  2  3") + Row("1002  7  3  1  9")));
+    for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--apply"}}) {
+        EXPECT_EQ(Import("1986-09-30,4,5,6\n", options), done);
+        EXPECT_NE(out.str().find("  dropped, since no date can be read in it: 1 record; ballhaven-data check tells "
+                                 "which\n"
+                                 "  with more picks than the game draws, which are dropped: 1 draw\n"),
+                  std::string::npos)
+            << out.str();
+    }
+    EXPECT_EQ(Draws(), FileOf(Row("1000  7  3  1") + Row("1002  7  3  1") + Row("1003  4  5  6")));
+    EXPECT_EQ(Import("1986-10-01,4,5,6\n"), done);
+    EXPECT_EQ(out.str().find("dropped"), std::string::npos);
 }
 
 TEST_F(ImportCommandTest, DatesThatTheGameHasTakeTheNewPicksWhereThatIsWanted) {

@@ -29,6 +29,14 @@ TEST_F(MendCommandTest, TheWayBackIsTheCopyThatItNames) {
     EXPECT_EQ(Files(), before);
 }
 
+TEST_F(MendCommandTest, AMendedFolderIsNoRefusalBecauseTheWordsAboutItAreLost) {
+    EXPECT_EQ(RunWithoutOutput({"mend"}), done);
+    EXPECT_EQ(directory.Read("LOTTOSYS")[63], 'M');
+    EXPECT_EQ(notes.str(), "ballhaven-data: The output could not be written to its end, but the command is done: " +
+                               directory.Path() + " is mended now. What was there is kept in " + OnlyCopy() + ".\n");
+    EXPECT_EQ(RunWithoutOutput({"mend"}), refused) << "nothing was changed by this one";
+}
+
 TEST_F(MendCommandTest, AMendedFolderStaysAsItIs) {
     EXPECT_EQ(Run({"mend"}), done);
     const auto before = Files();
@@ -46,6 +54,18 @@ TEST_F(MendCommandTest, AnEmptyFolderGetsANewTable) {
     EXPECT_EQ(table.size(), 1344U);
     EXPECT_EQ(table.substr(0, 64), "01/1/1/000000" + std::string(50, ' ') + "M");
     EXPECT_EQ(table.substr(64, 64), "1 /un-defined            /010/0/1/99/ / /N/N/10/0/N /  /1/99/   ");
+}
+
+TEST_F(MendCommandTest, AFolderOfOtherThingsIsNotMadeOneOfBallhaven) {
+    const support::TemporaryDirectory other;
+    other.Write("letter.txt", "Dear Ann");
+    EXPECT_EQ(Run({"--folder", other.Path(), "mend"}), refused);
+    EXPECT_EQ(notes.str(), "ballhaven-data: " + other.Path() +
+                               " holds other things and no LOTTOSYS, so it is no folder of Ballhaven. Name the right "
+                               "one, or an empty one, with --folder.\n");
+    EXPECT_EQ(other.Files(), (std::map<std::string, std::string>{{"letter.txt", "Dear Ann"}}));
+    other.Write("ballhaven", "the program");
+    EXPECT_EQ(Run({"--folder", other.Path(), "mend"}), done) << "it lies beside the program";
 }
 
 TEST_F(MendCommandTest, ATableOfOneRecordIsBuiltAnewAsTheProgramWould) {

@@ -92,5 +92,13 @@ TEST_F(SetCommandTest, AnUnknownOrUnusedGameIsRefused) {
     EXPECT_EQ(directory.Files(), before);
 }
 
+TEST_F(SetCommandTest, ASettingIsNoRefusalBecauseTheWordsAboutItAreLost) {
+    EXPECT_EQ(RunWithoutOutput({"set", "--shown", "2"}), done);
+    EXPECT_EQ(notes.str(),
+              "ballhaven-data: The output could not be written to its end, but the command is done: What was there is "
+              "kept in " +
+                  OnlyCopy() + ".\n");
+}
+
 }  // namespace
 }  // namespace ballhaven::data

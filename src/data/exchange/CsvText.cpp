@@ -6,6 +6,7 @@
 #include <array>
 #include <istream>
 #include <map>
+#include <tuple>
 
 namespace ballhaven::data {
 
@@ -30,30 +31,46 @@ bool IsLineEnd(char character) {
 /// How well a delimiter divides the first lines: how many of them have the same number of fields, two at least, and how
 /// many fields that are.
 struct Division {
+    char delimiter = 0;
     int lines = 0;
     std::size_t fields = 0;
+    std::optional<Refusal> refusal{};  ///< of the line after them
 
-    auto operator<=>(const Division&) const = default;
+    [[nodiscard]] bool IsBetterThan(const Division& other) const {
+        return std::tie(lines, fields) > std::tie(other.lines, other.fields);
+    }
 };
 
 Division DivisionBy(std::istream& bytes, char delimiter) {
     Rewind(bytes);
+    Division best{.delimiter = delimiter};
     std::map<std::size_t, int> linesOfWidth;
     try {
         CsvText text(bytes, delimiter);
         for (int line = 0; line < linesToJudgeBy && text.Next(); ++line) {
             ++linesOfWidth[text.Fields().size()];
         }
-    } catch (const Refusal&) {
-        // Under a delimiter that is not the text's own a quote can seem to open in the middle of a field.
-        return {};
+    } catch (const Refusal& refusal) {
+        best.refusal = refusal;
     }
     linesOfWidth.erase(1);
-    Division best;
     for (const auto& [fields, lines] : linesOfWidth) {
-        best = std::max(best, Division{lines, fields});
+        if (std::tie(lines, fields) > std::tie(best.lines, best.fields)) {
+            best.lines = lines;
+            best.fields = fields;
+        }
     }
     return best;
+}
+
+/// The delimiter that the first line names behind its mark.
+std::optional<char> DelimiterOfFirstLine(std::istream& bytes) {
+    Rewind(bytes);
+    TextSource source(bytes);
+    const std::string_view head = source.Next();
+    const std::size_t place = delimiterMark.size();
+    const bool isNamed = head.starts_with(delimiterMark) && head.size() > place + 1 && IsLineEnd(head[place + 1]);
+    return isNamed ? DelimiterNamed(head.substr(place, 1)) : std::nullopt;
 }
 
 }  // namespace
@@ -208,20 +225,29 @@ bool CsvText::HasText() const {
 }
 
 char RecognisedDelimiter(std::istream& bytes) {
-    char best = 0;
-    Division bestDivision;
+    if (const std::optional<char> named = DelimiterOfFirstLine(bytes)) {
+        Rewind(bytes);
+        return *named;
+    }
+    // Under a delimiter that is not the text's own a quote can seem to open in the middle of a field: a refusal counts
+    // only where no delimiter reads the lines.
+    Division best;
+    Division bestRefused;
     for (const auto& [delimiter, name] : usualDelimiters) {
         const Division division = DivisionBy(bytes, delimiter);
-        if (division > bestDivision) {
-            best = delimiter;
-            bestDivision = division;
+        Division& bestOfItsKind = division.refusal ? bestRefused : best;
+        if (division.IsBetterThan(bestOfItsKind) || (division.refusal && !bestRefused.refusal)) {
+            bestOfItsKind = division;
         }
     }
     Rewind(bytes);
-    if (best == 0) {
+    if (best.lines == 0 && bestRefused.refusal) {
+        throw Refusal(*bestRefused.refusal);
+    }
+    if (best.lines == 0) {
         throw Refusal("no comma, semicolon or tab divides its lines into fields; name what does with --delimiter");
     }
-    return best;
+    return best.delimiter;
 }
 
 std::optional<char> DelimiterNamed(std::string_view name) {
@@ -238,6 +264,18 @@ std::optional<char> DelimiterNamed(std::string_view name) {
 std::string NameOfDelimiter(char delimiter) {
     const auto* const usual = std::ranges::find(usualDelimiters, delimiter, &NamedDelimiter::delimiter);
     return usual != usualDelimiters.end() ? std::string(usual->name) : std::string(1, delimiter);
+}
+
+void RequireText(std::istream& bytes) {
+    Rewind(bytes);
+    TextSource source(bytes);
+    for (std::string_view chunk = source.Next(); chunk.find_first_not_of(" \t\r\n") == std::string_view::npos;
+         chunk = source.Next()) {
+        if (chunk.empty()) {
+            throw Refusal("it is empty");
+        }
+    }
+    Rewind(bytes);
 }
 
 void Rewind(std::istream& bytes) {

@@ -56,8 +56,13 @@ class CsvText {
     std::int64_t firstLine = 1;
 };
 
-/// The delimiter of a text, a comma, a semicolon or a tab: the one that most of the first lines agree on. Leaves the
-/// stream at its beginning. Throws Refusal where none divides them.
+/// What a line begins with that tells a spreadsheet the delimiter: "sep=;".
+inline constexpr std::string_view delimiterMark = "sep=";
+
+/// The delimiter of a text: the one that its first line names so, else a comma, a semicolon or a tab, whichever most of
+/// the first lines agree on. Leaves the
+/// stream at its beginning. Throws Refusal where none divides them; where the lines cannot be read with any, as
+/// `CsvText` does.
 [[nodiscard]] char RecognisedDelimiter(std::istream& bytes);
 
 /// The delimiter with a name: "comma", "semicolon", "tab", or any character of ASCII itself but letters, digits,
@@ -66,6 +71,10 @@ class CsvText {
 
 /// What a delimiter is called.
 [[nodiscard]] std::string NameOfDelimiter(char delimiter);
+
+/// Looks whether a stream holds a text at all. Leaves it at its beginning. Throws Refusal for one of blanks and line
+/// ends alone, and as `TextSource` does for the bytes before the first character that is none.
+void RequireText(std::istream& bytes);
 
 /// Puts a stream back to its beginning.
 void Rewind(std::istream& bytes);

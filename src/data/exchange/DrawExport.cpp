@@ -4,8 +4,6 @@
 #include "state/AppState.h"
 #include "state/PickText.h"
 
-#include <algorithm>
-
 namespace ballhaven::data {
 
 namespace {
@@ -30,7 +28,7 @@ std::string PickColumnNames(const GameRules& rules) {
 }
 
 std::string CsvOfDraws(const GameRules& rules, std::vector<DrawOnFile> draws) {
-    std::ranges::stable_sort(draws, {}, &DrawOnFile::date);
+    SortByDate(draws);
     std::string csv = "date" + PickColumnNames(rules) + "\n";
     for (const DrawOnFile& draw : draws) {
         csv += IsoDate(draw.date);

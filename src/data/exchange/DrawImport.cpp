@@ -32,8 +32,10 @@ ImportedDraws ImportDraws(std::istream& bytes, const FileForm& form, const GameR
     ImportedDraws imported;
     std::vector<std::int64_t> lineOfDate(dateCount, 0);
     CsvText text(bytes, form.delimiter);
-    for (bool isHeader = form.hasHeader; text.Next(); isHeader = false) {
-        if (isHeader) {
+    int above = form.recordsAbove;
+    while (text.Next()) {
+        if (above > 0) {
+            --above;
             continue;
         }
         CheckedDraw checked = CheckDraw(text.Fields(), form.columns, form.dates, rules, lastDate);
@@ -51,7 +53,7 @@ ImportedDraws ImportDraws(std::istream& bytes, const FileForm& form, const GameR
         imported.incomplete += LacksPick(checked.draw) ? 1 : 0;
         imported.draws.push_back(std::move(checked.draw));
     }
-    std::ranges::sort(imported.draws, {}, &DrawOnFile::date);
+    SortByDate(imported.draws);
     return imported;
 }
 

@@ -1,5 +1,6 @@
 #include "data/exchange/DrawMerge.h"
 
+#include "data/folder/Picks.h"
 #include "state/AppState.h"
 
 #include <algorithm>
@@ -10,8 +11,18 @@ namespace ballhaven::data {
 
 namespace {
 
-void SortByDate(std::vector<DrawOnFile>& draws) {
-    std::ranges::stable_sort(draws, {}, &DrawOnFile::date);
+/// The picks of a draw as they are compared.
+Picks ComparedPicks(const GameRules& rules, const DrawOnFile& draw) {
+    Picks picks = PicksOfDraw(rules, draw.picks);
+    if (!rules.orderMatters) {
+        std::ranges::sort(picks.main);
+        std::ranges::sort(picks.bonus);
+    }
+    return picks;
+}
+
+bool AreAlike(const GameRules& rules, const DrawOnFile& one, const DrawOnFile& other) {
+    return ComparedPicks(rules, one) == ComparedPicks(rules, other);
 }
 
 /// Takes the oldest draws out where there are more than a game keeps, and notes their dates.
@@ -28,7 +39,8 @@ void LeaveOutOldest(MergedDraws& merged) {
 
 }  // namespace
 
-MergedDraws Merged(std::vector<DrawOnFile> ofGame, std::vector<DrawOnFile> incoming, bool replaces) {
+MergedDraws Merged(const GameRules& rules, std::vector<DrawOnFile> ofGame, std::vector<DrawOnFile> incoming,
+                   bool replaces) {
     MergedDraws merged;
     SortByDate(ofGame);
     merged.draws = ofGame;
@@ -40,17 +52,19 @@ MergedDraws Merged(std::vector<DrawOnFile> ofGame, std::vector<DrawOnFile> incom
             ++merged.added;
             continue;
         }
-        const auto hasItsPicks = [&draw](const DrawOnFile& row) { return row.picks == draw.picks; };
+        const auto hasItsPicks = [&](const DrawOnFile& row) { return AreAlike(rules, row, draw); };
         const bool isAlike = std::all_of(ofGame.begin() + first, ofGame.begin() + end, hasItsPicks);
         (isAlike ? merged.alike : merged.different).push_back(draw.date);
-        for (auto row = first; replaces && row < end; ++row) {
-            merged.draws[static_cast<std::size_t>(row)].picks = draw.picks;
+        if (replaces) {
+            const auto hasOthers = [&](const DrawOnFile& row) { return !hasItsPicks(row); };
+            std::replace_if(merged.draws.begin() + first, merged.draws.begin() + end, hasOthers, draw);
         }
     }
     SortByDate(merged.draws);
     LeaveOutOldest(merged);
     merged.leftOutOfGame = static_cast<int>(std::ranges::count_if(
         merged.leftOut, [&](int date) { return std::ranges::binary_search(ofGame, date, {}, &DrawOnFile::date); }));
+    merged.added -= static_cast<int>(merged.leftOut.size()) - merged.leftOutOfGame;
     merged.changesGame = merged.draws != ofGame;
     return merged;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/folder/DrawsOnFile.h"
+#include "state/GameRules.h"
 
 #include <vector>
 
@@ -9,7 +10,7 @@ namespace ballhaven::data {
 /// What becomes of a game's draws when others come in.
 struct MergedDraws {
     std::vector<DrawOnFile> draws;  ///< all that the game then has, in ascending order of date, 1000 at most
-    int added = 0;                  ///< draws of a date that the game did not have
+    int added = 0;                  ///< draws, of dates that the game did not have, that come in
     std::vector<int> alike;         ///< dates, in ascending order, that it has with the same picks
     std::vector<int> different;     ///< dates that it has with other picks
     std::vector<int> leftOut;       ///< dates of the oldest draws, for which there is no room
@@ -18,7 +19,9 @@ struct MergedDraws {
 };
 
 /// Brings draws, in ascending order of date and each date once, among those of a game. A draw whose date the game has
-/// already stays as it is, or takes the new picks if that is wanted, in each row of that date.
-[[nodiscard]] MergedDraws Merged(std::vector<DrawOnFile> ofGame, std::vector<DrawOnFile> incoming, bool replaces);
+/// already stays as it is, or takes the new picks if that is wanted, in each row of that date that has other ones.
+/// Where the order of the picks does not matter, the same ones in another order are no others.
+[[nodiscard]] MergedDraws Merged(const GameRules& rules, std::vector<DrawOnFile> ofGame,
+                                 std::vector<DrawOnFile> incoming, bool replaces);
 
 }  // namespace ballhaven::data

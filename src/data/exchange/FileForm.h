@@ -2,6 +2,7 @@
 
 #include "data/exchange/DateForm.h"
 #include "data/exchange/DrawColumns.h"
+#include "state/GameRules.h"
 
 #include <iosfwd>
 #include <optional>
@@ -21,13 +22,15 @@ struct GivenForm {
 struct FileForm {
     char delimiter = ',';
     DateOrder dates = DateOrder::yearFirst;
-    bool hasHeader = false;
+    int recordsAbove = 0;  ///< the draws: a header, and what stands over it
     DrawColumns columns;
 };
 
-/// Recognises the form of a file of draws with `picks` picks each: the delimiter by the first lines, a header by a date
-/// without a digit in the first line, the order of the dates as `DateOrderFinder` does. Leaves the stream at its
-/// beginning. Throws Refusal where it is not clear, or where the file holds no draw.
-[[nodiscard]] FileForm RecognisedForm(std::istream& bytes, const GivenForm& given, int picks);
+/// Recognises the form of a file of draws of a game: the delimiter by the first lines, or by one such as "sep=;" above
+/// all others; what stands above the draws by holding neither a date nor a pick; the order of the dates as
+/// `DateOrderFinder` does. A header alone, as wide as a draw, is a file without draws. Leaves the stream at its
+/// beginning. Throws Refusal where the form is not clear, where there is nothing but a header that is none of this
+/// game, and for an export of plays.
+[[nodiscard]] FileForm RecognisedForm(std::istream& bytes, const GivenForm& given, const GameRules& rules);
 
 }  // namespace ballhaven::data

@@ -57,7 +57,7 @@ bool HasPick(Slots slots) {
 std::string CsvOfPlays(const GameRules& rules, const PlayPicks& plays) {
     const int bonusCount = BonusSlots(rules);
     const int mainCount = TotalPicksOf(rules) - bonusCount;
-    std::string csv = "slip,line,method" + PickColumnNames(rules) + "\n";
+    std::string csv = std::string(playColumnNames) + PickColumnNames(rules) + "\n";
     for (int play = 1; play <= playCount; ++play) {
         const Slots mains = FirstSlots(plays.Slots(mainPicks, play), mainCount);
         const Slots bonus = FirstSlots(plays.Slots(bonusPicks, play), bonusCount);

@@ -4,6 +4,7 @@
 #include "state/modUTILS.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 
 namespace ballhaven::data {
@@ -22,6 +23,10 @@ std::string WholeRecord(std::string_view record) {
 
 }  // namespace
 
+void SortByDate(std::vector<DrawOnFile>& draws) {
+    std::ranges::stable_sort(draws, {}, &DrawOnFile::date);
+}
+
 DrawsOnFile DrawsOf(std::string_view content, int picks) {
     DrawsOnFile file;
     file.digits = DateDigitsOf(WholeRecord(RecordOf(content, headerRecord)));
@@ -36,6 +41,26 @@ DrawsOnFile DrawsOf(std::string_view content, int picks) {
         }
     }
     return file;
+}
+
+BesideDraws BesideDrawsOf(std::string_view content, int picks) {
+    BesideDraws beside;
+    const DateDigits digits = DateDigitsOf(WholeRecord(RecordOf(content, headerRecord)));
+    std::array<std::int16_t, 1 + mostPicksOfDraw> cells{};
+    const std::span<const std::int16_t> behind =
+        std::span(cells).subspan(static_cast<std::size_t>(std::min(picks, mostPicksOfDraw)) + 1);
+    for (int record = firstDrawRecord; record <= drawFileRecords; ++record) {
+        const std::string_view text = RecordOf(content, record);
+        if (text.find_first_not_of(' ') == std::string_view::npos) {
+            continue;
+        }
+        if (!DecodeDraw(WholeRecord(text), digits, cells)) {
+            ++beside.recordsWithoutDate;
+        } else if (std::ranges::any_of(behind, [](std::int16_t pick) { return pick >= 0; })) {
+            ++beside.drawsWithMorePicks;
+        }
+    }
+    return beside;
 }
 
 DrawsOnFile ReadDraws(const std::string& directory, const GameOnFile& game) {

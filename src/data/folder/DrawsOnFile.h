@@ -26,6 +26,19 @@ struct DrawsOnFile {
     bool operator==(const DrawsOnFile&) const = default;
 };
 
+/// Puts draws in ascending order of date; those of one date keep their order.
+void SortByDate(std::vector<DrawOnFile>& draws);
+
+/// What a content holds beside its draws, as a game with so many picks reads them.
+struct BesideDraws {
+    int recordsWithoutDate = 0;  ///< or with one that cannot be read, and something behind it
+    int drawsWithMorePicks = 0;
+
+    bool operator==(const BesideDraws&) const = default;
+};
+
+[[nodiscard]] BesideDraws BesideDrawsOf(std::string_view content, int picks);
+
 /// The draws of a content, with this many picks. Rows without a date are left out.
 [[nodiscard]] DrawsOnFile DrawsOf(std::string_view content, int picks);
 

@@ -132,10 +132,46 @@ TEST(RecognisedDelimiter, LeavesTheStreamAtItsBeginning) {
     EXPECT_EQ(text.Fields().front(), "a");
 }
 
+std::string RefusalOfDelimiter(const std::string& bytes) {
+    try {
+        (void)DelimiterOf(bytes);
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    }
+    return "none";
+}
+
 TEST(RecognisedDelimiter, IsAskedForWhereNothingDividesTheLines) {
-    EXPECT_THROW((void)DelimiterOf("2011-05-21 1 2 3\n"), Refusal);
-    EXPECT_THROW((void)DelimiterOf(""), Refusal);
-    EXPECT_THROW((void)DelimiterOf("\"a,b;c\n"), Refusal);
+    EXPECT_EQ(RefusalOfDelimiter("2011-05-21 1 2 3\n").substr(0, 36), "no comma, semicolon or tab divides i");
+}
+
+TEST(RecognisedDelimiter, WhatKeepsTheLinesFromBeingReadIsToldAsItIs) {
+    EXPECT_EQ(RefusalOfDelimiter("\"a,b;c\n"), "the quote that opens in line 1 never closes");
+    EXPECT_EQ(RefusalOfDelimiter("2011-05-21,1,2\n2011-05-22,\"3,4\n2011-05-23,5,6\n"),
+              "the quote that opens in line 2 never closes");
+    EXPECT_EQ(RefusalOfDelimiter(std::string(70'000, 'x') + "\n").substr(0, 34), "line 1 is longer than 65536 bytes,");
+    EXPECT_EQ(DelimiterOf("5;\",\"\n6;7\n8,\"\n9;1\n"), ';') << "a delimiter that reads the lines comes first";
+}
+
+TEST(RecognisedDelimiter, IsTheOneThatTheFirstLineNamesForASpreadsheet) {
+    EXPECT_EQ(DelimiterOf("sep=|\na,b|c\n"), '|');
+    EXPECT_EQ(DelimiterOf("sep=\t\r\na,b\tc\n"), '\t');
+    EXPECT_EQ(DelimiterOf("sep=ab\na,b\n"), ',');
+}
+
+TEST(RequireText, WantsMoreThanBlanksAndNoZeros) {
+    const auto refusalOf = [](const std::string& bytes) -> std::string {
+        std::istringstream stream(bytes);
+        try {
+            RequireText(stream);
+        } catch (const Refusal& refusal) {
+            return refusal.what();
+        }
+        return stream.tellg() == 0 ? "none" : "not at its beginning";
+    };
+    EXPECT_EQ(refusalOf(std::string(40'000, '\n') + "a"), "none");
+    EXPECT_EQ(refusalOf(std::string(40'000, '\n')), "it is empty");
+    EXPECT_EQ(refusalOf(std::string("a\0,\0", 4)), "it holds zeros, so it is no text; save the draws as CSV");
 }
 
 TEST(DelimiterNamed, TakesAWordOrTheCharacterItself) {

@@ -101,8 +101,8 @@ RC_GTEST_PROP(CsvOfDraws, AnyDrawsOfAnyGameComeBackByAnImport, ()) {
     const Draws draws = AnyDraws(rules);
     RC_PRE(!draws.empty());
     std::istringstream csv(CsvOfDraws(rules, draws));
-    const FileForm form = RecognisedForm(csv, {}, TotalPicksOf(rules));
-    RC_ASSERT(form.hasHeader);
+    const FileForm form = RecognisedForm(csv, {}, rules);
+    RC_ASSERT(form.recordsAbove == 1);
     const ImportedDraws imported = ImportDraws(csv, form, rules, 32'767);
     RC_ASSERT(imported.faults.Count() == 0);
     RC_ASSERT(imported.draws == draws);

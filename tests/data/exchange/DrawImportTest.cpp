@@ -17,7 +17,7 @@ const GameRules twoOf49{.mainPickCount = 2, .mainLow = 1, .mainHigh = 49};
 
 ImportedDraws Import(const std::string& bytes) {
     std::istringstream stream(bytes);
-    return ImportDraws(stream, RecognisedForm(stream, {}, 2), twoOf49, 9999);
+    return ImportDraws(stream, RecognisedForm(stream, {}, twoOf49), twoOf49, 9999);
 }
 
 Faults FaultsOf(const ImportedDraws& imported) {

@@ -72,5 +72,13 @@ TEST(DrawsOnFileTest, AGameWithoutAFileHasNoDraws) {
     EXPECT_EQ(ReadDraws(directory.Path(), game).draws, (std::vector<DrawOnFile>{{30, {4, 5}}}));
 }
 
+TEST(DrawsOnFileTest, WhatIsNoPickOfADrawIsCounted) {
+    const std::string rows = Padded("10-26-2002") + Padded("") + Padded("1000  1  2") + Padded("x001  1  2") +
+                             Padded("1002  1  2  3") + Padded("1003  1  2                       0") + Padded("     7");
+    EXPECT_EQ(BesideDrawsOf(rows, 2), (BesideDraws{.recordsWithoutDate = 2, .drawsWithMorePicks = 2}));
+    EXPECT_EQ(BesideDrawsOf(rows, 10), (BesideDraws{.recordsWithoutDate = 2, .drawsWithMorePicks = 0}));
+    EXPECT_EQ(BesideDrawsOf("", 2), BesideDraws{});
+}
+
 }  // namespace
 }  // namespace ballhaven::data
