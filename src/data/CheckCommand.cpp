@@ -2,6 +2,7 @@
 
 #include "data/checks/FolderCheck.h"
 #include "data/checks/LeftOvers.h"
+#include "data/folder/CountText.h"
 #include "data/folder/Refusal.h"
 #include "data/folder/WorkFolder.h"
 #include "platform/files/FileSystem.h"
@@ -19,10 +20,6 @@ using Findings = std::vector<Finding>;
 
 auto CountOf(const Findings& findings, Remedy remedy) {
     return std::ranges::count(findings, remedy, &Finding::remedy);
-}
-
-std::string CountText(std::ptrdiff_t count, const std::string& thing) {
-    return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
 
 /// Lists the findings with one remedy, each behind a word.

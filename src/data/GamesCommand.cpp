@@ -1,5 +1,6 @@
 #include "data/GamesCommand.h"
 
+#include "data/folder/CountText.h"
 #include "data/folder/DrawsOnFile.h"
 #include "data/folder/GamesOnFile.h"
 #include "data/folder/IsoDate.h"
@@ -60,8 +61,7 @@ std::string DrawsText(const std::vector<DrawOnFile>& draws) {
         return "no draws";
     }
     const auto [first, last] = std::ranges::minmax(draws, {}, &DrawOnFile::date);
-    return std::to_string(draws.size()) + (draws.size() == 1 ? " draw, " : " draws, ") + IsoDate(first.date) + " to " +
-           IsoDate(last.date);
+    return CountText(std::ssize(draws), "draw") + ", " + IsoDate(first.date) + " to " + IsoDate(last.date);
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include "data/checks/GameTableCheck.h"
 
+#include "data/folder/ShownText.h"
 #include "data/folder/TableOnFile.h"
 #include "history/DrawRecord.h"
-#include "platform/files/CodePage.h"
 #include "state/AppState.h"
 #include "state/GameRecord.h"
 #include "state/GameRules.h"
@@ -120,7 +120,7 @@ class TableCheck {
     }
 
     [[nodiscard]] std::string SubjectOf(int slot) const {
-        return "slot " + std::to_string(slot) + ", " + platform::ToUtf8(modUTILS::Trimmed(GameName(record)));
+        return "slot " + std::to_string(slot) + ", " + ShownWindows1252(modUTILS::Trimmed(GameName(record)));
     }
 
     template <typename Columns>

@@ -1,7 +1,7 @@
 #include "data/exchange/DateForm.h"
 
-#include "data/exchange/TextSource.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/ShownText.h"
 #include "state/modUTILS.h"
 
 #include <algorithm>
@@ -102,16 +102,23 @@ std::optional<Part> CutPart(std::string_view& text) {
     return place < monthNames.size() ? std::optional(Part{static_cast<int>(place) + 1, 0}) : std::nullopt;
 }
 
+/// Cuts off an English weekday, or what can be the short name of one in any language.
 void CutWeekday(std::string_view& text) {
     std::string_view rest = text;
-    if (PlaceOf(CutRun(rest, IsLetter), weekdayNames) < weekdayNames.size()) {
-        CutRun(rest, IsSeparator);
+    const std::string_view word = CutRun(rest, IsLetter);
+    const bool isDivided = !CutRun(rest, IsSeparator).empty();
+    const bool isShort =
+        !word.empty() && word.size() <= shortNameLength && PlaceOf(word, monthNames) == monthNames.size();
+    if ((isShort && isDivided) || PlaceOf(word, weekdayNames) < weekdayNames.size()) {
         text = rest;
     }
 }
 
-/// Whether nothing follows a date but blanks or a time of day.
+/// Whether nothing follows a date but a point, blanks or a time of day.
 bool EndsDate(std::string_view rest) {
+    if (rest.starts_with('.')) {
+        rest.remove_prefix(1);
+    }
     if (rest.find_first_not_of(' ') == std::string_view::npos) {
         return true;
     }

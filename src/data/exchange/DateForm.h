@@ -19,8 +19,8 @@ enum class DateOrder { monthFirst, dayFirst, yearFirst };
 
 /// The date that a text holds; it may be none of the calendar, as 31 February. None where the text is no date in the
 /// order. Its parts are divided by hyphens, strokes, points or blanks, and the year has four digits. A year that stands
-/// first (20110521 too) and a month by its English name tell themselves, whatever the order. A weekday before the date
-/// and a time of day behind it are passed over.
+/// first (20110521 too) and a month by its English name tell themselves, whatever the order. A weekday before the date,
+/// English or of three letters at most, and a point and a time of day behind it are passed over.
 [[nodiscard]] std::optional<std::chrono::year_month_day> DateIn(std::string_view text, DateOrder order);
 
 /// The days from 1 January 1984 to a date of the calendar.

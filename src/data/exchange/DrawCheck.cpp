@@ -1,7 +1,7 @@
 #include "data/exchange/DrawCheck.h"
 
-#include "data/exchange/TextSource.h"
 #include "data/folder/IsoDate.h"
+#include "data/folder/ShownText.h"
 #include "state/AppState.h"
 #include "state/PickText.h"
 

@@ -1,7 +1,8 @@
 #include "data/exchange/DrawColumns.h"
 
-#include "data/exchange/TextSource.h"
+#include "data/folder/CountText.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/ShownText.h"
 #include "state/modUTILS.h"
 
 #include <algorithm>
@@ -35,7 +36,8 @@ bool IsNumber(std::string_view text) {
 bool IsNumeric(std::string_view entry) {
     const std::size_t hyphen = entry.find('-');
     return hyphen == std::string_view::npos ? IsNumber(entry)
-                                            : IsNumber(entry.substr(0, hyphen)) && IsNumber(entry.substr(hyphen + 1));
+                                            : IsNumber(modUTILS::Trimmed(entry.substr(0, hyphen))) &&
+                                                  IsNumber(modUTILS::Trimmed(entry.substr(hyphen + 1)));
 }
 
 void AppendNumbered(std::vector<std::size_t>& places, const std::string& entry) {
@@ -76,7 +78,7 @@ std::size_t PlaceNamed(const std::string& name, const Fields& header) {
 }
 
 std::string Counted(std::size_t picks) {
-    return "a date and " + std::to_string(picks) + (picks == 1 ? " pick" : " picks");
+    return "a date and " + CountText(static_cast<std::int64_t>(picks), "pick");
 }
 
 }  // namespace
@@ -115,7 +117,7 @@ DrawColumns ChosenColumns(std::string_view choice, int picks, const Fields& head
 std::string FaultOfWidth(const Fields& fields, const DrawColumns& columns) {
     const std::size_t needed = std::ranges::max(columns.places) + 1;
     if (fields.size() < needed) {
-        return "it has " + std::to_string(fields.size()) + (fields.size() == 1 ? " field" : " fields") + " where " +
+        return "it has " + CountText(std::ssize(fields), "field") + " where " +
                (columns.passesOthers ? "column " + std::to_string(needed) + " is chosen"
                                      : Counted(needed - 1) + " are " + std::to_string(needed));
     }

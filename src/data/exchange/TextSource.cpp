@@ -10,7 +10,6 @@ namespace ballhaven::data {
 namespace {
 
 constexpr std::size_t chunkSize = 16'384;
-constexpr std::size_t longestQuote = 40;
 
 constexpr std::string_view markOfUtf8 = "\xEF\xBB\xBF";
 constexpr std::string_view markOfUtf16Little = "\xFF\xFE";
@@ -24,69 +23,6 @@ bool IsFirstSurrogate(char16_t unit) {
 
 bool IsSecondSurrogate(char16_t unit) {
     return 0xDC00 <= unit && unit <= 0xDFFF;
-}
-
-void AppendUtf8(std::string& text, char32_t character) {
-    const auto byte = [&text](char32_t value) { text += static_cast<char>(static_cast<unsigned char>(value)); };
-    if (character < 0x80) {
-        byte(character);
-    } else if (character < 0x800) {
-        byte(0xC0 | character >> 6U);
-        byte(0x80 | (character & 0x3F));
-    } else if (character < 0x10000) {
-        byte(0xE0 | character >> 12U);
-        byte(0x80 | (character >> 6U & 0x3F));
-        byte(0x80 | (character & 0x3F));
-    } else {
-        byte(0xF0 | character >> 18U);
-        byte(0x80 | (character >> 12U & 0x3F));
-        byte(0x80 | (character >> 6U & 0x3F));
-        byte(0x80 | (character & 0x3F));
-    }
-}
-
-/// Bytes that follow the first one of a character of UTF-8; none where no character begins so.
-int BytesBehind(unsigned char first) {
-    if (first < 0x80) {
-        return 0;
-    }
-    if (0xC2 <= first && first <= 0xDF) {
-        return 1;
-    }
-    if (0xE0 <= first && first <= 0xEF) {
-        return 2;
-    }
-    return 0xF0 <= first && first <= 0xF4 ? 3 : -1;
-}
-
-bool IsUtf8(std::string_view text) {
-    for (std::size_t place = 0; place < text.size();) {
-        const int behind = BytesBehind(static_cast<unsigned char>(text[place++]));
-        if (behind < 0) {
-            return false;
-        }
-        for (int i = 0; i < behind; ++i, ++place) {
-            if (place == text.size() || (static_cast<unsigned char>(text[place]) & 0xC0U) != 0x80) {
-                return false;
-            }
-        }
-    }
-    return true;
-}
-
-/// Control codes, those of one byte and those that two bytes of UTF-8 make.
-std::string WithoutControls(std::string_view text) {
-    std::string shown;
-    for (std::size_t place = 0; place < text.size(); ++place) {
-        const auto byte = static_cast<unsigned char>(text[place]);
-        const bool isLongControl =
-            byte == 0xC2 && place + 1 < text.size() && static_cast<unsigned char>(text[place + 1]) < 0xA0;
-        if (isLongControl) {
-            ++place;
-        }
-        shown += byte < 0x20 || byte == 0x7F || isLongControl ? '?' : text[place];
-    }
-    return shown;
 }
 
 }  // namespace
@@ -160,32 +96,16 @@ void TextSource::Convert(char16_t unit) {
         const char16_t first = firstSurrogate;
         firstSurrogate = 0;
         if (IsSecondSurrogate(unit)) {
-            AppendUtf8(converted, 0x10000 + ((first - 0xD800U) << 10U) + (unit - 0xDC00U));
+            platform::AppendUtf8(converted, 0x10000 + ((first - 0xD800U) << 10U) + (unit - 0xDC00U));
             return;
         }
-        AppendUtf8(converted, replacement);
+        platform::AppendUtf8(converted, replacement);
     }
     if (IsFirstSurrogate(unit)) {
         firstSurrogate = unit;
     } else {
-        AppendUtf8(converted, IsSecondSurrogate(unit) ? replacement : unit);
+        platform::AppendUtf8(converted, IsSecondSurrogate(unit) ? replacement : unit);
     }
-}
-
-std::string ShownText(std::string_view field) {
-    if (IsUtf8(field)) {
-        return WithoutControls(field);
-    }
-    std::string text;
-    for (const char each : field) {
-        AppendUtf8(text, platform::CharacterOfByte(static_cast<unsigned char>(each)));
-    }
-    return WithoutControls(text);
-}
-
-std::string Quoted(std::string_view field) {
-    std::string shown = ShownText(field.substr(0, longestQuote));
-    return "\"" + shown + (field.size() > longestQuote ? "...\"" : "\"");
 }
 
 }  // namespace ballhaven::data

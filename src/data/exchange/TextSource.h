@@ -33,11 +33,4 @@ class TextSource {
     char16_t firstSurrogate = 0;  ///< of a pair whose second is still to come
 };
 
-/// A field's text for a message or a comparison: as it is where it is UTF-8, else taken for Windows-1252. Characters
-/// that would move a terminal's cursor become "?".
-[[nodiscard]] std::string ShownText(std::string_view field);
-
-/// The same between quotes, cut to 40 bytes.
-[[nodiscard]] std::string Quoted(std::string_view field);
-
 }  // namespace ballhaven::data

@@ -2,6 +2,7 @@
 
 #include "data/folder/FolderFiles.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/ShownText.h"
 #include "platform/files/CodePage.h"
 #include "platform/files/FileSystem.h"
 #include "state/AppState.h"
@@ -56,7 +57,7 @@ const GameOnFile& GameOfName(const std::vector<GameOnFile>& games, const std::st
 }  // namespace
 
 std::string GameOnFile::Title() const {
-    return platform::ToUtf8(name);
+    return ShownWindows1252(name);
 }
 
 std::vector<GameOnFile> GamesOf(std::string_view tableContent) {

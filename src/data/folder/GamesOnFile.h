@@ -18,7 +18,7 @@ struct GameOnFile {
     GameRules rules;
     std::int16_t historySet = 0;  ///< 1000 stands for all
 
-    /// The name in UTF-8.
+    /// The name in UTF-8, as a terminal can show it.
     [[nodiscard]] std::string Title() const;
 };
 

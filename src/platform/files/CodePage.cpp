@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 
 namespace ballhaven::platform {
 
@@ -43,6 +42,25 @@ char16_t CharacterOfByte(unsigned char byte) {
     return IsOwn(byte) ? ownCharacters[static_cast<std::size_t>(byte - firstOwn)] : byte;
 }
 
+void AppendUtf8(std::string& text, char32_t character) {
+    const auto byte = [&text](char32_t value) { text += static_cast<char>(static_cast<unsigned char>(value)); };
+    if (character < 0x80) {
+        byte(character);
+    } else if (character < 0x800) {
+        byte(0xC0 | character >> 6U);
+        byte(0x80 | (character & 0x3F));
+    } else if (character < 0x10000) {
+        byte(0xE0 | character >> 12U);
+        byte(0x80 | (character >> 6U & 0x3F));
+        byte(0x80 | (character & 0x3F));
+    } else {
+        byte(0xF0 | character >> 18U);
+        byte(0x80 | (character >> 12U & 0x3F));
+        byte(0x80 | (character >> 6U & 0x3F));
+        byte(0x80 | (character & 0x3F));
+    }
+}
+
 std::u16string ToUtf16(std::string_view text) {
     std::u16string characters;
     characters.reserve(text.size());
@@ -53,8 +71,11 @@ std::u16string ToUtf16(std::string_view text) {
 }
 
 std::string ToUtf8(std::string_view text) {
-    const std::u8string bytes = std::filesystem::path(ToUtf16(text)).u8string();
-    return {bytes.begin(), bytes.end()};
+    std::string bytes;
+    for (const char each : text) {
+        AppendUtf8(bytes, CharacterOfByte(static_cast<unsigned char>(each)));
+    }
+    return bytes;
 }
 
 std::string FromUtf16(std::u16string_view text) {

@@ -9,6 +9,9 @@ namespace ballhaven::platform {
 /// the same number, so that every byte has a character of its own.
 [[nodiscard]] char16_t CharacterOfByte(unsigned char byte);
 
+/// Puts a character behind a text in UTF-8.
+void AppendUtf8(std::string& text, char32_t character);
+
 /// Text in Windows-1252 as UTF-16.
 [[nodiscard]] std::u16string ToUtf16(std::string_view text);
 

@@ -162,5 +162,16 @@ TEST(DateOrderFinder, TwoOrdersThatAreLeftAreAskedFor) {
               "--dates d.m.y or --dates m/d/y which it is");
 }
 
+TEST(DateIn, AShortWeekdayOfAnotherLanguageAndAPointAtTheEndArePassedOver) {
+    const auto expected = std::chrono::year{2012} / 1 / 23;
+    for (const char* text :
+         {"Mo. 23.01.2012", "lun 23/01/2012", "Mo., 23.01.2012", "23.01.2012.", "23.01.2012. 20:15", "20120123."}) {
+        EXPECT_EQ(DateIn(text, DateOrder::dayFirst), expected) << text;
+    }
+    for (const char* text : {"Mo23.01.2012", "Draw 23.01.2012", "23.01.2012..", "Mo Di 23.01.2012", "Mo."}) {
+        EXPECT_EQ(DateIn(text, DateOrder::dayFirst), std::nullopt) << text;
+    }
+}
+
 }  // namespace
 }  // namespace ballhaven::data

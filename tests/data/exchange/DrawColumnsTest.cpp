@@ -79,5 +79,11 @@ TEST(FaultOfWidth, BesideChosenColumnsOthersDoNotMatter) {
     EXPECT_EQ(FaultOfWidth({"1", "a", "b"}, chosen), "it has 3 fields where column 4 is chosen");
 }
 
+TEST(DrawColumns, BlanksMayStandAroundAHyphen) {
+    EXPECT_FALSE(NamesColumns("2,3 - 5"));
+    EXPECT_EQ(ChosenColumns("2, 3 - 5", 3, {}), (DrawColumns{{1, 2, 3, 4}, true}));
+    EXPECT_TRUE(NamesColumns("2,3 5"));
+}
+
 }  // namespace
 }  // namespace ballhaven::data

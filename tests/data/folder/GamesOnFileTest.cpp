@@ -56,6 +56,7 @@ TEST(GamesOnFileTest, SlotsThatTheTableLacksAreUnused) {
 
 TEST(GamesOnFileTest, ANameIsShownInUtf8) {
     EXPECT_EQ(GamesOf(TableOf({"Gl\xFC\x63k"}))[0].Title(), "Gl\xC3\xBC\x63k");
+    EXPECT_EQ(GamesOf(TableOf({"a\x1B[2J\x9D"}))[0].Title(), "a?[2J?") << "it moves no cursor";
 }
 
 TEST(GamesOnFileTest, AGameIsFoundByItsSlotOrItsNameInAnyCase) {
