@@ -1,6 +1,7 @@
 #include "data/exchange/DrawExport.h"
 
 #include "data/folder/IsoDate.h"
+#include "data/folder/Picks.h"
 #include "state/AppState.h"
 #include "state/PickText.h"
 
@@ -27,6 +28,11 @@ std::string PickColumnNames(const GameRules& rules) {
     return Names("main", TotalPicksOf(rules) - bonus) + Names("bonus", bonus);
 }
 
+std::string TextOfPick(int pick, int gameType) {
+    std::string text = pick == noPick ? std::string() : PickToText(pick, gameType);
+    return text.empty() ? "?" : text;
+}
+
 std::string CsvOfDraws(const GameRules& rules, std::vector<DrawOnFile> draws) {
     SortByDate(draws);
     std::string csv = "date" + PickColumnNames(rules) + "\n";
@@ -34,7 +40,7 @@ std::string CsvOfDraws(const GameRules& rules, std::vector<DrawOnFile> draws) {
         csv += IsoDate(draw.date);
         for (const std::int16_t pick : draw.picks) {
             csv += ",";
-            csv += pick < 0 ? std::string() : PickToText(pick, rules.gameType);
+            csv += pick < 0 ? std::string() : TextOfPick(pick, rules.gameType);
         }
         csv += "\n";
     }

@@ -12,8 +12,11 @@ namespace ballhaven::data {
 /// with a comma before each.
 [[nodiscard]] std::string PickColumnNames(const GameRules& rules);
 
+/// The text of a pick; "?" for a number that is no card of a game of cards.
+[[nodiscard]] std::string TextOfPick(int pick, int gameType);
+
 /// Draws as comma-separated values with a header, in ascending order of date: the date as year-month-day, the picks as
-/// numbers, in a card game as the texts of cards. An empty cell is an empty field.
+/// `TextOfPick` gives them. An empty cell is an empty field.
 [[nodiscard]] std::string CsvOfDraws(const GameRules& rules, std::vector<DrawOnFile> draws);
 
 }  // namespace ballhaven::data

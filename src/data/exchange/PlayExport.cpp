@@ -4,7 +4,6 @@
 #include "data/folder/Picks.h"
 #include "plays/PlayMethodCode.h"
 #include "plays/PlaySlips.h"
-#include "state/PickText.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +16,6 @@ namespace {
 
 using Slots = std::span<const std::int16_t>;
 
-constexpr std::string_view unknownPick = "?";
 constexpr std::array<std::string_view, 4> methodNames = {"by hand", "shuffle", "partial wheel", "full wheel"};
 
 std::string_view NameOfMethod(std::int16_t method) {
@@ -30,8 +28,7 @@ std::string TextOfSlot(const GameRules& rules, PickColumn list, std::int16_t slo
     if (slot < 0) {
         return {};
     }
-    const int pick = PickOfCell(rules, list, slot);
-    return pick == noPick ? std::string(unknownPick) : PickToText(pick, rules.gameType);
+    return TextOfPick(PickOfCell(rules, list, slot), rules.gameType);
 }
 
 /// The fields of one of the lists of a play.

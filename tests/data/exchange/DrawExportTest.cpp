@@ -39,6 +39,7 @@ TEST(CsvOfDraws, AnEmptyCellIsAnEmptyField) {
 TEST(CsvOfDraws, CardsAreTexts) {
     const GameRules cards{.gameType = 3, .mainPickCount = 3, .mainLow = 1, .mainHigh = 52};
     EXPECT_EQ(CsvOfDraws(cards, {{1, {1, 23, 52}}}), "date,main1,main2,main3\n1984-01-02,Ah,10c,Ks\n");
+    EXPECT_EQ(CsvOfDraws(cards, {{1, {0, 53, -1}}}), "date,main1,main2,main3\n1984-01-02,?,?,\n") << "no cards";
 }
 
 TEST(PickColumnNames, TellMainPicksFromBonusPicks) {
