@@ -109,7 +109,7 @@ class Commands {
         command.add_option("FILE", importing.file, "The file of draws: a date and picks in each line")
             ->type_name("")
             ->required();
-        AddChecked(command, "--delimiter", "comma, semicolon, tab or the character that divides the fields",
+        AddChecked(command, "--delimiter", "comma, semicolon, tab, blank or the character that divides the fields",
                    importing.form.delimiter, DelimiterNamed);
         AddChecked(command, "--dates", "The order of the dates: y-m-d, m/d/y or d.m.y", importing.form.dates,
                    OrderNamed);

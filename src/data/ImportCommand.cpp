@@ -3,6 +3,7 @@
 #include "data/exchange/CsvText.h"
 #include "data/exchange/DrawImport.h"
 #include "data/exchange/DrawMerge.h"
+#include "data/folder/CountText.h"
 #include "data/folder/DrawsOnFile.h"
 #include "data/folder/FolderFiles.h"
 #include "data/folder/GamesOnFile.h"
@@ -24,6 +25,7 @@ namespace ballhaven::data {
 namespace {
 
 constexpr std::size_t datesNamed = 20;
+constexpr int lastGameType = 5;
 
 /// A game of a folder as it stands before the import.
 struct Target {
@@ -32,14 +34,26 @@ struct Target {
     DrawsOnFile before;                  ///< with as many digits of its dates as the file is to have
 };
 
+/// What no game has, and rules out of a damaged record do; empty where they can be a game's.
+std::string DamageOf(const GameRules& rules) {
+    if (rules.gameType < 0 || rules.gameType > lastGameType) {
+        return "no known kind";
+    }
+    if (rules.mainPickCount < 1) {
+        return "no main pick in a draw";
+    }
+    return TotalPicksOf(rules) > mostPicksOfDraw ? "more than " + std::to_string(mostPicksOfDraw) + " picks in a draw"
+                                                 : "";
+}
+
 Target ReadTarget(const std::string& directory, const std::string& word) {
     const std::vector<GameOnFile> games = ReadGames(directory);
     Target target;
     target.game = FindGame(games, word);
     target.content = ReadFolderFile(directory, HistoryFileOf(target.game.slot));
-    if (TotalPicksOf(target.game.rules) > mostPicksOfDraw) {
-        throw Refusal(target.game.Title() + " has more than " + std::to_string(mostPicksOfDraw) +
-                      " picks in a draw, so its record is damaged. Look at it with ballhaven-data check.");
+    if (const std::string damage = DamageOf(target.game.rules); !damage.empty()) {
+        throw Refusal(target.game.Title() + " has " + damage +
+                      ", so its record is damaged. Look at it with ballhaven-data check.");
     }
     target.before = DrawsOf(target.content.value_or(""), TotalPicksOf(target.game.rules));
     if (IsMended(ReadFolderFile(directory, GameTableFile()).value_or(""))) {
@@ -52,17 +66,13 @@ std::ifstream Opened(const std::string& path) {
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(path, error);
     if (!error && std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-        throw Refusal(path + " is no file.");
+        throw Refusal(path + " is no file that can be read twice. Save the draws in one, and name that.");
     }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         throw Refusal(path + " cannot be opened: " + std::generic_category().message(errno) + ".");
     }
     return file;
-}
-
-std::string Count(std::int64_t number, const std::string& one) {
-    return std::to_string(number) + " " + one + (number == 1 ? "" : "s");
 }
 
 std::string Range(const std::vector<DrawOnFile>& draws) {
@@ -87,9 +97,9 @@ void RefuseForFaults(const std::string& path, const FaultList& faults, std::ostr
     }
     const auto others = faults.Count() - std::ssize(faults.First());
     if (others > 0) {
-        notes << path << ": and " << Count(others, "line") << " more\n";
+        notes << path << ": and " << CountText(others, "line") << " more\n";
     }
-    throw Refusal(path + " has " + Count(faults.Count(), "line") +
+    throw Refusal(path + " has " + CountText(faults.Count(), "line") +
                   " that cannot be taken. Nothing was changed: correct or remove them, and try again.");
 }
 
@@ -117,10 +127,10 @@ std::string AboveText(int records) {
 
 void TellOfFile(const ImportOptions& options, const ImportedFile& file, std::ostream& out) {
     out << options.file << " (" << NameOfDelimiter(file.form.delimiter) << AboveText(file.form.recordsAbove)
-        << ", dates " << NameOf(file.form.dates) << "): " << Count(std::ssize(file.content.draws), "draw")
+        << ", dates " << NameOf(file.form.dates) << "): " << CountText(std::ssize(file.content.draws), "draw")
         << Range(file.content.draws) << '\n';
     if (file.content.incomplete > 0) {
-        out << "  " << Count(file.content.incomplete, "draw") << " without all picks\n";
+        out << "  " << CountText(file.content.incomplete, "draw") << " without all picks\n";
     }
 }
 
@@ -129,17 +139,17 @@ void TellOfLoss(const Target& target, std::ostream& out) {
     const BesideDraws lost = BesideDrawsOf(target.content.value_or(""), TotalPicksOf(target.game.rules));
     const std::string wayOut = "; ballhaven-data check tells which\n";
     if (lost.recordsWithoutDate > 0) {
-        out << "  dropped, since no date can be read in it: " << Count(lost.recordsWithoutDate, "record") << wayOut;
+        out << "  dropped, since no date can be read in it: " << CountText(lost.recordsWithoutDate, "record") << wayOut;
     }
     if (lost.drawsWithMorePicks > 0) {
-        out << "  with more picks than the game draws, which are dropped: " << Count(lost.drawsWithMorePicks, "draw")
-            << '\n';
+        out << "  with more picks than the game draws, which are dropped: "
+            << CountText(lost.drawsWithMorePicks, "draw") << '\n';
     }
 }
 
 void TellOfMerge(const Target& target, const MergedDraws& merged, bool replaces, std::ostream& out) {
     out << "Slot " << target.game.slot << ", " << target.game.Title() << ": "
-        << Count(std::ssize(target.before.draws), "draw") << " before\n"
+        << CountText(std::ssize(target.before.draws), "draw") << " before\n"
         << "  new: " << merged.added << '\n';
     if (!merged.alike.empty()) {
         out << "  there already with the same picks: " << merged.alike.size() << " (" << Listed(merged.alike) << ")\n";
@@ -157,7 +167,7 @@ void TellOfMerge(const Target& target, const MergedDraws& merged, bool replaces,
         }
         out << '\n';
     }
-    out << "  then: " << Count(std::ssize(merged.draws), "draw") << Range(merged.draws) << '\n';
+    out << "  then: " << CountText(std::ssize(merged.draws), "draw") << Range(merged.draws) << '\n';
 }
 
 }  // namespace

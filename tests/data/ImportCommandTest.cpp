@@ -279,6 +279,13 @@ TEST_F(ImportCommandTest, TheFormCanBeGiven) {
         << notes.str();
 }
 
+TEST_F(ImportCommandTest, BlanksCanDivideTheFields) {
+    EXPECT_EQ(Import("1986-09-28  1  2  3\n1986-09-29 10 20  3\n", {"--delimiter", " ", "--apply"}), done)
+        << notes.str();
+    EXPECT_EQ(Told(out).substr(0, 34), "draws.csv (blank, dates y-m-d): 2 ");
+    EXPECT_EQ(Draws(), FileOf(Row("1001  1  2  3") + Row("1002 10 20  3")));
+}
+
 TEST_F(ImportCommandTest, AFileOfAnyEncodingComesIn) {
     const std::string text =
         "d\xE9"
@@ -324,7 +331,8 @@ TEST_F(ImportCommandTest, FilesThatAreNoneAreRefused) {
     EXPECT_EQ(Run("1", files / "missing.csv"), refused);
     EXPECT_EQ(Told(notes), "ballhaven-data: missing.csv cannot be opened: No such file or directory.\n");
     EXPECT_EQ(Run("1", files.Path()), refused);
-    EXPECT_EQ(Told(notes), "ballhaven-data:  is no file.\n");
+    EXPECT_EQ(Told(notes),
+              "ballhaven-data:  is no file that can be read twice. Save the draws in one, and name that.\n");
     EXPECT_EQ(Run("1", "/dev/zero"), refused);
     EXPECT_EQ(Import(""), refused);
     EXPECT_EQ(Import(std::string("PK\3\4\0\0", 6)), refused);
@@ -345,6 +353,23 @@ TEST_F(ImportCommandTest, AGameOfMorePicksThanItsFileHoldsIsRefused) {
               "ballhaven-data: Two and One has more than 10 picks in a draw, so its record is damaged. Look "
               "at it with ballhaven-data check.\n");
     EXPECT_FALSE(directory.Has("GAME01.CDB"));
+}
+
+TEST_F(ImportCommandTest, AGameOfADamagedRecordTakesNoDraws) {
+    std::string table = Table(false);
+    const std::size_t kind = table.find("/3/1/52/") + 1;
+    table[kind] = '9';
+    directory.Write("LOTTOSYS", table);
+    EXPECT_EQ(Import("1986-09-28,1,2\n", {"--apply"}, "2"), refused);
+    EXPECT_EQ(notes.str(),
+              "ballhaven-data: Two Cards has no known kind, so its record is damaged. Look at it with "
+              "ballhaven-data check.\n");
+    table = Table(false);
+    table.replace(table.find("/02/1/N") + 1, 2, "00");
+    directory.Write("LOTTOSYS", table);
+    EXPECT_EQ(Import("1986-09-28,1\n", {"--apply"}), refused);
+    EXPECT_NE(notes.str().find("Two and One has no main pick in a draw, so"), std::string::npos) << notes.str();
+    EXPECT_EQ(directory.Files(), (Files{{"LOTTOSYS", table}}));
 }
 
 TEST_F(ImportCommandTest, AFolderThatIsInUseIsLeftAlone) {

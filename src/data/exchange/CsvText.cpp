@@ -22,10 +22,45 @@ struct NamedDelimiter {
 };
 
 constexpr std::array<NamedDelimiter, 3> usualDelimiters = {{{',', "comma"}, {';', "semicolon"}, {'\t', "tab"}}};
+constexpr std::string_view nameOfBlank = "blank";
 constexpr int linesToJudgeBy = 20;
 
 bool IsLineEnd(char character) {
     return character == '\n' || character == '\r';
+}
+
+constexpr std::array<std::string_view, 2> fixedBlanks = {"\xC2\xA0", "\xE2\x80\xAF"};  // at which no line is broken
+constexpr char fixedBlankOfWindows1252 = '\xA0';
+
+bool IsAscii(char character) {
+    return static_cast<unsigned char>(character) < 0x80;
+}
+
+/// Length of the blank, one at which no line is broken, that a text begins with; 0 for none.
+std::size_t FixedBlankAtFront(std::string_view text) {
+    if (text.empty() || IsAscii(text.front())) {
+        return 0;
+    }
+    for (const std::string_view blank : fixedBlanks) {
+        if (text.starts_with(blank)) {
+            return blank.size();
+        }
+    }
+    return text.starts_with(fixedBlankOfWindows1252) ? 1 : 0;
+}
+
+/// The same for the one that it ends with.
+std::size_t FixedBlankAtEnd(std::string_view text) {
+    if (text.empty() || IsAscii(text.back())) {
+        return 0;
+    }
+    for (const std::string_view blank : fixedBlanks) {
+        if (text.ends_with(blank)) {
+            return blank.size();
+        }
+    }
+    // Behind any other byte it can be a part of a character of UTF-8.
+    return text.ends_with(fixedBlankOfWindows1252) && (text.size() == 1 || IsAscii(text[text.size() - 2])) ? 1 : 0;
 }
 
 /// How well a delimiter divides the first lines: how many of them have the same number of fields, two at least, and how
@@ -111,17 +146,28 @@ void CsvText::Keep(std::string_view piece) {
 }
 
 void CsvText::AddField(std::string_view field) {
-    while (!field.empty() && IsBlank(field.front())) {
-        field.remove_prefix(1);
+    while (const std::size_t length = BlankAtFront(field)) {
+        field.remove_prefix(length);
     }
-    while (!field.empty() && IsBlank(field.back())) {
-        field.remove_suffix(1);
+    while (const std::size_t length = BlankAtEnd(field)) {
+        field.remove_suffix(length);
     }
-    fields.push_back(field);
+    const bool isBesideADelimiter = field.empty() && delimiter == ' ';
+    if (!isBesideADelimiter) {
+        fields.push_back(field);
+    }
+}
+
+std::size_t CsvText::BlankAtFront(std::string_view field) const {
+    return !field.empty() && IsBlank(field.front()) ? 1 : FixedBlankAtFront(field);
+}
+
+std::size_t CsvText::BlankAtEnd(std::string_view field) const {
+    return !field.empty() && IsBlank(field.back()) ? 1 : FixedBlankAtEnd(field);
 }
 
 bool CsvText::IsBlank(char character) const {
-    return character == ' ' || (character == '\t' && delimiter != '\t');
+    return (character == ' ' || character == '\t') && character != delimiter;
 }
 
 bool CsvText::EndsField(char character) const {
@@ -245,7 +291,8 @@ char RecognisedDelimiter(std::istream& bytes) {
         throw Refusal(*bestRefused.refusal);
     }
     if (best.lines == 0) {
-        throw Refusal("no comma, semicolon or tab divides its lines into fields; name what does with --delimiter");
+        throw Refusal(
+            "no comma, semicolon or tab divides its lines into fields; name what does with --delimiter, such as blank");
     }
     return best.delimiter;
 }
@@ -255,6 +302,9 @@ std::optional<char> DelimiterNamed(std::string_view name) {
     if (usual != usualDelimiters.end()) {
         return usual->delimiter;
     }
+    if (name == nameOfBlank || name == " ") {
+        return ' ';
+    }
     constexpr std::string_view marks = "!#$%&'()*+,-./:;<=>?@[\\]^_`{|}~";
     return name == "\t" || (name.size() == 1 && marks.find(name.front()) != std::string_view::npos)
                ? std::optional(name.front())
@@ -262,6 +312,9 @@ std::optional<char> DelimiterNamed(std::string_view name) {
 }
 
 std::string NameOfDelimiter(char delimiter) {
+    if (delimiter == ' ') {
+        return std::string(nameOfBlank);
+    }
     const auto* const usual = std::ranges::find(usualDelimiters, delimiter, &NamedDelimiter::delimiter);
     return usual != usualDelimiters.end() ? std::string(usual->name) : std::string(1, delimiter);
 }

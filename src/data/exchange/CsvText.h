@@ -17,7 +17,8 @@ namespace ballhaven::data {
 /// over. No more than one record is ever in memory.
 class CsvText {
   public:
-    /// Reads from where the stream stands. The delimiter is no quote, blank or line end.
+    /// Reads from where the stream stands. The delimiter is no quote or line end. Where it is a blank,
+    /// several of them are one, and no field is empty.
     CsvText(std::istream& bytes, char fieldDelimiter) : source(bytes), delimiter(fieldDelimiter) {}
 
     /// Takes the next record; false at the end. Throws Refusal for a record of more than 64 KiB, a quote that never
@@ -36,6 +37,8 @@ class CsvText {
     char Take();
     void Keep(std::string_view piece);
     void AddField(std::string_view field);
+    [[nodiscard]] std::size_t BlankAtFront(std::string_view field) const;
+    [[nodiscard]] std::size_t BlankAtEnd(std::string_view field) const;
     [[nodiscard]] bool IsBlank(char character) const;
     [[nodiscard]] bool EndsField(char character) const;
 
@@ -65,8 +68,8 @@ inline constexpr std::string_view delimiterMark = "sep=";
 /// `CsvText` does.
 [[nodiscard]] char RecognisedDelimiter(std::istream& bytes);
 
-/// The delimiter with a name: "comma", "semicolon", "tab", or any character of ASCII itself but letters, digits,
-/// quotes, blanks and control codes. None for any other text.
+/// The delimiter with a name: "comma", "semicolon", "tab", "blank", or any character of ASCII itself but letters,
+/// digits, quotes and control codes. None for any other text.
 [[nodiscard]] std::optional<char> DelimiterNamed(std::string_view name);
 
 /// What a delimiter is called.

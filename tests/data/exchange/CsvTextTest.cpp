@@ -86,6 +86,18 @@ TEST(CsvText, BlanksAroundAFieldAreTakenOffUnlessTheyDivideFields) {
     EXPECT_EQ(RecordsOf("a\t\tb \n", '\t'), (Records{{"a", "", "b"}}));
 }
 
+TEST(CsvText, BlanksAtWhichNoLineIsBrokenAreTakenOffToo) {
+    EXPECT_EQ(RecordsOf("\xC2\xA0 1\xE2\x80\xAF,\xA0\x32\xA0,3 \xC2\xA0\n"), (Records{{"1", "2", "3"}}));
+    EXPECT_EQ(RecordsOf("d\xC3\xA0,\xE3\x81\xA0\n"), (Records{{"d\xC3\xA0", "\xE3\x81\xA0"}}))
+        << "the last byte of another character";
+    EXPECT_EQ(RecordsOf("\xA0,\xC2\xA0\n"), Records{});
+}
+
+TEST(CsvText, SeveralBlanksDivideFieldsAsOneDoes) {
+    EXPECT_EQ(RecordsOf(" 2011-05-21  1 2\t  3 \r\n\n  \n\"a b\" c\n", ' '),
+              (Records{{"2011-05-21", "1", "2", "3"}, {"a b", "c"}}));
+}
+
 TEST(CsvText, RecordsOfAllKindsMayFollowEachOther) {
     const std::string longOne(2000, 'x');
     EXPECT_EQ(RecordsOf("a,b\r\n\"c\",d\ne\rf\n" + longOne + ",g\n,h\n\ni"),
@@ -180,9 +192,12 @@ TEST(DelimiterNamed, TakesAWordOrTheCharacterItself) {
     EXPECT_EQ(DelimiterNamed("tab"), '\t');
     EXPECT_EQ(DelimiterNamed("\t"), '\t');
     EXPECT_EQ(DelimiterNamed("|"), '|');
-    for (const char* name : {"", "a", "7", " ", "\"", "\n", "\r", "||", "\xE9", "colon"}) {
+    for (const char* name : {"", "a", "7", "  ", "\"", "\n", "\r", "||", "\xE9", "colon"}) {
         EXPECT_EQ(DelimiterNamed(name), std::nullopt) << name;
     }
+    EXPECT_EQ(DelimiterNamed("blank"), ' ');
+    EXPECT_EQ(DelimiterNamed(" "), ' ');
+    EXPECT_EQ(NameOfDelimiter(' '), "blank");
     EXPECT_EQ(NameOfDelimiter('\t'), "tab");
     EXPECT_EQ(NameOfDelimiter('|'), "|");
 }
