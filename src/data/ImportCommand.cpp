@@ -87,8 +87,9 @@ std::string Listed(const std::vector<int>& dates) {
     return list + (dates.size() > datesNamed ? " and " + std::to_string(dates.size() - datesNamed) + " more" : "");
 }
 
-/// Tells the faults of a file, and refuses it for them.
-void RefuseForFaults(const std::string& path, const FaultList& faults, std::ostream& notes) {
+/// Tells the faults of a file, and refuses it for them. `canBeHeader` says that its first line was not taken for one,
+/// and that the user did not say what it is.
+void RefuseForFaults(const std::string& path, const FaultList& faults, bool canBeHeader, std::ostream& notes) {
     if (faults.Count() == 0) {
         return;
     }
@@ -100,7 +101,8 @@ void RefuseForFaults(const std::string& path, const FaultList& faults, std::ostr
         notes << path << ": and " << CountText(others, "line") << " more\n";
     }
     throw Refusal(path + " has " + CountText(faults.Count(), "line") +
-                  " that cannot be taken. Nothing was changed: correct or remove them, and try again.");
+                  " that cannot be taken. Nothing was changed: correct or remove them, and try again." +
+                  (canBeHeader && faults.First().front().line == 1 ? " If line 1 is a header, add --header." : ""));
 }
 
 struct ImportedFile {
@@ -175,7 +177,8 @@ void TellOfMerge(const Target& target, const MergedDraws& merged, bool replaces,
 std::string ImportFile(const WorkFolder& folder, const ImportOptions& options, const Console& console) {
     const Target target = ReadTarget(folder.Path(), options.game);
     ImportedFile file = ReadImportedFile(options, target);
-    RefuseForFaults(options.file, file.content.faults, console.notes);
+    const bool canBeHeader = file.form.recordsAbove == 0 && !options.form.header;
+    RefuseForFaults(options.file, file.content.faults, canBeHeader, console.notes);
     TellOfFile(options, file, console.out);
     const MergedDraws merged =
         Merged(target.game.rules, target.before.draws, std::move(file.content.draws), options.replaces);

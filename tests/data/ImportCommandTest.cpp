@@ -134,6 +134,12 @@ TEST_F(ImportCommandTest, DrawsThatAreInAreNoRefusalBecauseTheWordsAboutThemAreL
 TEST_F(ImportCommandTest, AFirstLineWithoutADateIsAFaultAndNoHeader) {
     EXPECT_EQ(Import(",1,2,3\n2010-01-30,1,2,3\n"), refused);
     EXPECT_NE(Told(notes).find("draws.csv, line 1: \"\" is no date"), std::string::npos) << notes.str();
+    const std::string numbered = "date,1,2,3\n2010-01-30,1,2,3\n";
+    EXPECT_EQ(Import(numbered), refused);
+    EXPECT_NE(notes.str().find(" and try again. If line 1 is a header, add --header.\n"), std::string::npos);
+    EXPECT_EQ(Import(numbered, {"--header"}), done);
+    EXPECT_EQ(Import("date,a,b,c\n2010-02-30,1,2,3\n"), refused);
+    EXPECT_EQ(notes.str().find("--header"), std::string::npos) << notes.str();
 }
 
 TEST_F(ImportCommandTest, TheExportOfAnEmptyGameChangesNothing) {
@@ -334,8 +340,16 @@ TEST_F(ImportCommandTest, FilesThatAreNoneAreRefused) {
     EXPECT_EQ(Told(notes),
               "ballhaven-data:  is no file that can be read twice. Save the draws in one, and name that.\n");
     EXPECT_EQ(Run("1", "/dev/zero"), refused);
+    EXPECT_EQ(Run("1", "/proc/self/mem"), refused);
+    EXPECT_EQ(notes.str(), "ballhaven-data: /proc/self/mem: it cannot be read to its end.\n");
     EXPECT_EQ(Import(""), refused);
-    EXPECT_EQ(Import(std::string("PK\3\4\0\0", 6)), refused);
+    EXPECT_EQ(Told(notes), "ballhaven-data: draws.csv: it is empty.\n");
+    for (const std::string& zeros : {std::string("PK\3\4\0\0", 6), std::string("1\0,\0", 4)}) {
+        EXPECT_EQ(Import(zeros), refused);
+        EXPECT_EQ(Told(notes), "ballhaven-data: draws.csv: it holds zeros, so it is no text; save the draws as CSV.\n");
+    }
+    EXPECT_EQ(Import("1986-09-28,1,2,3\n1986-09-29,\"4,5,6\n"), refused);
+    EXPECT_EQ(Told(notes), "ballhaven-data: draws.csv: the quote that opens in line 2 never closes.\n");
     EXPECT_EQ(directory.Files(), (Files{{"LOTTOSYS", Table(false)}}));
 }
 
