@@ -40,6 +40,10 @@ TEST(QuirkHotOverflow1, WholeFiguresAreAsLargeAsTheyAre) {
     EXPECT_EQ(HotPercentage(3, 2, FigureRange::Whole), 66);
 }
 
+TEST(HotPercentage, OfNoGamesIsNoFailureWhereFiguresAreWhole) {
+    EXPECT_EQ(HotPercentage(0, 0, FigureRange::Whole), 0);
+}
+
 TEST(QuirkHotOverflow1, FiguresAreWholeInAMendedFolderAndNarrowInAnother) {
     EXPECT_EQ(FiguresOfFolder(), FigureRange::Narrow);
     support::MendFolder();
