@@ -50,21 +50,39 @@ for each in "TERM nothing" "HUP nothing" "INT nothing" "TERM calendar" "HUP dial
     has_pick $pick || fail "SIG$signal over the $what has lost a pick"
 done
 
+# A second start, which must tell within three seconds that the folder is in use. What the system takes to start a program
+# at all is not counted, and of three attempts one is enough: a machine that is busy elsewhere may hold one up.
+now() { date +%s%N; }
+tells_in_time() { # windows with its box, name of the picture
+    local attempt begin box time
+    for attempt in 1 2 3; do
+        begin=$(now)
+        "$folder/ballhaven" &
+        second=$!
+        until_true "a box tells of it" has_windows "$1"
+        time=$((($(now) - begin - start_time) / 1000000))
+        box=$(windows | grep -vx "${window:-none}" | tail -n 1)
+        picture "$2" "$box"
+        xdotool windowclose "$box"
+        kill "$second" 2>/dev/null
+        until_true "the second start ends" is_gone "$second"
+        has_windows $(($1 - 1)) || fail "a second window is open"
+        ((time <= 3000)) && return
+    done
+    fail "the box came after $time milliseconds"
+}
+
 echo "== a lock that an instance holds which hangs"
-start
-kill -STOP "$program"
-begin=$SECONDS
+begin=$(now)
 "$folder/ballhaven" &
-second=$!
-until_true "a box tells of it" has_windows 2
-((SECONDS - begin <= 4)) || fail "the box came after $((SECONDS - begin)) seconds"
-box=$(windows | grep -vx "$window")
-picture hanging "$box"
-xdotool windowclose "$box"
-kill "$second" 2>/dev/null
-until_true "the second start ends" is_gone "$second"
+program=$!
+until_true "the window stands" main_window
+start_time=$(($(now) - begin))
+window=$(main_window)
+settle
+kill -STOP "$program"
+tells_in_time 2 hanging
 kill -CONT "$program"
-[[ $(grep -c . <<<"$(windows)") == 1 ]] || fail "a second window is open"
 
 echo "== a thousand idle visitors"
 handles=$(find "/proc/$program/fd" -mindepth 1 | wc -l)
@@ -102,18 +120,37 @@ echo "== a lock that somebody holds who is no instance"
 flock --exclusive "$folder" sleep 60 &
 holder=$!
 until_true "the folder is locked" bash -c "! flock --nonblock '$folder' true"
-begin=$SECONDS
-"$folder/ballhaven" &
-second=$!
-until_true "a box tells of it" has_windows 1
-((SECONDS - begin <= 4)) || fail "the box came after $((SECONDS - begin)) seconds"
-picture locked "$(windows)"
-keys Return
-until_true "the second start ends" is_gone "$second"
+window=none
+tells_in_time 1 locked
 kill -- -$holder
 wait $holder 2>/dev/null
 
-echo "== a limit on the length of files, and a broken pipe"
+echo "== another user's instance"
+if [[ $EUID == 0 ]]; then
+    other=65534
+    mkdir "$work/other runtime"
+    chown $other "$work/other runtime"
+    chmod 700 "$work/other runtime"
+    chmod 711 "$work"
+    chmod -R a+rwX "$folder"
+    XDG_RUNTIME_DIR="$work/other runtime" HOME="$work/other runtime" \
+        setpriv --reuid=$other --regid=$other --clear-groups "$folder/ballhaven" &
+    program=$!
+    until_true "the other user's window stands" main_window
+    window=$(main_window)
+    settle
+    tells_in_time 2 other-user
+    kill -TERM "$program"
+    ended "SIGTERM of the other user's instance" 0
+else
+    echo "left out: only root can start it"
+fi
+
+echo "== a limit on the length of files, and words to a broken pipe"
+export QT_LOGGING_RULES='qt.*=true'
+start 2>"$work/words"
+close_it
+[[ -s $work/words ]] || fail "the toolkit has no words for the pipe"
 cp "$folder/GAME01.CDB" "$work/before.CDB"
 (
     ulimit -f 1
@@ -123,6 +160,7 @@ program=$!
 until_true "the window stands" main_window
 window=$(main_window)
 settle
+unset QT_LOGGING_RULES
 type_pick 36
 keys alt+F4
 until_true "a box names the failure" has_other
