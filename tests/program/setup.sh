@@ -28,8 +28,29 @@ save_dialog() {
     until_true "the game dialog closes" has_no_other
 }
 
-echo "== a first start"
+middle() { # of a window, in pixels
+    eval "$(xdotool getwindowgeometry --shell "$1")"
+    echo $((X + WIDTH / 2)) $((Y + HEIGHT / 2))
+}
+# A box stands in the middle of the main window, but for frames, title bars and menus.
+stands_over_window() {
+    local box window_x window_y box_x box_y
+    box=$(others | tail -n 1)
+    read -r window_x window_y <<<"$(middle "$window")"
+    read -r box_x box_y <<<"$(middle "$box")"
+    (((box_x - window_x) ** 2 <= 25 ** 2 && (box_y - window_y) ** 2 <= 25 ** 2)) ||
+        fail "the middle of the box is at $box_x,$box_y, and that of the window at $window_x,$window_y"
+}
+
+echo "== a first start, beside a window of somebody else's, so that the desktop moves ours away from the corner"
+xlogo -geometry 900x500+0+0 2>/dev/null &
+neighbour=$!
+until_true "the other window stands" has_title xlogo
 start
+until_true "a box asks" has_other
+settle
+stands_over_window
+kill $neighbour
 answer first-start
 wait_for_dialog
 xdotool type "Six of 49"
