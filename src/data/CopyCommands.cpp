@@ -20,7 +20,7 @@ std::string ReadZip(const std::string& path) {
     try {
         head = platform::ReadHeadIfThere(path, longestZip);
     } catch (const std::system_error& error) {
-        throw Refusal(path + " cannot be read: " + error.code().message() + ".");
+        throw Refusal(path + " cannot be read: " + WhyUnreadable(path, error) + ".");
     }
     if (!head) {
         throw Refusal("There is no file " + path + ".");

@@ -27,6 +27,21 @@ std::string PlaceOf(int first, int width) {
                       : "columns " + std::to_string(first) + "-" + std::to_string(first + width - 1);
 }
 
+std::string BytesText(std::int64_t count) {
+    return std::to_string(count) + (count == 1 ? " byte" : " bytes");
+}
+
+/// What is left of a record that the end of its file has cut.
+std::string_view TornRecord(const FoundFile& found) {
+    const std::string_view bytes = found.bytes;
+    return bytes.substr(bytes.size() - bytes.size() % static_cast<std::size_t>(found.form.recordLength));
+}
+
+std::string EndText(const FoundFile& found) {
+    return "ends after " + BytesText(found.length) + ", in record " +
+           std::to_string(found.length / found.form.recordLength + 1) + " of " + std::to_string(found.form.recordCount);
+}
+
 std::string PlaceOf(const NamedField& field) {
     return PlaceOf(field.columns.first, field.columns.width) + " (" + field.name + ")";
 }
@@ -94,6 +109,11 @@ void Examination::Keep(std::string place, std::string what, std::string meaning,
     findings.push_back({form.name, current, subject, std::move(place), std::move(what), std::move(meaning), remedy});
 }
 
+void Examination::RemarkField(const NamedField& field, const std::string& wrong, const std::string& meaning) {
+    Keep(PlaceOf(field), "holds " + QuotedBytes(Text(current, field.columns)) + ", which is " + wrong, meaning,
+         Remedy::None);
+}
+
 void Examination::LeaveField(const NamedField& field, const std::string& wrong, const std::string& meaning) {
     Keep(PlaceOf(field), "holds " + QuotedBytes(Text(current, field.columns)) + ", which is " + wrong, meaning,
          Remedy::User);
@@ -133,19 +153,41 @@ void Examination::MendUnused(const std::vector<bool>& usedColumns, StrayDigits d
     PutRecord(current, record);
 }
 
-bool Examination::IsText(const std::string& meaningOfNoText) {
-    switch (BytesOf(Record(current))) {
-        case Bytes::Text:
-            return true;
-        case Bytes::Zeros:
-            Mend("holds zero bytes and no text", "Nothing is left of what stood there, if anything did.");
-            PutRecord(current, "");
-            return false;
-        case Bytes::NoText:
-            break;
+void Examination::MendZeros() {
+    const auto holdsZeros = [this](int record) {
+        return record <= form.recordCount && BytesOf(Record(record)) == Bytes::Zeros;
+    };
+    for (int record = 1; record <= form.recordCount; ++record) {
+        const int first = record;
+        for (; holdsZeros(record); ++record) {
+            PutRecord(record, "");
+        }
+        if (record > first) {
+            EndRecords();
+            Mend("holds zero bytes and no text in " + RecordsText(first, record - 1),
+                 "Nothing is left of what stood there, if anything did.");
+        }
     }
-    Leave("holds bytes that are no text: " + QuotedBytes(Record(current)), meaningOfNoText);
+}
+
+void Examination::MendZeroRecord(std::string_view right, const std::string& meaning) {
+    if (BytesOf(Record(current)) == Bytes::Zeros) {
+        Mend("holds zero bytes and no text", meaning);
+        PutRecord(current, right);
+    }
+}
+
+bool Examination::IsText(const std::string& meaningOfNoText) {
+    const std::string record = Record(current);
+    if (BytesOf(record) == Bytes::Text) {
+        return true;
+    }
+    Leave("holds bytes that are no text: " + QuotedBytes(record), meaningOfNoText);
     return false;
+}
+
+std::ptrdiff_t Examination::LeftCount() const {
+    return std::ranges::count(findings, Remedy::User, &Finding::remedy);
 }
 
 std::vector<bool> ColumnsOf(const std::vector<RecordField>& fields, int recordLength) {
@@ -154,6 +196,11 @@ std::vector<bool> ColumnsOf(const std::vector<RecordField>& fields, int recordLe
         std::fill_n(used.begin() + field.first - 1, field.width, true);
     }
     return used;
+}
+
+std::string RecordsText(int first, int last) {
+    return first == last ? "record " + std::to_string(first)
+                         : "records " + std::to_string(first) + " to " + std::to_string(last);
 }
 
 bool CheckLength(Examination& examination, const FoundFile& found, int olderRecordCount) {
@@ -166,6 +213,12 @@ bool CheckLength(Examination& examination, const FoundFile& found, int olderReco
                            "Ballhaven brings it to the present form when its game is shown.");
         return true;
     }
+    if (const std::string_view torn = TornRecord(found); found.length < found.form.FormatLength() && !IsBlank(torn)) {
+        examination.Leave(EndText(found) + ", which was cut in the middle: " + QuotedBytes(torn),
+                          "The file was not looked at any further. Restore a copy; or look at the record in Ballhaven, "
+                          "put it right, save it, and check again.");
+        return false;
+    }
     CheckEnd(examination, found, "Blanks take the place of what is missing; a copy may still have it.");
     return true;
 }
@@ -173,12 +226,9 @@ bool CheckLength(Examination& examination, const FoundFile& found, int olderReco
 void CheckEnd(Examination& examination, const FoundFile& found, const std::string& meaningOfCut) {
     const std::int64_t whole = found.form.FormatLength();
     if (found.length < whole) {
-        examination.Mend("ends after " + std::to_string(found.length) + " bytes, in record " +
-                             std::to_string(found.length / found.form.recordLength + 1) + " of " +
-                             std::to_string(found.form.recordCount),
-                         meaningOfCut);
+        examination.Mend(EndText(found), meaningOfCut);
     } else if (found.length > whole) {
-        examination.Remark("goes on for " + std::to_string(found.length - whole) + " bytes behind its last record",
+        examination.Remark("goes on for " + BytesText(found.length - whole) + " behind its last record",
                            "Ballhaven neither reads nor changes them.");
     }
 }

@@ -53,6 +53,7 @@ class Examination {
     explicit Examination(const FoundFile& found);
 
     [[nodiscard]] std::string Record(int record) const;
+    [[nodiscard]] int CurrentRecord() const { return current; }
     [[nodiscard]] std::string Text(int record, RecordField field) const { return FieldText(Record(record), field); }
 
     /// What the findings in a record say that it is of.
@@ -63,6 +64,7 @@ class Examination {
     /// Each keeps a finding about the record at hand.
     void Remark(const std::string& what, const std::string& meaning) { Keep("", what, meaning, Remedy::None); }
     void Leave(const std::string& what, const std::string& meaning) { Keep("", what, meaning, Remedy::User); }
+    void RemarkField(const NamedField& field, const std::string& wrong, const std::string& meaning);
     void LeaveField(const NamedField& field, const std::string& wrong, const std::string& meaning);
     void Mend(const std::string& what, const std::string& meaning) { Keep("", what, meaning, Remedy::Mend); }
 
@@ -73,11 +75,19 @@ class Examination {
     /// record with one among them stays as it is.
     void MendUnused(const std::vector<bool>& usedColumns, StrayDigits digits);
 
-    /// Blanks a record of zero bytes, and keeps a finding about one that is no text otherwise. Returns whether the
-    /// record is text and can be looked through.
+    /// Blanks the records of zero bytes, with a finding for each run of them.
+    void MendZeros();
+
+    /// Puts a text in the place of the record at hand where that holds zero bytes alone, and keeps a finding.
+    void MendZeroRecord(std::string_view right, const std::string& meaning);
+
+    /// Whether the record at hand is text and can be looked through. Keeps a finding where it is none.
     [[nodiscard]] bool IsText(const std::string& meaningOfNoText);
 
     void PutRecord(int record, std::string_view text);
+
+    /// The findings so far that the user has to put right.
+    [[nodiscard]] std::ptrdiff_t LeftCount() const;
 
     [[nodiscard]] CheckedFile Result() && { return {std::move(findings), std::move(content)}; }
 
@@ -94,8 +104,12 @@ class Examination {
 /// Which columns of a record of a length are used by fields, by column - 1.
 [[nodiscard]] std::vector<bool> ColumnsOf(const std::vector<RecordField>& fields, int recordLength);
 
+/// Such as "record 7" or "records 7 to 9".
+[[nodiscard]] std::string RecordsText(int first, int last);
+
 /// Keeps what is to be said of the length of a file: empty, of an older form with fewer records, cut, or longer than
-/// its form. Returns whether there is anything to look through.
+/// its form. Returns whether it is to be looked through; one that ends in the middle of a record stays as it is, since
+/// nobody can tell what that record held.
 [[nodiscard]] bool CheckLength(Examination& examination, const FoundFile& found, int olderRecordCount);
 
 /// Keeps a finding about a cut file, and a remark about one that goes on behind its last record.

@@ -4,12 +4,10 @@
 #include "data/checks/HistoryFileCheck.h"
 #include "data/checks/LeftOvers.h"
 #include "data/checks/PickFilesCheck.h"
-#include "data/folder/GamesOnFile.h"
 #include "data/folder/Refusal.h"
-#include "data/folder/TableOnFile.h"
+#include "history/DrawRecord.h"
 #include "platform/files/DurableFile.h"
 #include "platform/files/Paths.h"
-#include "state/MendedFolder.h"
 
 #include <algorithm>
 #include <iterator>
@@ -19,6 +17,15 @@ namespace ballhaven::data {
 
 namespace {
 
+/// What the user can do about a file that cannot be read.
+std::string WayOut(const FolderFile& file) {
+    const bool isOfAllGames = file.name == GameTableFile().name || file.name == ChosenPicksFile().name;
+    return isOfAllGames ? "Ballhaven ends with a message when it starts. Make it a file that can be read, or restore a "
+                          "copy."
+                        : "Ballhaven ends with a message where it needs it; \"ballhaven-data set --shown\" chooses "
+                          "another game.";
+}
+
 class FolderExamination {
   public:
     explicit FolderExamination(const std::string& folder) : directory(platform::WithSeparator(folder)) {}
@@ -26,14 +33,14 @@ class FolderExamination {
     CheckedFolder Run() {
         CheckLeftOvers();
         CheckTable();
-        for (const GameOnFile& game : games) {
-            Check(HistoryFileOf(game.slot),
-                  [&](const FoundFile& found) { return CheckHistoryFile(found, game, folderIsMended); });
+        for (const CheckedSlot& slot : slots) {
+            Check(HistoryFileOf(slot.slot),
+                  [&](const FoundFile& found) { return CheckHistoryFile(found, slot, folderIsMended); });
         }
-        for (const GameOnFile& game : games) {
-            Check(PlayFileOf(game.slot), [&](const FoundFile& found) { return CheckPlayFile(found, game); });
+        for (const CheckedSlot& slot : slots) {
+            Check(PlayFileOf(slot.slot), [&](const FoundFile& found) { return CheckPlayFile(found, slot); });
         }
-        Check(ChosenPicksFile(), [&](const FoundFile& found) { return CheckChosenPicksFile(found, games); });
+        Check(ChosenPicksFile(), [&](const FoundFile& found) { return CheckChosenPicksFile(found, slots); });
         if (result.fileCount == 0) {
             throw Refusal(directory + " holds no data of Ballhaven. Name the right folder with --folder.");
         }
@@ -57,19 +64,42 @@ class FolderExamination {
     }
 
     void CheckTable() {
-        std::string table;
-        const bool found = Check(GameTableFile(), [&table](const FoundFile& file) {
-            table = file.bytes;
-            return CheckGameTable(file);
+        const int marked = CountMarkedHistories();
+        slots = SlotsWithoutTable(SlotUse::Unknown);
+        bool isRead = false;
+        const bool found = Check(GameTableFile(), [&](const FoundFile& file) {
+            isRead = true;
+            CheckedTable table = CheckGameTable(file, marked > 0);
+            slots = std::move(table.slots);
+            folderIsMended = table.folderIsMended;
+            return std::move(table.file);
         });
         if (!found) {
+            slots = SlotsWithoutTable(SlotUse::Free);
             Keep(GameTableFile().name, "is missing",
                  "Ballhaven begins a new table of unused slots; draws and plays are in files of their own.",
                  Remedy::User);
         }
-        table = WholeTable(table);
-        games = GamesOf(table);
-        folderIsMended = IsMended(TableRecord(table, 1));
+        if (marked > 0 && !folderIsMended && (isRead || !found)) {
+            Keep(GameTableFile().name,
+                 "has no mark of a mended folder, though " + std::to_string(marked) +
+                     (marked == 1 ? " file" : " files") + " of draws keep dates of five digits",
+                 "If the folder was a mended one, mark it again with \"ballhaven-data mend\".", Remedy::None);
+        }
+    }
+
+    /// How many files of draws say that their dates have five digits.
+    [[nodiscard]] int CountMarkedHistories() const {
+        int count = 0;
+        for (int slot = 1; slot <= gameSlots; ++slot) {
+            try {
+                const auto header = platform::ReadHeadIfThere(directory + HistoryFileOf(slot).name, drawRecordLength);
+                count += header && DateDigitsOf(header->bytes) == DateDigits::Five ? 1 : 0;
+            } catch (const std::system_error&) {  // its own check tells that it cannot be read
+                continue;
+            }
+        }
+        return count;
     }
 
     /// Looks through a file if it is there. Returns whether it is.
@@ -82,10 +112,8 @@ class FolderExamination {
             }
             Take(file, check(FoundFile{file, head->bytes, head->length}));
         } catch (const std::system_error& error) {
-            Keep(
-                file.name, "cannot be read: " + error.code().message(),
-                "Ballhaven ends with a message where it needs it; \"ballhaven-data set --shown\" chooses another game.",
-                Remedy::User);
+            Keep(file.name, "cannot be read: " + WhyUnreadable(directory + file.name, error), WayOut(file),
+                 Remedy::User);
         }
         ++result.fileCount;
         return true;
@@ -106,7 +134,7 @@ class FolderExamination {
 
     std::string directory;
     CheckedFolder result;
-    std::vector<GameOnFile> games;
+    std::vector<CheckedSlot> slots;
     bool folderIsMended = false;
 };
 

@@ -5,7 +5,7 @@
 #include "history/DrawRecord.h"
 #include "state/AppState.h"
 #include "state/GameRecord.h"
-#include "state/GameRules.h"
+#include "state/MendedFolder.h"
 
 #include <algorithm>
 #include <array>
@@ -17,6 +17,9 @@ namespace {
 
 constexpr int systemRecordNumber = 1;
 constexpr int highestNumber = 99;
+constexpr const char* takenForOrdinary =
+    "Ballhaven takes the folder for an ordinary one. If it was a mended one, mark it again with \"ballhaven-data "
+    "mend\".";
 constexpr const char* alterIt = "Choose it in Ballhaven with \"Alter Game Configuration\".";
 
 // Record 1.
@@ -52,14 +55,28 @@ bool IsBinary(const std::string& text) {
     return text == "0" || text == "1";
 }
 
+/// Whether there are numbers to draw from.
+bool HasLimits(const GameRules& rules) {
+    return rules.mainHigh > rules.mainLow && (!HasBonus(rules.gameType) || rules.bonusHigh > rules.bonusLow);
+}
+
+/// The program's own record as it is read where zero bytes stand there.
+std::string SettingsOfZeros() {
+    std::string record = NewSystemRecord();
+    SetField(record, systemField::sortOrder, "0");
+    return record;
+}
+
 /// Looks at one record after the other, the one at hand being `record`.
 class TableCheck {
   public:
-    explicit TableCheck(Examination& fileExamination) : examination(fileExamination) {}
+    TableCheck(Examination& fileExamination, bool drawsKeepFiveDigits)
+        : examination(fileExamination), drawsAreMarked(drawsKeepFiveDigits) {}
 
     void CheckSystemRecord() {
         Begin(systemRecordNumber, "settings");
-        if (!examination.IsText("Ballhaven shows slot 1, and takes the other settings for unset.")) {
+        Replace(SettingsOfZeros(), "Ballhaven reads them as unset, and shows slot 1.");
+        if (!examination.IsText("Ballhaven reads what settings it finds there. Restore a copy.")) {
             return;
         }
         if (!IsWithin(NumberIn(Text(systemField::shownSlot)), 1, gameSlots)) {
@@ -76,18 +93,27 @@ class TableCheck {
             examination.MendField({systemDigit, "a digit that nothing reads"}, "1", "");
         }
         CheckPrintSelections();
-        if (const std::string mark = Text(systemField::mendedMark); mark != " " && mark != "M") {
-            examination.MendField({systemField::mendedMark, "mark of a mended folder"}, " ",
-                                  "The folder is not mended.");
-        }
+        CheckMendedMark();
         examination.MendUnused(systemColumns, StrayDigits::Blank);
     }
 
-    void CheckGame(int slot) {
+    CheckedSlot CheckSlot(int slot) {
         Begin(slot + 1, "slot " + std::to_string(slot));
+        Replace(BuildDefaultGameRecord(slot, 0), "The slot becomes an unused one; a copy may still have its game.");
         if (!examination.IsText("Set the game up again, or restore a copy.")) {
-            return;
+            return {slot};
         }
+        rulesAreKnown = true;
+        CheckGame(slot);
+        const std::string present = InPresentForm(record);
+        if (CountsAsFree(present)) {
+            return {slot, SlotUse::Free};
+        }
+        return {slot, SlotUse::Game, rulesAreKnown ? std::optional(RulesOf(present)) : std::nullopt};
+    }
+
+  private:
+    void CheckGame(int slot) {
         if (InPresentForm(record) != record && FieldText(record, gameField::gameType).find_first_of("NC") == 0) {
             examination.Remark("is of the older form", "Ballhaven brings it to the present form when it is shown.");
             return;
@@ -103,7 +129,7 @@ class TableCheck {
             examination.LeaveField({gameField::name, "name"}, "no name", alterIt);
         }
         CheckHistorySet(slot);
-        CheckKind();
+        CheckRules();
         CheckConversionMark();
         if (!IsBlank(Text(gameField::olderText))) {
             examination.MendField({gameField::olderText, "text of the older form"}, "  ", "Nothing reads it.");
@@ -111,12 +137,16 @@ class TableCheck {
         examination.MendUnused(gameColumns, StrayDigits::Blank);
     }
 
-  private:
     [[nodiscard]] std::string Text(RecordField field) const { return FieldText(record, field); }
 
     void Begin(int number, const std::string& subject) {
         examination.BeginRecord(number, subject);
         record = examination.Record(number);
+    }
+
+    void Replace(const std::string& right, const std::string& meaning) {
+        examination.MendZeroRecord(right, meaning);
+        record = examination.Record(examination.CurrentRecord());
     }
 
     [[nodiscard]] std::string SubjectOf(int slot) const {
@@ -142,6 +172,19 @@ class TableCheck {
         }
     }
 
+    void CheckMendedMark() {
+        const NamedField field{systemField::mendedMark, "mark of a mended folder"};
+        const std::string mark = Text(field.columns);
+        if (IsMended(record) || mark == " ") {
+            return;
+        }
+        if (drawsAreMarked) {
+            examination.LeaveField(field, "neither \"M\" nor blank", takenForOrdinary);
+        } else {
+            examination.MendField(field, " ", "The folder is not mended.");
+        }
+    }
+
     void CheckHistorySet(int slot) {
         const std::string text = Text(gameField::historySet);
         const std::optional<int> size = NumberIn(text);
@@ -150,6 +193,12 @@ class TableCheck {
                                    "Choose one in Ballhaven, or with \"ballhaven-data set " + std::to_string(slot) +
                                        " --history-set 100\".");
         }
+    }
+
+    void CheckRules() {
+        const auto leftBefore = examination.LeftCount();
+        CheckKind();
+        rulesAreKnown = examination.LeftCount() == leftBefore && HasLimits(RulesOf(record));
     }
 
     void CheckKind() {
@@ -225,7 +274,9 @@ class TableCheck {
     }
 
     Examination& examination;
+    const bool drawsAreMarked;
     std::string record;
+    bool rulesAreKnown = true;
     const std::vector<bool> systemColumns = ColumnsOf(SystemFields(), gameRecordLength);
     const std::vector<bool> gameColumns = ColumnsOf(GameFields(), gameRecordLength);
 };
@@ -236,22 +287,32 @@ bool IsBuiltAnew(const FoundFile& found) {
 
 }  // namespace
 
-CheckedFile CheckGameTable(const FoundFile& found) {
+CheckedTable CheckGameTable(const FoundFile& found, bool drawsAreMarked) {
     const FoundFile whole{found.form, WholeTable(found.bytes), found.length};
     Examination examination(whole);
     if (IsBuiltAnew(found)) {
-        examination.Leave("has no games: it ends after " + std::to_string(found.length) + " bytes",
+        examination.Leave(found.length == 0 ? "has no games: it is empty" : "has no games: it ends after record 1",
                           "Ballhaven builds it anew with unused slots when it starts. If there were games, restore a "
                           "copy; draws and plays are in files of their own.");
-        return std::move(examination).Result();
+        return {std::move(examination).Result(), SlotsWithoutTable(SlotUse::Free)};
     }
     CheckEnd(examination, found, "The slots that are missing become unused ones; a copy may still have their games.");
-    TableCheck check(examination);
+    TableCheck check(examination, drawsAreMarked);
     check.CheckSystemRecord();
+    std::vector<CheckedSlot> slots;
     for (int slot = 1; slot <= gameSlots; ++slot) {
-        check.CheckGame(slot);
+        slots.push_back(check.CheckSlot(slot));
     }
-    return std::move(examination).Result();
+    const bool folderIsMended = IsMended(examination.Record(systemRecordNumber));
+    return {std::move(examination).Result(), std::move(slots), folderIsMended};
+}
+
+std::vector<CheckedSlot> SlotsWithoutTable(SlotUse use) {
+    std::vector<CheckedSlot> slots;
+    for (int slot = 1; slot <= gameSlots; ++slot) {
+        slots.push_back({slot, use});
+    }
+    return slots;
 }
 
 }  // namespace ballhaven::data

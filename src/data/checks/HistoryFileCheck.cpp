@@ -15,6 +15,7 @@ constexpr RecordField markField{64, 1};
 constexpr std::string_view stamp = "10-26-2002";
 constexpr int dateColumn = 1;
 constexpr int fifthDigitColumn = 5;
+constexpr int lowestOfFiveDigits = 10'000;
 
 constexpr RecordField PickField(int pick) {
     return {3 * pick + 3, 2};
@@ -42,21 +43,77 @@ Limits LimitsOf(const GameRules& rules, int pick) {
                                        : Limits{rules.bonusLow, rules.bonusHigh};
 }
 
-bool HasKnownRules(const GameOnFile& game) {
-    return game.defined && game.rules.gameType <= 5 && TotalPicksOf(game.rules) <= mostPicksOfDraw;
+/// The serial of a row's date; 0 where the program reads no draw.
+int DateOf(const std::string& row, DateDigits digits) {
+    std::int16_t cells[1] = {0};
+    return DecodeDraw(row, digits, cells) ? cells[0] : 0;
+}
+
+/// What the rows of a file tell of how many digits their dates have, whatever its header says.
+struct DateEvidence {
+    int rows = 0;            ///< with a draw
+    int fiveDigitRows = 0;   ///< with a digit behind the fourth
+    int firstFiveDigit = 0;  ///< record of the first of them
+    bool fourAscend = true;  ///< read with four digits
+    bool fourDiffer = true;  ///< from the row before, read so
+    bool fiveAscend = true;  ///< read with five digits, each of them a date of the program
+
+    /// Whether the dates can have five digits alone: a digit that strayed into one row does not make a file of them.
+    [[nodiscard]] bool MeansFive() const {
+        const bool allHaveFive = rows > 1 && fiveDigitRows == rows;
+        return fiveDigitRows > 0 && fiveAscend && (!fourAscend || (allHaveFive && !fourDiffer));
+    }
+    /// Whether a file that says four digits may have five.
+    [[nodiscard]] bool ContradictsFour() const { return fiveDigitRows > 0 && !fourAscend; }
+};
+
+DateEvidence EvidenceOf(const Examination& examination) {
+    DateEvidence evidence;
+    int four = 0;
+    int five = 0;
+    for (int record = firstDrawRecord; record <= drawFileRecords; ++record) {
+        const std::string row = examination.Record(record);
+        const int nextFour = DateOf(row, DateDigits::Four);
+        const int nextFive = DateOf(row, DateDigits::Five);
+        if (nextFour == 0 && nextFive == 0) {
+            continue;
+        }
+        ++evidence.rows;
+        if (NumberIn(FieldText(row, DateField(DateDigits::Five))).value_or(0) >= lowestOfFiveDigits) {
+            ++evidence.fiveDigitRows;
+            evidence.firstFiveDigit = evidence.firstFiveDigit == 0 ? record : evidence.firstFiveDigit;
+        }
+        evidence.fourAscend = evidence.fourAscend && nextFour >= four;
+        evidence.fourDiffer = evidence.fourDiffer && nextFour != four;
+        evidence.fiveAscend = evidence.fiveAscend && nextFive > 0 && nextFive >= five;
+        four = nextFour;
+        five = nextFive;
+    }
+    return evidence;
 }
 
 class HistoryCheck {
   public:
-    HistoryCheck(Examination& fileExamination, const GameOnFile& ofGame, bool mended)
-        : examination(fileExamination), game(ofGame), folderIsMended(mended) {}
+    HistoryCheck(Examination& fileExamination, const CheckedSlot& ofSlot, bool mended)
+        : examination(fileExamination), slot(ofSlot), folderIsMended(mended) {}
 
     void Run() {
+        examination.MendZeros();
+        evidence = EvidenceOf(examination);
         examination.BeginRecord(headerRecord, "header");
         if (examination.IsText("Nothing but the mark of dates with five digits is read there.")) {
             CheckHeader();
         }
         digits = DateDigitsOf(examination.Record(headerRecord));
+        if (digits == DateDigits::Four && evidence.ContradictsFour()) {
+            LeaveDoubt();
+            return;
+        }
+        CheckRows();
+    }
+
+  private:
+    void CheckRows() {
         std::vector<HistoryRow> rows;
         for (int record = firstDrawRecord; record <= drawFileRecords; ++record) {
             rows.push_back(CheckRow(record));
@@ -66,13 +123,12 @@ class HistoryCheck {
         RemarkDrawsWithoutGame(rows);
     }
 
-  private:
     void CheckHeader() {
         if (examination.Text(headerRecord, stampField) != stamp) {
             examination.MendField({stampField, "stamp of the form"}, stamp, "Nothing reads it.");
         }
         const std::string mark = examination.Text(headerRecord, markField);
-        if (mark != "M" && folderIsMended && HasFiveDigits()) {
+        if (mark != "M" && folderIsMended && evidence.MeansFive()) {
             examination.MendField({markField, "mark of dates with five digits"}, "M",
                                   "Without it the fifth digit of the dates, which stands there, is not read.");
         } else if (mark != "M" && mark != " ") {
@@ -81,15 +137,15 @@ class HistoryCheck {
         examination.MendUnused(headerColumns, StrayDigits::Blank);
     }
 
-    /// Whether some row has a date of five digits, whatever the header says.
-    [[nodiscard]] bool HasFiveDigits() const {
-        for (int record = firstDrawRecord; record <= drawFileRecords; ++record) {
-            const std::optional<int> date = NumberIn(examination.Text(record, DateField(DateDigits::Five)));
-            if (date && *date >= 10'000) {
-                return true;
-            }
-        }
-        return false;
+    void LeaveDoubt() {
+        examination.LeaveField({markField, "mark of dates with five digits"}, "in doubt",
+                               std::to_string(evidence.fiveDigitRows) + " of " + std::to_string(evidence.rows) +
+                                   " dates have a fifth digit, the first in " +
+                                   RecordsText(evidence.firstFiveDigit, evidence.firstFiveDigit) +
+                                   ", and by the first four the draws are not in order. Ballhaven reads four digits, "
+                                   "and drops the fifth when it next saves the draws. Restore a copy; or look at the "
+                                   "draws in Ballhaven, put them right, save them, and check again. The rows were not "
+                                   "looked at.");
     }
 
     HistoryRow CheckRow(int record) {
@@ -97,9 +153,7 @@ class HistoryCheck {
         if (IsBlank(found)) {
             return {record, 0, found};
         }
-        std::int16_t cells[1] = {0};
-        (void)DecodeDraw(found, digits, cells);
-        const int date = cells[0];
+        const int date = DateOf(found, digits);
         examination.BeginRecord(record, date > 0 ? DrawSubject(date) : "");
         if (examination.IsText("Ballhaven reads what numbers it finds there. Look at the draw, and at a copy.")) {
             CheckDate(found);
@@ -138,7 +192,7 @@ class HistoryCheck {
     }
 
     void CheckPicks(int record) {
-        const int picks = HasKnownRules(game) ? TotalPicksOf(game.rules) : 0;
+        const int picks = slot.rules ? TotalPicksOf(*slot.rules) : 0;
         for (int pick = 1; pick <= mostPicksOfDraw; ++pick) {
             const NamedField field{PickField(pick), "pick " + std::to_string(pick)};
             const std::string text = examination.Text(record, field.columns);
@@ -149,31 +203,32 @@ class HistoryCheck {
                 examination.LeaveField(field, "no number",
                                        "Ballhaven reads it as " + std::to_string(modUTILS::PickOfField(text)) + ".");
             } else if (pick <= picks) {
-                CheckPick(field, *value, LimitsOf(game.rules, pick));
+                CheckPick(field, *value, LimitsOf(*slot.rules, pick));
             }
         }
     }
 
     void CheckPick(const NamedField& field, int value, Limits limits) {
         if (value < limits.low || value > limits.high) {
-            examination.LeaveField(
+            examination.RemarkField(
                 field, "outside " + std::to_string(limits.low) + " to " + std::to_string(limits.high),
-                "Type it again in Ballhaven, or choose other limits with \"Alter Game Configuration\".");
+                "An alteration of the game leaves such picks. Type it again in Ballhaven if it is none of the draw's.");
         }
     }
 
     void RemarkDrawsWithoutGame(const std::vector<HistoryRow>& rows) {
         const auto draws = std::ranges::count_if(rows, [](const HistoryRow& row) { return row.date > 0; });
-        if (!game.defined && draws > 0) {
+        if (slot.use == SlotUse::Free && draws > 0) {
             examination.Remark("holds " + std::to_string(draws) + " draws, and no game has been set up in slot " +
-                                   std::to_string(game.slot),
+                                   std::to_string(slot.slot),
                                "They belong to the next game that is.");
         }
     }
 
     Examination& examination;
-    const GameOnFile& game;
+    const CheckedSlot& slot;
     bool folderIsMended;
+    DateEvidence evidence;
     DateDigits digits = DateDigits::Four;
     const std::vector<bool> headerColumns = ColumnsOf({stampField, markField}, drawRecordLength);
     const std::vector<bool> rowColumns = ColumnsOf(RowFields(), drawRecordLength);
@@ -181,10 +236,10 @@ class HistoryCheck {
 
 }  // namespace
 
-CheckedFile CheckHistoryFile(const FoundFile& found, const GameOnFile& game, bool folderIsMended) {
+CheckedFile CheckHistoryFile(const FoundFile& found, const CheckedSlot& slot, bool folderIsMended) {
     Examination examination(found);
     if (CheckLength(examination, found, olderDrawFileRecords)) {
-        HistoryCheck(examination, game, folderIsMended).Run();
+        HistoryCheck(examination, slot, folderIsMended).Run();
     }
     return std::move(examination).Result();
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "data/checks/Examination.h"
-#include "data/folder/GamesOnFile.h"
+#include "data/checks/GameTableCheck.h"
 
 namespace ballhaven::data {
 
-/// Looks through a file of draws of a game: the header, each row's date and picks, and the order of the rows.
-[[nodiscard]] CheckedFile CheckHistoryFile(const FoundFile& found, const GameOnFile& game, bool folderIsMended);
+/// Looks through the file of draws of a slot: the header, each row's date and picks, and the order of the rows.
+[[nodiscard]] CheckedFile CheckHistoryFile(const FoundFile& found, const CheckedSlot& slot, bool folderIsMended);
 
 }  // namespace ballhaven::data

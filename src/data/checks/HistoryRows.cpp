@@ -17,17 +17,13 @@ using RowSpan = std::span<const HistoryRow>;
 constexpr int lowestCutDate = 1000;
 constexpr int highestCutDate = 3276;
 constexpr int lastYearsOfFourDigits = 9000;  // from 2008-08-22 on
-constexpr const char* whyDatesAreCut =
-    "A file of an ordinary folder keeps no date after 2011-05-18: later ones lose their last digit. Delete them, mark "
-    "the folder with \"ballhaven-data mend\", and import them again.";
+constexpr const char* whyDatesMayBeCut =
+    "This file keeps no date after 2011-05-18: later ones lose their last digit. If they are draws of later years, "
+    "delete them, mark the folder with \"ballhaven-data mend\", and import them again; else delete them and enter them "
+    "with their right dates.";
 
 bool HoldsDraw(const HistoryRow& row) {
     return row.date > 0;
-}
-
-std::string RecordsText(int first, int last) {
-    return first == last ? "record " + std::to_string(first)
-                         : "records " + std::to_string(first) + " to " + std::to_string(last);
 }
 
 /// Keeps a finding for each run of rows without a draw between those with one. Returns whether there is any.
@@ -55,16 +51,23 @@ bool LooksCut(const HistoryRow& before, const HistoryRow& row) {
     return before.date >= lastYearsOfFourDigits && CanBeCut(row, DateDigits::Four);
 }
 
-/// How many of the draws, from the first on, stand before those whose dates have lost their last digit.
+/// How many of the draws, from the first on, stand before the first one whose date may have lost its last digit.
 std::size_t CountBeforeCutDates(RowSpan draws, DateDigits digits) {
     const auto cut = digits == DateDigits::Four ? std::ranges::adjacent_find(draws, LooksCut) : draws.end();
     return cut == draws.end() ? draws.size() : static_cast<std::size_t>(cut + 1 - draws.begin());
 }
 
-void ReportCutDates(Examination& examination, RowSpan cut) {
-    examination.Leave("the draws in " + RecordsText(cut.front().record, cut.back().record) + " are dated from " +
-                          IsoDate(cut.front().date) + " on, behind newer ones",
-                      whyDatesAreCut);
+/// Keeps a finding about the draws from the first one on whose date may have lost its last digit. Others among them
+/// may be right.
+void ReportCutDates(Examination& examination, RowSpan rest) {
+    const auto count =
+        std::ranges::count_if(rest, [](const HistoryRow& row) { return CanBeCut(row, DateDigits::Four); });
+    const std::string first = RecordsText(rest.front().record, rest.front().record);
+    const std::string date = IsoDate(rest.front().date);
+    examination.Leave(count == 1 ? "the draw in " + first + " is dated " + date + ", behind newer ones"
+                                 : std::to_string(count) + " draws, the first in " + first + ", are dated from " +
+                                       date + " on, behind newer ones",
+                      whyDatesMayBeCut);
 }
 
 bool CheckAscending(Examination& examination, RowSpan draws) {
@@ -87,7 +90,7 @@ void CheckDatedTwice(Examination& examination, RowSpan draws, DateDigits digits)
         if (!isNew) {
             examination.BeginRecord(draw.record, DrawSubject(draw.date));
             examination.Leave("has the date of record " + std::to_string(first->second),
-                              CanBeCut(draw, digits) ? whyDatesAreCut
+                              CanBeCut(draw, digits) ? whyDatesMayBeCut
                                                      : "Give one of them its right date in Ballhaven, or delete it.");
         }
     }

@@ -13,7 +13,7 @@ namespace ballhaven::data {
 namespace {
 
 constexpr int pickWidth = 2;
-constexpr const char* lookAtIt = "Look at it in Ballhaven.";
+constexpr const char* lookAtIt = "An alteration of the game leaves such picks. Look at it in Ballhaven.";
 
 // A play's record: its method, then the main and the bonus picks.
 constexpr RecordField playMethodField{1, methodCodeWidth};
@@ -37,19 +37,19 @@ bool IsMethodCode(const std::string& code) {
     return std::ranges::find(methodCodes, code) != methodCodes.end();
 }
 
-/// How many picks of a list belong to the game's plays; none where its rules are not known.
-int PicksOf(const GameOnFile& game, PickColumn list) {
-    if (!game.defined || game.rules.gameType > 5) {
+/// How many picks of a list belong to the plays of a slot's game; none where its rules are not known.
+int PicksOf(const CheckedSlot& slot, PickColumn list) {
+    if (!slot.rules) {
         return 0;
     }
-    return list == mainPicks ? game.rules.mainPickCount : BonusSlots(game.rules);
+    return list == mainPicks ? slot.rules->mainPickCount : BonusSlots(*slot.rules);
 }
 
 /// Looks at the fields of picks of a record at hand.
 class PickFieldCheck {
   public:
-    PickFieldCheck(Examination& fileExamination, const GameOnFile& ofGame)
-        : examination(fileExamination), game(ofGame) {}
+    PickFieldCheck(Examination& fileExamination, const std::optional<GameRules>& ofGame)
+        : examination(fileExamination), rules(ofGame) {}
 
     void Check(const std::string& record, RecordField columns, PickColumn list, int slot, bool ofTheGame) {
         const std::string text = FieldText(record, columns);
@@ -61,14 +61,14 @@ class PickFieldCheck {
             examination.LeaveField(
                 field, "no number",
                 "Ballhaven reads it as cell " + std::to_string(modUTILS::PickOfField(text)) + " of the board.");
-        } else if (ofTheGame && PickOfCell(game.rules, list, *pick) == noPick) {
-            examination.LeaveField(field, "no cell of the game's board", lookAtIt);
+        } else if (ofTheGame && rules && PickOfCell(*rules, list, *pick) == noPick) {
+            examination.RemarkField(field, "no cell of the game's board", lookAtIt);
         }
     }
 
   private:
     Examination& examination;
-    const GameOnFile& game;
+    const std::optional<GameRules>& rules;
 };
 
 void CheckMethod(Examination& examination, const std::string& record, RecordField columns) {
@@ -98,13 +98,14 @@ std::vector<bool> ChosenColumns(int recordLength) {
 
 }  // namespace
 
-CheckedFile CheckPlayFile(const FoundFile& found, const GameOnFile& game) {
+CheckedFile CheckPlayFile(const FoundFile& found, const CheckedSlot& slot) {
     Examination examination(found);
     if (!CheckLength(examination, found, olderPlayFileRecords)) {
         return std::move(examination).Result();
     }
     const std::vector<bool> columns = PlayColumns();
-    PickFieldCheck picks(examination, game);
+    PickFieldCheck picks(examination, slot.rules);
+    examination.MendZeros();
     for (int play = 1; play <= playCount; ++play) {
         const std::string record = examination.Record(play);
         if (IsBlank(record)) {
@@ -116,8 +117,8 @@ CheckedFile CheckPlayFile(const FoundFile& found, const GameOnFile& game) {
         }
         CheckMethod(examination, record, playMethodField);
         for (const PickColumn list : {mainPicks, bonusPicks}) {
-            for (int slot = 1; slot <= picksPerPlay; ++slot) {
-                picks.Check(record, PlayPickField(list, slot), list, slot, slot <= PicksOf(game, list));
+            for (int pick = 1; pick <= picksPerPlay; ++pick) {
+                picks.Check(record, PlayPickField(list, pick), list, pick, pick <= PicksOf(slot, list));
             }
         }
         examination.MendUnused(columns, StrayDigits::Leave);
@@ -125,25 +126,26 @@ CheckedFile CheckPlayFile(const FoundFile& found, const GameOnFile& game) {
     return std::move(examination).Result();
 }
 
-CheckedFile CheckChosenPicksFile(const FoundFile& found, const std::vector<GameOnFile>& games) {
+CheckedFile CheckChosenPicksFile(const FoundFile& found, const std::vector<CheckedSlot>& slots) {
     Examination examination(found);
     if (!CheckLength(examination, found, gameSlots)) {
         return std::move(examination).Result();
     }
+    examination.MendZeros();
     const std::vector<bool> columns = ChosenColumns(found.form.recordLength);
     for (int recordNumber = 1; recordNumber <= 2 * gameSlots; ++recordNumber) {
         const PickColumn list = recordNumber <= gameSlots ? mainPicks : bonusPicks;
-        const GameOnFile& game = games[static_cast<std::size_t>((recordNumber - 1) % gameSlots)];
+        const CheckedSlot& slot = slots[static_cast<std::size_t>((recordNumber - 1) % gameSlots)];
         const std::string record = examination.Record(recordNumber);
         examination.BeginRecord(recordNumber, std::string(list == mainPicks ? "main" : "bonus") +
-                                                  " picks chosen in slot " + std::to_string(game.slot));
+                                                  " picks chosen in slot " + std::to_string(slot.slot));
         if (IsBlank(record) || !examination.IsText("Ballhaven reads what numbers it finds there.")) {
             continue;
         }
         CheckMethod(examination, record, chosenMethodField);
-        PickFieldCheck picks(examination, game);
+        PickFieldCheck picks(examination, slot.rules);
         for (int pick = 1; pick <= chosenPicks; ++pick) {
-            picks.Check(record, ChosenPickField(pick), list, pick, PicksOf(game, list) > 0);
+            picks.Check(record, ChosenPickField(pick), list, pick, PicksOf(slot, list) > 0);
         }
         examination.MendUnused(columns, StrayDigits::Leave);
     }

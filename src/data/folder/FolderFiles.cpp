@@ -8,7 +8,7 @@
 #include "state/modUTILS.h"
 #include "wheels/ChosenRecord.h"
 
-#include <system_error>
+#include <filesystem>
 
 namespace ballhaven::data {
 
@@ -54,8 +54,13 @@ std::optional<std::string> ReadFolderFile(const std::string& directory, const Fo
         const auto head = platform::ReadHeadIfThere(path, file.FormatLength());
         return head ? std::optional(head->bytes) : std::nullopt;
     } catch (const std::system_error& error) {
-        throw Refusal(path + " cannot be read: " + error.code().message() + ".");
+        throw Refusal(path + " cannot be read: " + WhyUnreadable(path, error) + ".");
     }
+}
+
+std::string WhyUnreadable(const std::string& path, const std::system_error& error) {
+    std::error_code unknown;
+    return std::filesystem::is_directory(path, unknown) ? "it is a folder and no file" : error.code().message();
 }
 
 }  // namespace ballhaven::data

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace ballhaven::data {
@@ -27,5 +28,8 @@ struct FolderFile {
 /// What a file holds, up to the last record of its format; none where the folder has no such file. Makes nothing.
 /// Throws Refusal where it cannot be read.
 [[nodiscard]] std::optional<std::string> ReadFolderFile(const std::string& directory, const FolderFile& file);
+
+/// Why a file cannot be read, as a user would say it: without a stop.
+[[nodiscard]] std::string WhyUnreadable(const std::string& path, const std::system_error& error);
 
 }  // namespace ballhaven::data

@@ -85,21 +85,42 @@ TEST(ExaminationTest, DigitsInUnusedColumnsCanBeLeft) {
     EXPECT_EQ(checked.findings[1].remedy, Remedy::Mend);
 }
 
-TEST(ExaminationTest, ARecordOfZeroBytesIsBlankedAndOtherBytesAreLeft) {
-    Examination examination(Found(std::string(8, '\0') + "a\tc     text    "));
-    examination.BeginRecord(1, "");
-    EXPECT_FALSE(examination.IsText(""));
+TEST(ExaminationTest, BytesThatAreNoTextAreLeft) {
+    Examination examination(Found("        a\tc     text    "));
     examination.BeginRecord(2, "");
     EXPECT_FALSE(examination.IsText("Look."));
     examination.BeginRecord(3, "");
     EXPECT_TRUE(examination.IsText(""));
+    EXPECT_EQ(examination.LeftCount(), 1);
     const CheckedFile checked = std::move(examination).Result();
-    EXPECT_EQ(checked.mended, "        a\tc     text    ");
-    ASSERT_EQ(checked.findings.size(), 2U);
-    EXPECT_EQ(checked.findings[0].remedy, Remedy::Mend);
-    EXPECT_EQ(LineOf(checked.findings[1]),
+    ASSERT_EQ(checked.findings.size(), 1U);
+    EXPECT_EQ(LineOf(checked.findings[0]),
               "GAME01.CDB, record 2: holds bytes that are no text: \"a\\x09c     \". Look.");
-    EXPECT_EQ(checked.findings[1].remedy, Remedy::User);
+    EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
+}
+
+TEST(ExaminationTest, RunsOfZeroBytesAreBlanked) {
+    const std::string zeros(8, '\0');
+    for (const auto& [bytes, records] :
+         {std::pair{zeros + "text    " + zeros, "record 1"}, std::pair{"text    " + zeros + zeros, "records 2 to 3"}}) {
+        Examination examination(Found(bytes));
+        examination.MendZeros();
+        const CheckedFile checked = std::move(examination).Result();
+        EXPECT_EQ(checked.mended.find('\0'), std::string::npos);
+        EXPECT_EQ(checked.findings.at(0).what, "holds zero bytes and no text in " + std::string(records));
+        EXPECT_EQ(checked.findings.at(0).remedy, Remedy::Mend);
+    }
+}
+
+TEST(ExaminationTest, ARecordOfZeroBytesCanGetAText) {
+    Examination examination(Found(std::string(8, '\0') + "text            "));
+    examination.BeginRecord(1, "slot");
+    examination.MendZeroRecord("free", "It is free.");
+    examination.BeginRecord(2, "slot");
+    examination.MendZeroRecord("free", "It is free.");
+    const CheckedFile checked = std::move(examination).Result();
+    EXPECT_EQ(checked.mended, "free    text            ");
+    EXPECT_EQ(checked.findings.size(), 1U);
 }
 
 struct LengthCase {
@@ -109,8 +130,8 @@ struct LengthCase {
 };
 
 TEST(ExaminationTest, TheLengthTellsAnEmptyAnOlderACutAndALongFile) {
-    const LengthCase cases[] = {{0, false, {Remedy::None}}, {8, true, {Remedy::None}},  {7, true, {Remedy::Mend}},
-                                {16, true, {Remedy::Mend}}, {23, true, {Remedy::Mend}}, {24, true, {}},
+    const LengthCase cases[] = {{0, false, {Remedy::None}}, {8, true, {Remedy::None}},   {7, false, {Remedy::User}},
+                                {16, true, {Remedy::Mend}}, {23, false, {Remedy::User}}, {24, true, {}},
                                 {25, true, {Remedy::None}}};
     for (const LengthCase& each : cases) {
         const std::string bytes(static_cast<std::size_t>(std::min<std::int64_t>(each.length, 24)), 'x');
@@ -125,7 +146,18 @@ TEST(ExaminationTest, TheLengthTellsAnEmptyAnOlderACutAndALongFile) {
     }
 }
 
+TEST(ExaminationTest, ARecordThatIsBlankWhereItWasCutHasLostNothing) {
+    const FoundFile found = Found("12345678   ");
+    Examination examination(found);
+    EXPECT_TRUE(CheckLength(examination, found, 1));
+    EXPECT_EQ(std::move(examination).Result().findings.at(0).remedy, Remedy::Mend);
+}
+
 TEST(ExaminationTest, ACutFileIsToldByItsBytesAndItsLastRecord) {
+    const FoundFile one = Found("1");
+    Examination short1(one);
+    CheckEnd(short1, one, "");
+    EXPECT_EQ(std::move(short1).Result().findings.at(0).what, "ends after 1 byte, in record 1 of 3");
     const FoundFile found = Found("12345678abc");
     Examination examination(found);
     CheckEnd(examination, found, "Filled.");

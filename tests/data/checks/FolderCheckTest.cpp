@@ -111,13 +111,47 @@ TEST_F(FolderCheckTest, AFileThatCannotBeReadIsLeftAndTheOthersAreLookedAt) {
     ASSERT_GE(checked.findings.size(), 2U);
     EXPECT_EQ(checked.findings[0].file, "GAME02.CDB");
     EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
-    EXPECT_TRUE(checked.findings[0].what.starts_with("cannot be read: "));
+    EXPECT_EQ(checked.findings[0].what, "cannot be read: it is a folder and no file");
+    EXPECT_TRUE(checked.findings[0].meaning.ends_with("\"ballhaven-data set --shown\" chooses another game."));
     EXPECT_EQ(checked.findings[1].file, "GAME03.CDB");
     EXPECT_FALSE(checked.mended.contains("GAME02.CDB"));
 }
 
+TEST_F(FolderCheckTest, OfAFileOfAllGamesNoOtherGameIsAWayOut) {
+    for (const char* name : {"LOTTOSYS", "SHUFFLE.CDB"}) {
+        std::filesystem::remove(directory / name);
+        std::filesystem::create_directory(directory / name);
+    }
+    directory.Write("GAME01.CDB", directory.Read("GAME01.CDB").replace(63, 1, "M"));
+    EXPECT_EQ(Lines(),
+              (Texts{"LOTTOSYS: cannot be read: it is a folder and no file. Ballhaven ends with a message when it "
+                     "starts. Make it a file that can be read, or restore a copy.",
+                     "SHUFFLE.CDB: cannot be read: it is a folder and no file. Ballhaven ends with a message when it "
+                     "starts. Make it a file that can be read, or restore a copy."}));
+}
+
+TEST_F(FolderCheckTest, ATableWithoutTheMarkThatItsDrawsHaveIsARemark) {
+    for (const char* name : {"GAME01.CDB", "GAME02.CDB"}) {
+        directory.Write(name, directory.Read(name).replace(63, 1, "M"));
+    }
+    EXPECT_EQ(Lines(),
+              Texts{"LOTTOSYS: has no mark of a mended folder, though 2 files of draws keep dates of five digits. "
+                    "If the folder was a mended one, mark it again with \"ballhaven-data mend\"."});
+    EXPECT_EQ(Lines(true), Texts());
+    directory.Write("LOTTOSYS", directory.Read("LOTTOSYS").replace(63, 1, "L"));
+    EXPECT_EQ(Lines(true).size(), 1U);
+    EXPECT_TRUE(CheckFolder(directory.Path()).mended.empty());
+    directory.Write("LOTTOSYS", directory.Read("LOTTOSYS").replace(63, 1, "M"));
+    EXPECT_EQ(Lines(), Texts());
+}
+
+TEST_F(FolderCheckTest, AgainstTheRulesOfASlotThatHasLostThemNothingIsHeld) {
+    directory.Write("LOTTOSYS", directory.Read("LOTTOSYS").replace(64, 64, std::string(64, '\0')));
+    EXPECT_EQ(Lines(true).size(), 1U);
+}
+
 TEST_F(FolderCheckTest, OnlyFilesWithSomethingToRepairAreMended) {
-    directory.Write("GAME11.CDB", "10-26-2002");
+    directory.Write("GAME11.CDB", "10-26-2002" + std::string(54, ' '));
     directory.Write("GAME12.CDB", "");
     const CheckedFolder checked = CheckFolder(directory.Path());
     ASSERT_EQ(checked.mended.size(), 1U);

@@ -28,8 +28,9 @@ class GameTableCheckTest : public testing::Test {
         table.replace(static_cast<std::size_t>((record - 1) * 64 + column - 1), text.size(), text);
     }
 
-    [[nodiscard]] CheckedFile Check() const {
-        return CheckGameTable({{"LOTTOSYS", 64, 21}, table, static_cast<std::int64_t>(table.size())});
+    [[nodiscard]] CheckedFile Check() const { return CheckTable().file; }
+    [[nodiscard]] CheckedTable CheckTable() const {
+        return CheckGameTable({{"LOTTOSYS", 64, 21}, table, static_cast<std::int64_t>(table.size())}, drawsAreMarked);
     }
 
     /// The findings as lines.
@@ -65,6 +66,7 @@ class GameTableCheckTest : public testing::Test {
     }
 
     std::string table;
+    bool drawsAreMarked = false;
 };
 
 TEST_F(GameTableCheckTest, ATableAsTheProgramLeavesItHasNoFinding) {
@@ -83,6 +85,66 @@ TEST_F(GameTableCheckTest, NewTablesAndUnusedSlotsOfAllKindsHaveNone) {
 TEST_F(GameTableCheckTest, AMendedFolderIsNoFinding) {
     ExpectNoFinding(1, 64, "M");
     ExpectFinding(1, 64, "m", Remedy::Mend, " ");
+    EXPECT_FALSE(CheckTable().folderIsMended);
+    Put(1, 64, "M");
+    EXPECT_TRUE(CheckTable().folderIsMended);
+}
+
+TEST_F(GameTableCheckTest, AMarkThatMayHaveBeenThatOfAMendedFolderIsLeft) {
+    drawsAreMarked = true;
+    ExpectFinding(1, 64, "L", Remedy::User);
+    Put(1, 64, "L");
+    EXPECT_EQ(Lines(),
+              std::vector<std::string>{
+                  "LOTTOSYS, record 1 (settings), column 64 (mark of a mended folder): holds \"L\", which is "
+                  "neither \"M\" nor blank. Ballhaven takes the folder for an ordinary one. If it was a mended "
+                  "one, mark it again with \"ballhaven-data mend\"."});
+}
+
+TEST_F(GameTableCheckTest, SettingsOfZeroBytesAreMendedAtOnce) {
+    Put(1, 1, std::string(64, '\0'));
+    const CheckedFile checked = Check();
+    EXPECT_EQ(Lines(),
+              std::vector<std::string>{"LOTTOSYS, record 1 (settings): holds zero bytes and no text. Ballhaven "
+                                       "reads them as unset, and shows slot 1."});
+    EXPECT_EQ(checked.findings[0].remedy, Remedy::Mend);
+    EXPECT_EQ(checked.mended.substr(0, 64), "01/0/1/000000" + std::string(51, ' '));
+}
+
+TEST_F(GameTableCheckTest, ASlotOfZeroBytesBecomesAnUnusedOne) {
+    Put(2, 1, std::string(64, '\0'));
+    const CheckedTable checked = CheckTable();
+    ASSERT_EQ(checked.file.findings.size(), 1U);
+    EXPECT_EQ(LineOf(checked.file.findings[0]),
+              "LOTTOSYS, record 2 (slot 1): holds zero bytes and no text. The slot becomes an unused one; a copy may "
+              "still have its game.");
+    EXPECT_EQ(checked.file.mended.substr(64, 64), "1 /un-defined            /010/0/1/99/ / /N/N/10/0/N /  /1/99/   ");
+    EXPECT_EQ(checked.slots.at(0).use, SlotUse::Free);
+}
+
+TEST_F(GameTableCheckTest, TheRulesOfASlotAreKnownWhereNothingIsWrongWithThem) {
+    const CheckedTable checked = CheckTable();
+    ASSERT_EQ(checked.slots.size(), 20U);
+    EXPECT_EQ(checked.slots[0].slot, 1);
+    EXPECT_EQ(checked.slots[0].use, SlotUse::Game);
+    ASSERT_TRUE(checked.slots[0].rules);
+    EXPECT_EQ(checked.slots[0].rules->mainHigh, 49);
+    EXPECT_EQ(checked.slots[19].use, SlotUse::Free);
+    EXPECT_FALSE(checked.slots[19].rules);
+    const std::string whole = table;
+    const auto expectRules = [&](int column, std::string_view text, bool areKnown) {
+        Put(2, column, text);
+        EXPECT_EQ(CheckTable().slots[0].rules.has_value(), areKnown) << text;
+        EXPECT_EQ(CheckTable().slots[0].use, SlotUse::Game);
+        table = whole;
+    };
+    expectRules(27, "015", true);  // the history set is no rule of the draws
+    expectRules(31, "7", false);
+    expectRules(35, "4x", false);
+    expectRules(35, "01", false);
+    expectRules(46, "11", false);
+    Put(2, 10, "\n");
+    EXPECT_EQ(CheckTable().slots[0].use, SlotUse::Unknown);
 }
 
 TEST_F(GameTableCheckTest, SettingsOfTheProgramBecomeWhatTheyAreReadAs) {
@@ -190,7 +252,8 @@ TEST_F(GameTableCheckTest, ATableThatIsBuiltAnewIsToldAndLeft) {
         const CheckedFile checked = Check();
         ASSERT_EQ(checked.findings.size(), 1U);
         EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
-        EXPECT_EQ(checked.findings[0].what, "has no games: it ends after " + std::to_string(length) + " bytes");
+        EXPECT_EQ(checked.findings[0].what,
+                  length == 0 ? "has no games: it is empty" : "has no games: it ends after record 1");
     }
 }
 

@@ -14,9 +14,7 @@ namespace {
 class HistoryFileCheckTest : public testing::Test {
   protected:
     void SetUp() override {
-        game.slot = 1;
-        game.defined = true;
-        game.rules = {.gameType = 0, .mainPickCount = 3, .mainLow = 1, .mainHigh = 49};
+        slot.rules = GameRules{.gameType = 0, .mainPickCount = 3, .mainLow = 1, .mainHigh = 49};
         content = "10-26-2002";
         content.resize(64'064, ' ');
         PutRow(2, "7000  3 14");
@@ -37,7 +35,7 @@ class HistoryFileCheckTest : public testing::Test {
     }
 
     [[nodiscard]] CheckedFile Check() const {
-        return CheckHistoryFile({{"GAME01.CDB", 64, 1001}, content, static_cast<std::int64_t>(content.size())}, game,
+        return CheckHistoryFile({{"GAME01.CDB", 64, 1001}, content, static_cast<std::int64_t>(content.size())}, slot,
                                 folderIsMended);
     }
 
@@ -64,7 +62,7 @@ class HistoryFileCheckTest : public testing::Test {
         return rows;
     }
 
-    GameOnFile game;
+    CheckedSlot slot{.slot = 1, .use = SlotUse::Game};
     bool folderIsMended = false;
     std::string content;
 };
@@ -104,6 +102,49 @@ TEST_F(HistoryFileCheckTest, TheMarkOfFiveDigitsComesBackInAMendedFolder) {
         "Without it the fifth digit of the dates, which stands there, is not read.");
     EXPECT_EQ(Check().mended[63], 'M');
     EXPECT_EQ(MendedRows().back(), "15300 1  2  3");
+}
+
+TEST_F(HistoryFileCheckTest, TheMarkComesBackWhereAllDatesHaveFiveDigits) {
+    PutRow(2, "15300 1  2  3");
+    PutRow(3, "15307 1  2  3");
+    PutRow(4, "15314 1  2  3");
+    folderIsMended = true;
+    EXPECT_EQ(Check().mended[63], 'M');
+}
+
+// A byte behind one date of four digits does not make a file of five.
+TEST_F(HistoryFileCheckTest, AStrayFifthDigitChangesNoDateInAMendedFolder) {
+    folderIsMended = true;
+    for (const char* date : {"70213", "20213", "70010", "99993"}) {
+        for (const int record : {2, 3, 5}) {
+            SetUp();
+            std::string row(date);
+            PutRow(record, row.replace(0, 4, record == 2 ? "1999" : record == 3 ? "7003" : "7021") + " 1  2  3");
+            const CheckedFile checked = Check();
+            ASSERT_EQ(checked.findings.size(), 1U) << row << " in record " << record;
+            EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
+            EXPECT_TRUE(checked.findings[0].what.ends_with("a digit longer than this file's dates"));
+            EXPECT_EQ(checked.mended, content);
+        }
+    }
+}
+
+TEST_F(HistoryFileCheckTest, AFileWhoseDatesContradictEachOtherIsLeftAsItIs) {
+    PutRow(5, "15300 1  2  3");
+    PutRow(6, "15290 1  2  3");
+    for (const bool mended : {false, true}) {
+        folderIsMended = mended;
+        ExpectFinding(
+            Remedy::User,
+            "GAME01.CDB, record 1 (header), column 64 (mark of dates with five digits): holds \" \", which is "
+            "in doubt. 2 of 5 dates have a fifth digit, the first in record 5, and by the first four the "
+            "draws are not in order. Ballhaven reads four digits, and drops the fifth when it next saves the "
+            "draws. Restore a copy; or look at the draws in Ballhaven, put them right, save them, and check "
+            "again. The rows were not looked at.");
+    }
+    // One that is beyond the range is no date of five digits either.
+    PutRow(6, "32768 1  2  3");
+    EXPECT_EQ(Check().findings.at(0).what, "holds \" \", which is in doubt");
 }
 
 TEST_F(HistoryFileCheckTest, AMendedFolderWithDatesOfFourDigitsHasNoFinding) {
@@ -150,24 +191,24 @@ TEST_F(HistoryFileCheckTest, DatesThatAreNoneAreLeft) {
     EXPECT_TRUE(Check().findings.empty());
 }
 
-TEST_F(HistoryFileCheckTest, PicksOutsideTheLimitsAreLeft) {
+TEST_F(HistoryFileCheckTest, PicksOutsideTheLimitsAreARemark) {
     PutRow(5, "7021  0  2  3");
-    ExpectFinding(Remedy::User,
+    ExpectFinding(Remedy::None,
                   "GAME01.CDB, record 5 (draw of 2003-03-23), columns 6-7 (pick 1): holds \" 0\", which is "
-                  "outside 1 to 49. Type it again in Ballhaven, or choose other limits with \"Alter Game "
-                  "Configuration\".");
+                  "outside 1 to 49. An alteration of the game leaves such picks. Type it again in Ballhaven if it is "
+                  "none of the draw's.");
     PutRow(5, "7021  1  2 50");
     EXPECT_EQ(Check().findings.at(0).place, "columns 12-13 (pick 3)");
 }
 
 TEST_F(HistoryFileCheckTest, BonusPicksHaveTheirOwnLimits) {
-    game.rules = {.gameType = 2,
-                  .mainPickCount = 2,
-                  .bonusPickCount = 1,
-                  .mainLow = 1,
-                  .mainHigh = 49,
-                  .bonusLow = 0,
-                  .bonusHigh = 9};
+    slot.rules = GameRules{.gameType = 2,
+                           .mainPickCount = 2,
+                           .bonusPickCount = 1,
+                           .mainLow = 1,
+                           .mainHigh = 49,
+                           .bonusLow = 0,
+                           .bonusHigh = 9};
     PutRow(3, "7007  1  2  9");
     PutRow(4, "7014  1  2  0");
     EXPECT_TRUE(Check().findings.empty());
@@ -206,12 +247,17 @@ TEST_F(HistoryFileCheckTest, ARowThatHasSlippedIsLeftWithAllItsDigits) {
 
 TEST_F(HistoryFileCheckTest, WithoutRulesPicksAreOnlyNumbers) {
     PutRow(5, "7021 88 99");
-    game.rules.gameType = 7;
+    slot.rules.reset();
+    EXPECT_TRUE(Check().findings.empty());
+}
+
+TEST_F(HistoryFileCheckTest, OfDrawsInASlotThatNothingIsKnownOfNothingIsSaid) {
+    slot = {.slot = 1};
     EXPECT_TRUE(Check().findings.empty());
 }
 
 TEST_F(HistoryFileCheckTest, DrawsInAnUnusedSlotAreARemark) {
-    game.defined = false;
+    slot = {.slot = 1, .use = SlotUse::Free};
     PutRow(5, "7021 88 99");
     ExpectFinding(Remedy::None,
                   "GAME01.CDB: holds 4 draws, and no game has been set up in slot 1. They belong to the "
@@ -228,12 +274,73 @@ TEST_F(HistoryFileCheckTest, TheOlderFormIsARemark) {
 
 TEST_F(HistoryFileCheckTest, ACutFileIsFilledUpWithBlankRows) {
     const std::string whole = content;
-    content.resize(64'000);
-    EXPECT_EQ(Check().findings.at(0).remedy, Remedy::Mend);
-    EXPECT_EQ(Check().mended, whole);
-    content.resize(3 * 64 + 14);
-    EXPECT_EQ(Check().findings.size(), 1U);
-    EXPECT_EQ(Check().mended, whole);
+    for (const std::size_t length : {std::size_t{64'000}, std::size_t{256}, std::size_t{266}}) {
+        content = whole.substr(0, length);
+        ExpectFinding(Remedy::Mend,
+                      "GAME01.CDB: ends after " + std::to_string(length) + " bytes, in record " +
+                          (length == 64'000 ? "1001" : "5") +
+                          " of 1001. Blanks take the place of what is missing; a copy may still have it.");
+        EXPECT_EQ(Check().mended, whole);
+    }
+}
+
+TEST_F(HistoryFileCheckTest, AFileThatEndsInTheMiddleOfADrawStaysAsItIs) {
+    const std::string whole = content;
+    content.resize(3 * 64 + 10);
+    PutRow(2, "x000  3 14");  // nothing else is looked at
+    const CheckedFile checked = Check();
+    ASSERT_EQ(checked.findings.size(), 1U);
+    EXPECT_EQ(LineOf(checked.findings[0]),
+              "GAME01.CDB: ends after 202 bytes, in record 4 of 1001, which was cut in the middle: \"7014 10 20\". The "
+              "file was not looked at any further. Restore a copy; or look at the record in Ballhaven, put it right, "
+              "save it, and check again.");
+    EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
+    for (const std::size_t length : {1, 63, 3 * 64 + 1, 3 * 64 + 4, 3 * 64 + 63}) {
+        content = whole.substr(0, length);
+        EXPECT_EQ(Check().findings.size(), 1U);
+        EXPECT_EQ(Check().findings.at(0).remedy, Remedy::User) << length;
+    }
+}
+
+TEST_F(HistoryFileCheckTest, AFileOfTheOlderFormAndAByteIsCut) {
+    content.resize(6464);
+    content += "7";
+    EXPECT_EQ(Check().findings.at(0).what,
+              "ends after 6465 bytes, in record 102 of 1001, which was cut in the middle: "
+              "\"7\"");
+}
+
+TEST_F(HistoryFileCheckTest, AHeaderOfZeroBytesGetsItsStampAtOnce) {
+    const std::string whole = content;
+    Put(1, 1, std::string(64, '\0'));
+    const CheckedFile checked = Check();
+    EXPECT_EQ(checked.mended, whole);
+    ASSERT_EQ(checked.findings.size(), 2U);
+    EXPECT_EQ(LineOf(checked.findings[0]),
+              "GAME01.CDB: holds zero bytes and no text in record 1. Nothing is left of what stood there, if anything "
+              "did.");
+    EXPECT_EQ(checked.findings[1].remedy, Remedy::Mend);
+}
+
+TEST_F(HistoryFileCheckTest, AHeaderOfZeroBytesGetsItsMarkInAMendedFolder) {
+    PutRow(5, "15300 1  2  3");
+    PutRow(6, "15307 1  2  3");
+    const std::string whole = content.replace(0, 64, "10-26-2002" + std::string(53, ' ') + "M");
+    Put(1, 1, std::string(64, '\0'));
+    folderIsMended = true;
+    const CheckedFile checked = Check();
+    EXPECT_EQ(checked.mended, whole);
+    for (const Finding& finding : checked.findings) {
+        EXPECT_EQ(finding.remedy, Remedy::Mend) << LineOf(finding);
+    }
+}
+
+TEST_F(HistoryFileCheckTest, ARunOfZeroBytesIsOneFinding) {
+    Put(3, 1, std::string(64 * 2, '\0'));
+    const CheckedFile checked = Check();
+    ASSERT_EQ(checked.findings.size(), 1U);
+    EXPECT_EQ(checked.findings[0].what, "holds zero bytes and no text in records 3 to 4");
+    EXPECT_EQ(MendedRows(), std::vector<std::string>{"7000  3 14"});
 }
 
 TEST_F(HistoryFileCheckTest, AnEmptyFileIsARemark) {

@@ -10,18 +10,15 @@ namespace {
 class PickFilesCheckTest : public testing::Test {
   protected:
     void SetUp() override {
-        for (int slot = 1; slot <= 20; ++slot) {
-            games.push_back(
-                {.slot = slot, .record = "", .name = "", .defined = slot <= 2, .rules = {}, .historySet = 10});
-        }
-        games[0].rules = {.gameType = 0, .mainPickCount = 3, .mainLow = 1, .mainHigh = 49};
-        games[1].rules = {.gameType = 2,
-                          .mainPickCount = 3,
-                          .bonusPickCount = 1,
-                          .mainLow = 1,
-                          .mainHigh = 49,
-                          .bonusLow = 0,
-                          .bonusHigh = 9};
+        slots = SlotsWithoutTable(SlotUse::Free);
+        slots[0].rules = GameRules{.gameType = 0, .mainPickCount = 3, .mainLow = 1, .mainHigh = 49};
+        slots[1].rules = GameRules{.gameType = 2,
+                                   .mainPickCount = 3,
+                                   .bonusPickCount = 1,
+                                   .mainLow = 1,
+                                   .mainHigh = 49,
+                                   .bonusLow = 0,
+                                   .bonusHigh = 9};
         plays.resize(320'000, ' ');
         chosen.resize(12'800, ' ');
     }
@@ -32,11 +29,11 @@ class PickFilesCheckTest : public testing::Test {
 
     [[nodiscard]] CheckedFile CheckPlays(int slot = 1) const {
         return CheckPlayFile({{"PLAYS01.CDB", 64, 5000}, plays, static_cast<std::int64_t>(plays.size())},
-                             games[static_cast<std::size_t>(slot - 1)]);
+                             slots[static_cast<std::size_t>(slot - 1)]);
     }
     [[nodiscard]] CheckedFile CheckChosen() const {
         return CheckChosenPicksFile({{"SHUFFLE.CDB", 320, 40}, chosen, static_cast<std::int64_t>(chosen.size())},
-                                    games);
+                                    slots);
     }
 
     [[nodiscard]] static std::vector<std::string> Lines(const CheckedFile& checked) {
@@ -47,7 +44,7 @@ class PickFilesCheckTest : public testing::Test {
         return lines;
     }
 
-    std::vector<GameOnFile> games;
+    std::vector<CheckedSlot> slots;
     std::string plays;
     std::string chosen;
 };
@@ -61,10 +58,12 @@ TEST_F(PickFilesCheckTest, PlaysOfTheGamesBoardHaveNoFinding) {
     EXPECT_EQ(CheckPlays().mended, plays);
 }
 
-TEST_F(PickFilesCheckTest, APlayThatIsNotOnTheBoardIsLeft) {
+TEST_F(PickFilesCheckTest, APlayThatIsNotOnTheBoardIsARemark) {
     Put(plays, 64, 7, 1, "      0 49");
     EXPECT_EQ(Lines(CheckPlays()), Texts{"PLAYS01.CDB, record 7 (play 2.B), columns 9-10 (main pick 2): holds \"49\", "
-                                         "which is no cell of the game's board. Look at it in Ballhaven."});
+                                         "which is no cell of the game's board. An alteration of the game leaves such "
+                                         "picks. Look at it in Ballhaven."});
+    EXPECT_EQ(CheckPlays().findings.at(0).remedy, Remedy::None);
     EXPECT_EQ(CheckPlays().mended, plays);
 }
 
@@ -120,12 +119,25 @@ TEST_F(PickFilesCheckTest, PlaysOfZeroBytesBecomeEmpty) {
     ASSERT_EQ(checked.findings.size(), 1U);
     EXPECT_EQ(checked.findings[0].remedy, Remedy::Mend);
     EXPECT_EQ(checked.mended, std::string(320'000, ' '));
+    plays.assign(320'000, '\0');
+    EXPECT_EQ(Lines(CheckPlays()), Texts{"PLAYS01.CDB: holds zero bytes and no text in records 1 to 5000. Nothing is "
+                                         "left of what stood there, if anything did."});
+}
+
+TEST_F(PickFilesCheckTest, AFileThatEndsInTheMiddleOfAPlayStaysAsItIs) {
+    Put(plays, 64, 31, 1, "QP    1  2  3");
+    plays.resize(1932);
+    EXPECT_EQ(CheckPlays().findings.at(0).remedy, Remedy::User);
+    EXPECT_EQ(CheckPlays().findings.at(0).what,
+              "ends after 1932 bytes, in record 31 of 5000, which was cut in the middle: \"QP    1  2  \"");
+    plays.resize(1920);
+    EXPECT_EQ(CheckPlays().findings.at(0).remedy, Remedy::Mend);
 }
 
 TEST_F(PickFilesCheckTest, LengthsOfFilesOfPlays) {
     plays.resize(64'000);
     EXPECT_EQ(CheckPlays().findings.at(0).remedy, Remedy::None);
-    plays.resize(64'001);
+    plays.resize(64'001, ' ');
     EXPECT_EQ(CheckPlays().findings.at(0).remedy, Remedy::Mend);
     EXPECT_EQ(CheckPlays().mended.size(), 320'000U);
 }
@@ -145,10 +157,15 @@ TEST_F(PickFilesCheckTest, ChosenPicksAreLookedAtByTheirGames) {
     Put(chosen, 320, 5, 1, "88");  // an unused slot
     EXPECT_EQ(
         Lines(CheckChosen()),
-        (Texts{"SHUFFLE.CDB, record 1 (main picks chosen in slot 1), columns 1-2 (main pick 1): holds \"49\", which "
-               "is no cell of the game's board. Look at it in Ballhaven.",
-               "SHUFFLE.CDB, record 22 (bonus picks chosen in slot 2), columns 298-299 (bonus pick 100): holds "
-               "\"10\", which is no cell of the game's board. Look at it in Ballhaven."}));
+        (Texts{
+            "SHUFFLE.CDB, record 1 (main picks chosen in slot 1), columns 1-2 (main pick 1): holds \"49\", which "
+            "is no cell of the game's board. An alteration of the game leaves such picks. Look at it in Ballhaven.",
+            "SHUFFLE.CDB, record 22 (bonus picks chosen in slot 2), columns 298-299 (bonus pick 100): holds "
+            "\"10\", which is no cell of the game's board. An alteration of the game leaves such picks. Look at it in "
+            "Ballhaven."}));
+    for (const Finding& finding : CheckChosen().findings) {
+        EXPECT_EQ(finding.remedy, Remedy::None);
+    }
 }
 
 TEST_F(PickFilesCheckTest, ColumnsOfChosenPicksAreMended) {

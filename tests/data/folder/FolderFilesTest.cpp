@@ -44,7 +44,7 @@ TEST(FolderFilesTest, AFileThatCannotBeReadIsRefusedByItsPath) {
         (void)ReadFolderFile(directory.Path(), GameTableFile());
         FAIL() << "was read";
     } catch (const Refusal& refusal) {
-        EXPECT_EQ(std::string(refusal.what()), (directory / "LOTTOSYS") + " cannot be read: Operation not supported.");
+        EXPECT_EQ(std::string(refusal.what()), (directory / "LOTTOSYS") + " cannot be read: it is a folder and no file.");
     }
 }
 
