@@ -3,11 +3,13 @@
 #include "data/checks/FolderCheck.h"
 #include "data/checks/LeftOvers.h"
 #include "data/folder/CountText.h"
-#include "data/folder/Refusal.h"
 #include "data/folder/WorkFolder.h"
 #include "platform/files/FileSystem.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
+#include <map>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -17,18 +19,23 @@ namespace ballhaven::data {
 namespace {
 
 using Findings = std::vector<Finding>;
+using Reasons = std::map<std::string, std::string>;
 
 auto CountOf(const Findings& findings, Remedy remedy) {
     return std::ranges::count(findings, remedy, &Finding::remedy);
 }
 
-/// Lists the findings with one remedy, each behind a word.
-void List(const Findings& findings, Remedy remedy, const char* word, const Console& console) {
+/// Lists some of the findings, each behind a word.
+void List(const Findings& findings, const char* word, bool (*isListed)(const Finding&), const Console& console) {
     for (const Finding& finding : findings) {
-        if (finding.remedy == remedy) {
+        if (isListed(finding)) {
             console.out << word << LineOf(finding) << '\n';
         }
     }
+}
+
+bool IsMendable(const Finding& finding) {
+    return finding.remedy == Remedy::Mend;
 }
 
 void TellAll(const CheckedFolder& checked, const Console& console) {
@@ -47,35 +54,59 @@ void TellAll(const CheckedFolder& checked, const Console& console) {
     }
 }
 
-void RemoveLeftOvers(const WorkFolder& folder, const std::vector<std::string>& names) {
+/// Removes all that can be removed. Returns why the others stay, by their names.
+Reasons RemoveLeftOvers(const WorkFolder& folder, const std::vector<std::string>& names) {
+    Reasons kept;
     for (const std::string& name : names) {
         if (const int result = platform::fileSystem.remove(folder.Path() + name); result < 0) {
-            throw Refusal(folder.Path() + name + " cannot be removed: " + std::generic_category().message(-result) +
-                          ". Everything else has been mended.");
+            kept[name] = std::generic_category().message(-result);
         }
     }
+    return kept;
 }
 
-/// Repairs what can be repaired. Returns the words about what was changed, empty where nothing was.
-std::string MendAll(const std::string& path, const Console& console) {
+/// What mending has done.
+struct Mending {
+    std::string changed;  ///< the words about what was changed, empty where nothing was
+    Reasons kept;         ///< why left-overs stay, by their names
+};
+
+/// Mends what can be mended, and tells what was.
+Mending MendAll(const std::string& path, const Console& console) {
     const bool finishes = HasDecidedChange(path);
     const WorkFolder folder(path);
     if (finishes) {
         console.out << "mended: A change that was decided has been brought to its end.\n";
     }
-    const CheckedFolder found = CheckFolder(folder.Path());
+    CheckedFolder found = CheckFolder(folder.Path());
     std::string copy;
     if (!found.mended.empty()) {
         copy = folder.Change(found.mended, "check");
     }
-    RemoveLeftOvers(folder, found.leftOvers);
-    List(found.findings, Remedy::Mend, "mended: ", console);
-    if (copy.empty()) {
-        return finishes || !found.leftOvers.empty() ? "What a crash had left is gone." : "";
+    Mending mending;
+    mending.kept = RemoveLeftOvers(folder, found.leftOvers);
+    std::erase_if(found.findings, [&mending](const Finding& finding) { return mending.kept.contains(finding.file); });
+    List(found.findings, "mended: ", IsMendable, console);
+    if (!copy.empty()) {
+        mending.changed = "What was there is kept in " + copy + ".";
+        console.out << mending.changed << '\n';
+    } else if (finishes || found.leftOvers.size() > mending.kept.size()) {
+        mending.changed = "What a crash had left is gone.";
     }
-    std::string isKept = "What was there is kept in " + copy + ".";
-    console.out << isKept << '\n';
-    return isKept;
+    return mending;
+}
+
+/// What is wrong with a folder that has been mended.
+Findings FaultsLeft(const std::string& folder, const Reasons& kept) {
+    Findings left = CheckFolder(folder).findings;
+    std::erase_if(left, std::not_fn(IsFault));
+    for (Finding& finding : left) {
+        if (const auto reason = kept.find(finding.file); reason != kept.end()) {
+            finding.what = "was left by a run that did not come to its end, and cannot be removed: " + reason->second;
+            finding.meaning = "Remove it yourself.";
+        }
+    }
+    return left;
 }
 
 }  // namespace
@@ -87,14 +118,14 @@ CheckOutcome CheckData(const std::string& folder, bool mend, const Console& cons
         TellAll(checked, console);
         return {.nothingIsWrong = std::ranges::none_of(checked.findings, IsFault)};
     }
-    std::string changed = MendAll(folder, console);
-    const CheckedFolder left = CheckFolder(folder);
-    List(left.findings, Remedy::User, "left: ", console);
-    const auto count = std::ranges::count_if(left.findings, IsFault);
+    Mending mending = MendAll(folder, console);
+    const Findings left = FaultsLeft(folder, mending.kept);
+    List(left, "left: ", IsFault, console);
+    const auto count = std::ssize(left);
     console.out << (count == 0 ? std::string("Nothing is wrong any more.")
                                : CountText(count, "finding") + " left, for you to put right.")
                 << '\n';
-    return {.nothingIsWrong = count == 0, .changed = std::move(changed)};
+    return {.nothingIsWrong = count == 0, .changed = std::move(mending.changed)};
 }
 
 }  // namespace ballhaven::data

@@ -3,6 +3,7 @@
 #include "data/folder/FolderFiles.h"
 #include "data/folder/NewOutput.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/TableOnFile.h"
 #include "platform/files/DurableFile.h"
 
 #include <algorithm>
@@ -46,6 +47,21 @@ FileContents DifferentFiles(const std::string& directory, FileContents files) {
     return files;
 }
 
+/// What a change of files makes of the folder's mark, in a line; nothing where that stays.
+std::string MarkChange(const std::string& directory, const FileContents& files) {
+    const auto table = files.find(GameTableFile().name);
+    if (table == files.end()) {
+        return "";
+    }
+    const bool isMended = IsTableOfMendedFolder(table->second);
+    if (isMended == IsTableOfMendedFolder(ReadFolderFile(directory, GameTableFile()))) {
+        return "";
+    }
+    return isMended
+               ? "The folder is a mended one now, as it was then.\n"
+               : "The folder is an ordinary one now, as it was then; \"ballhaven-data mend\" marks it as mended.\n";
+}
+
 }  // namespace
 
 std::string BackUp(const WorkFolder& folder, const std::string& zip, const Console& console) {
@@ -58,8 +74,14 @@ std::string BackUp(const WorkFolder& folder, const std::string& zip, const Conso
         throw Refusal(folder.Path() + " holds no data of Ballhaven. Name the right folder with --folder.");
     }
     SaveNewOutput(zip, ArchiveOf(files));
-    std::string made = std::to_string(count) + " files are in " + zip + ".";
+    std::string made = std::to_string(count) + (count == 1 ? " file is in " : " files are in ") + zip + ".";
     console.out << made << '\n';
+    for (const FolderFile& file : AllFolderFiles()) {
+        if (const std::int64_t tail = TailLength(folder.Path(), file); tail > 0) {
+            console.out << file.name << " goes on for " << tail << (tail == 1 ? " byte" : " bytes")
+                        << " behind its last record, which no Ballhaven reads. They are not in the copy.\n";
+        }
+    }
     return made;
 }
 
@@ -69,12 +91,13 @@ std::string Restore(const WorkFolder& folder, const std::string& zip, const Cons
         console.out << "The folder holds just what " << zip << " holds. Nothing was changed.\n";
         return {};
     }
+    const std::string markChange = MarkChange(folder.Path(), files);
     const std::string copy = folder.Change(files, "restore");
     for (const auto& [name, content] : files) {
         console.out << name << (content ? " is as it was.\n" : " was not there, and is gone.\n");
     }
     std::string isKept = "What was there is kept in " + copy + ".";
-    console.out << isKept << '\n';
+    console.out << markChange << isKept << '\n';
     return isKept;
 }
 

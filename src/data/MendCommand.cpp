@@ -15,7 +15,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr int systemRecordNumber = 1;
 constexpr std::size_t fifthDigitPlace = 4;
 
 constexpr const char* whatIsDifferent =
@@ -70,12 +69,11 @@ std::string MendFolder(const WorkFolder& folder, const Console& console) {
                       ", so it is no folder of Ballhaven. Name the right one, or an empty one, with --folder.");
     }
     std::string table = WholeTable(found.value_or(""));
-    const std::string record = TableRecord(table, systemRecordNumber);
-    if (found && IsMended(record)) {
+    if (IsTableOfMendedFolder(found)) {
         console.out << folder.Path() << " is mended already. Nothing was changed.\n";
         return {};
     }
-    PutTableRecord(table, systemRecordNumber, WithMendedMark(record));
+    PutTableRecord(table, systemRecordNumber, WithMendedMark(TableRecord(table, systemRecordNumber)));
     FileContents files = MarkedHistories(folder.Path());
     files[tableName] = table;
     const std::string copy = folder.Change(files, "mend");

@@ -10,8 +10,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr int systemRecordNumber = 1;
-
 void SetHistorySet(std::string& table, const GameOnFile& game, int size) {
     std::string record = game.record;
     SetFieldValue(record, gameField::historySet, size);  // its last three digits: 1000 is "000"

@@ -54,6 +54,46 @@ TEST_F(CheckCommandTest, MendingRepairsWhatItCanAndTellsTheRest) {
     EXPECT_EQ(directory.Read("GAME01.CDB"), damaged);
 }
 
+TEST_F(CheckCommandTest, WhatCannotBeRemovedIsToldBesideAllThatWasMended) {
+    PutInto("LOTTOSYS", 1, 3, "-");
+    std::filesystem::create_directory(directory / "GAME01.CDB.new");
+    directory.Write("PLAYS01.CDB.new", "");
+    EXPECT_EQ(Run({"check", "--mend"}), refused);
+    EXPECT_EQ(notes.str(), "");
+    EXPECT_EQ(
+        out.str(),
+        "mended: PLAYS01.CDB.new: was left by a run that did not come to its end. Nothing reads it.\n"
+        "mended: LOTTOSYS, record 1 (settings), column 3 (separator): holds \"-\" and not \"/\". Nothing reads it.\n"
+        "What was there is kept in " +
+            OnlyCopy() +
+            ".\n"
+            "left: GAME01.CDB.new: was left by a run that did not come to its end, and cannot be removed: Is a "
+            "directory. Remove it yourself.\n"
+            "1 finding left, for you to put right.\n");
+    EXPECT_FALSE(directory.Has("PLAYS01.CDB.new"));
+}
+
+TEST_F(CheckCommandTest, OneRunMendsAllThatCanBeMended) {
+    PutInto("LOTTOSYS", 1, 1, std::string(3 * 64, '\0'));
+    PutInto("GAME03.CDB", 1, 1, std::string(5 * 64, '\0'));
+    PutInto("PLAYS03.CDB", 2, 1, std::string(64, '\0'));
+    PutInto("SHUFFLE.CDB", 3, 1, std::string(320, '\0'), 320);
+    EXPECT_EQ(Run({"check", "--mend"}), done) << out.str();
+    EXPECT_EQ(Run({"check"}), done) << out.str();
+}
+
+TEST_F(CheckCommandTest, AHalfDrawIsLeftAtEachRun) {
+    directory.Write("GAME01.CDB", directory.Read("GAME01.CDB").substr(0, 3266));
+    const auto before = Files();
+    for (int run = 0; run < 2; ++run) {
+        EXPECT_EQ(Run({"check", "--mend"}), refused);
+        EXPECT_TRUE(
+            Says("left: GAME01.CDB: ends after 3266 bytes, in record 52 of 1001, which was cut in the middle: "))
+            << out.str();
+        EXPECT_EQ(Files(), before);
+    }
+}
+
 TEST_F(CheckCommandTest, ANoteIsNoFinding) {
     directory.Write("GAME11.CDB", "");
     EXPECT_EQ(Run({"check"}), done);

@@ -80,9 +80,67 @@ TEST_F(CopyCommandsTest, AShorterFileTakesThePlaceOfALongerOneWhole) {
     const std::string draws = directory.Read("GAME01.CDB");
     directory.Write("GAME01.CDB", draws.substr(0, 6464));
     EXPECT_EQ(Run({"backup", zip}), done);
-    directory.Write("GAME01.CDB", draws + "behind the last record");
+    directory.Write("GAME01.CDB", draws);
     EXPECT_EQ(Run({"restore", zip}), done);
     EXPECT_EQ(directory.Read("GAME01.CDB"), draws.substr(0, 6464));
+}
+
+TEST_F(CopyCommandsTest, NoRestoreTakesAwayWhatNoCopyKeeps) {
+    const std::string draws = directory.Read("GAME01.CDB");
+    for (const bool wasThere : {true, false}) {
+        std::filesystem::remove(zip);
+        if (wasThere) {
+            directory.Write("GAME01.CDB", draws.substr(0, 6464));
+        } else {
+            std::filesystem::remove(directory / "GAME01.CDB");
+        }
+        EXPECT_EQ(Run({"backup", zip}), done);
+        directory.Write("GAME01.CDB", draws + "behind");
+        const auto before = directory.Files();
+        EXPECT_EQ(Run({"restore", zip}), refused);
+        EXPECT_EQ(notes.str(),
+                  "ballhaven-data: Nothing was changed: " + directory / "GAME01.CDB" +
+                      " goes on for 6 bytes behind its last record, which would be lost, and which no copy "
+                      "keeps. Move the file to another place, and try again.\n");
+        EXPECT_EQ(directory.Files(), before);
+    }
+}
+
+TEST_F(CopyCommandsTest, ABackupTellsWhatItLeavesOut) {
+    directory.Write("GAME01.CDB", directory.Read("GAME01.CDB") + "behind");
+    EXPECT_EQ(Run({"backup", zip}), done);
+    EXPECT_EQ(out.str(), "22 files are in " + zip +
+                             ".\nGAME01.CDB goes on for 6 bytes behind its last record, which no Ballhaven reads. They "
+                             "are not in the copy.\n");
+}
+
+TEST_F(CopyCommandsTest, ARestoreTellsWhereTheFolderIsMendedOrOrdinaryAgain) {
+    EXPECT_EQ(Run({"set", "--shown", "2"}), done);
+    const std::string ordinary = OnlyCopy();
+    EXPECT_EQ(Run({"mend"}), done);
+    EXPECT_EQ(Run({"backup", zip}), done);
+    EXPECT_EQ(Run({"restore", ordinary}), done);
+    EXPECT_TRUE(
+        Says("LOTTOSYS is as it was.\nThe folder is an ordinary one now, as it was then; \"ballhaven-data mend\" "
+             "marks it as mended.\n"))
+        << out.str();
+    EXPECT_EQ(Run({"check"}), done);
+    EXPECT_TRUE(Says("note: LOTTOSYS: has no mark of a mended folder, though 10 files of draws ")) << out.str();
+    EXPECT_EQ(Run({"restore", zip}), done);
+    EXPECT_TRUE(Says("LOTTOSYS is as it was.\nThe folder is a mended one now, as it was then.\n")) << out.str();
+    EXPECT_EQ(Run({"set", "--shown", "3"}), done);
+    EXPECT_EQ(Run({"restore", zip}), done);
+    EXPECT_FALSE(Says("The folder is ")) << out.str();
+}
+
+TEST_F(CopyCommandsTest, AFileInThePlaceOfTheCopiesIsToldAsOne) {
+    EXPECT_EQ(Run({"backup", zip}), done);
+    directory.Write("LOTTOSYS", "x");
+    directory.Write("copies", "mine");
+    EXPECT_EQ(Run({"restore", zip}), refused);
+    EXPECT_EQ(notes.str(), "ballhaven-data: Nothing was changed, since no copy could be kept in " +
+                               directory / "copies" + ": it is no folder; move it to another place.\n");
+    EXPECT_EQ(directory.Read("copies"), "mine");
 }
 
 TEST_F(CopyCommandsTest, WhatStandsBehindTheLastRecordStays) {
@@ -160,6 +218,9 @@ TEST_F(CopyCommandsTest, AFullDiskAtAnyByteOfARestoreLeavesTheFolderAsItWas) {
             support::WatchedFiles watched;
             watched.room = needed;
             restored = Run({"restore", zip}) == done;
+        }
+        if (!restored) {
+            EXPECT_TRUE(!directory.Has("copies") || std::filesystem::is_empty(directory / "copies")) << needed;
         }
         RemoveCopies();
         if (!restored) {

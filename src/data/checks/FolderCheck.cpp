@@ -10,6 +10,7 @@
 #include "platform/files/Paths.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <system_error>
 
@@ -51,6 +52,8 @@ class FolderExamination {
     void CheckLeftOvers() {
         try {
             result.leftOvers = FindLeftOvers(directory);
+        } catch (const std::filesystem::filesystem_error& error) {
+            throw Refusal(error.path1().string() + " cannot be read: " + error.code().message() + ".");
         } catch (const std::system_error& error) {
             throw Refusal(directory + " cannot be read: " + error.code().message() + ".");
         }

@@ -15,7 +15,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr int systemRecordNumber = 1;
 constexpr int highestNumber = 99;
 constexpr const char* takenForOrdinary =
     "Ballhaven takes the folder for an ordinary one. If it was a mended one, mark it again with \"ballhaven-data "

@@ -16,6 +16,10 @@ constexpr std::string_view unsavedEnding = ".new";  // of a file that was being 
 constexpr std::string_view stagedEnding = ".next";  // of a file that was to be changed with others
 constexpr const char* copiesFolder = "copies";
 
+// The name of a copy, a digit for each 0 and a word of small letters for the star.
+constexpr std::string_view copyName = "0000-00-00 00.00.00 *";
+constexpr std::string_view copyEnding = ".zip";
+
 std::string WithoutEnding(const std::string& name, std::string_view ending) {
     return name.ends_with(ending) ? name.substr(0, name.size() - ending.size()) : std::string();
 }
@@ -25,6 +29,21 @@ bool IsLeftOver(const std::string& name, const std::vector<std::string>& names, 
     const std::string staged = WithoutEnding(name, stagedEnding);
     const auto isOurs = [&names](const std::string& stem) { return std::ranges::find(names, stem) != names.end(); };
     return unsaved == changeList || isOurs(unsaved) || (!changeIsDecided && isOurs(staged));
+}
+
+bool IsWord(std::string_view text) {
+    return !text.empty() && std::ranges::all_of(text, [](char letter) { return letter >= 'a' && letter <= 'z'; });
+}
+
+bool IsCopyName(const std::string& name) {
+    const std::string stem = WithoutEnding(name, copyEnding);
+    const std::size_t timeLength = copyName.size() - 1;
+    return stem.size() > timeLength &&
+           std::ranges::equal(std::string_view(stem).substr(0, timeLength), copyName.substr(0, timeLength),
+                              [](char character, char pattern) {
+                                  return pattern == '0' ? character >= '0' && character <= '9' : character == pattern;
+                              }) &&
+           IsWord(std::string_view(stem).substr(timeLength));
 }
 
 std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
@@ -55,7 +74,7 @@ std::vector<std::string> FindLeftOvers(const std::string& directory) {
     const std::filesystem::path copies = std::filesystem::path(directory) / copiesFolder;
     if (std::filesystem::is_directory(copies)) {
         for (const std::string& name : NamesIn(copies)) {
-            if (!WithoutEnding(name, unsavedEnding).empty()) {
+            if (IsCopyName(WithoutEnding(name, unsavedEnding))) {
                 leftOvers.push_back(std::string(copiesFolder) + "/" + name);
             }
         }

@@ -108,6 +108,9 @@ class ArchiveReader {
         if (*list != Listed(files)) {
             Refuse("its list of contents does not agree with what is in it: files are missing or changed");
         }
+        if (files.empty()) {
+            Refuse("it tells of no file");
+        }
         return files;
     }
 

@@ -8,6 +8,7 @@
 #include "state/modUTILS.h"
 #include "wheels/ChosenRecord.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace ballhaven::data {
@@ -56,6 +57,12 @@ std::optional<std::string> ReadFolderFile(const std::string& directory, const Fo
     } catch (const std::system_error& error) {
         throw Refusal(path + " cannot be read: " + WhyUnreadable(path, error) + ".");
     }
+}
+
+std::int64_t TailLength(const std::string& directory, const FolderFile& file) {
+    std::error_code notThere;
+    const auto length = std::filesystem::file_size(platform::WithSeparator(directory) + file.name, notThere);
+    return notThere ? 0 : std::max<std::int64_t>(static_cast<std::int64_t>(length) - file.FormatLength(), 0);
 }
 
 std::string WhyUnreadable(const std::string& path, const std::system_error& error) {

@@ -29,6 +29,9 @@ struct FolderFile {
 /// Throws Refusal where it cannot be read.
 [[nodiscard]] std::optional<std::string> ReadFolderFile(const std::string& directory, const FolderFile& file);
 
+/// How many bytes a file has behind the last record of its format; 0 where it is not there.
+[[nodiscard]] std::int64_t TailLength(const std::string& directory, const FolderFile& file);
+
 /// Why a file cannot be read, as a user would say it: without a stop.
 [[nodiscard]] std::string WhyUnreadable(const std::string& path, const std::system_error& error);
 

@@ -3,6 +3,7 @@
 #include "state/AppState.h"
 #include "state/GameRecord.h"
 #include "state/GameRecordColumns.h"
+#include "state/MendedFolder.h"
 
 namespace ballhaven::data {
 
@@ -31,6 +32,10 @@ std::string WholeTable(std::string_view content) {
         table += BuildDefaultGameRecord(slot, 0);
     }
     return table;
+}
+
+bool IsTableOfMendedFolder(const std::optional<std::string>& content) {
+    return IsMended(TableRecord(WholeTable(content.value_or("")), systemRecordNumber));
 }
 
 std::string TableRecord(const std::string& table, int record) {

@@ -4,13 +4,13 @@
 #include "data/folder/Refusal.h"
 #include "platform/Services.h"
 #include "platform/files/DurableFile.h"
+#include "platform/files/FileSystem.h"
 #include "platform/files/FolderChange.h"
 #include "platform/files/Paths.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
-#include <limits>
 #include <system_error>
 
 namespace ballhaven::data {
@@ -21,13 +21,6 @@ constexpr const char* copiesFolder = "copies";
 
 const FolderFile& FileNamed(const std::vector<FolderFile>& known, const std::string& name) {
     return *std::ranges::find(known, name, &FolderFile::name);
-}
-
-/// From where on the old file stands behind its new content. Behind a content that ends before the last record there is
-/// nothing: it would slide into the records.
-std::int64_t TailOffset(const FolderFile& file, const std::string& content) {
-    return static_cast<std::int64_t>(content.size()) < file.FormatLength() ? std::numeric_limits<std::int64_t>::max()
-                                                                           : file.FormatLength();
 }
 
 /// Such as "2026-11-22 09.30.05", which is a part of a file's name on every system.
@@ -66,25 +59,43 @@ WorkFolder::WorkFolder(const std::string& folder, DecidedChange decided) : direc
 }
 
 std::string WorkFolder::Change(const FileContents& files, const std::string& occasion) const {
+    KeepTails(files);
     std::string copy = KeepCopy(files, occasion);
     const std::vector<FolderFile> known = AllFolderFiles();
     platform::FolderChange change(directory);
     try {
         for (const auto& [name, content] : files) {
             if (content) {
-                change.Put(name, *content, TailOffset(FileNamed(known, name), *content));
+                change.Put(name, *content, FileNamed(known, name).FormatLength());
             } else {
                 change.Remove(name);
             }
         }
         change.Commit();
     } catch (const std::system_error& error) {
+        if (!change.IsDecided()) {
+            platform::fileSystem.remove(copy);  // one that stays does no harm
+        }
         throw Refusal(change.IsDecided()
                           ? "The change could not be brought to its end: " + ReasonOf(error) +
                                 ". It will be when this program or Ballhaven is next started on " + directory + "."
                           : "Nothing was changed: " + directory + " could not be written: " + ReasonOf(error) + ".");
     }
     return copy;
+}
+
+void WorkFolder::KeepTails(const FileContents& files) const {
+    const std::vector<FolderFile> known = AllFolderFiles();
+    for (const auto& [name, content] : files) {
+        const FolderFile& file = FileNamed(known, name);
+        const std::int64_t tail = TailLength(directory, file);
+        if (tail > 0 && (!content || static_cast<std::int64_t>(content->size()) < file.FormatLength())) {
+            throw Refusal("Nothing was changed: " + directory + name + " goes on for " + std::to_string(tail) +
+                          (tail == 1 ? " byte" : " bytes") +
+                          " behind its last record, which would be lost, and which no copy keeps. Move the file to "
+                          "another place, and try again.");
+        }
+    }
 }
 
 std::string WorkFolder::KeepCopy(const FileContents& files, const std::string& occasion) const {
@@ -99,7 +110,11 @@ std::string WorkFolder::KeepCopy(const FileContents& files, const std::string& o
         return platform::NewFile(folder, TimeText(platform::services.now()) + " " + occasion, ".zip")
             .Save(ArchiveOf(old));
     } catch (const std::system_error& error) {
-        throw Refusal("Nothing was changed, since no copy could be kept in " + folder + ": " + ReasonOf(error) + ".");
+        std::error_code unknown;
+        const bool isInTheWay =
+            std::filesystem::exists(folder, unknown) && !std::filesystem::is_directory(folder, unknown);
+        throw Refusal("Nothing was changed, since no copy could be kept in " + folder + ": " +
+                      (isInTheWay ? "it is no folder; move it to another place" : ReasonOf(error)) + ".");
     }
 }
 

@@ -22,10 +22,12 @@ class WorkFolder {
 
     /// Changes files, all or nothing, up to the last record of their formats. What they held before is kept in a zip in
     /// the folder "copies", named by the current time and the occasion, such as "import". Returns the path of that
-    /// zip. Throws Refusal; nothing has changed then, unless the words say otherwise.
+    /// zip. Refuses to remove or shorten a file that goes on behind its last record: no copy keeps that. Throws
+    /// Refusal; nothing has changed then, unless the words say otherwise.
     std::string Change(const FileContents& files, const std::string& occasion) const;
 
   private:
+    void KeepTails(const FileContents& files) const;
     [[nodiscard]] std::string KeepCopy(const FileContents& files, const std::string& occasion) const;
 
     std::string directory;

@@ -18,10 +18,14 @@ TEST(LeftOversTest, OnlyFilesOfTheProgramsOwnAreLeftOvers) {
         directory.Write(name, "");
     }
     std::filesystem::create_directory(directory / "copies");
-    directory.Write("copies/a.zip", "");
-    directory.Write("copies/b.zip.new", "");
-    EXPECT_EQ(FindLeftOvers(directory.Path()),
-              (Names{"CHANGE.new", "GAME01.CDB.next", "LOTTOSYS.new", "PLAYS20.CDB.new", "copies/b.zip.new"}));
+    for (const char* name :
+         {"2026-11-22 09.30.05 import.zip", "2026-11-22 09.30.05 import.zip.new", "ideas.new", "b.zip.new",
+          "2026-11-22 09.30.05 import.new", "2026-11-22 09.30.05 .zip.new", "2026-11-22 09.30.0x set.zip.new",
+          "2026-11-22 09.30.05 my own.zip.new", "2026-11-22 09:30:05 set.zip.new"}) {
+        directory.Write("copies/" + std::string(name), "");
+    }
+    EXPECT_EQ(FindLeftOvers(directory.Path()), (Names{"CHANGE.new", "GAME01.CDB.next", "LOTTOSYS.new",
+                                                      "PLAYS20.CDB.new", "copies/2026-11-22 09.30.05 import.zip.new"}));
     EXPECT_FALSE(HasDecidedChange(directory.Path()));
 }
 

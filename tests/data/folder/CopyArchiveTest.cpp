@@ -20,8 +20,16 @@ TEST(CopyArchiveTest, FilesComeBackAsTheyWereAbsentOnesToo) {
     EXPECT_EQ(FilesOf(ArchiveOf(files), "copy.zip"), files);
 }
 
-TEST(CopyArchiveTest, ACopyOfNothingIsWhole) {
-    EXPECT_TRUE(FilesOf(ArchiveOf({}), "copy.zip").empty());
+TEST(CopyArchiveTest, ACopyThatTellsOfNoFileIsRefused) {
+    try {
+        (void)FilesOf(ArchiveOf({}), "copy.zip");
+        ADD_FAILURE() << "it was taken";
+    } catch (const Refusal& refusal) {
+        EXPECT_STREQ(
+            refusal.what(),
+            "copy.zip is no whole copy of a Ballhaven folder: it tells of no file. Nothing was taken from it.");
+    }
+    EXPECT_EQ(FilesOf(ArchiveOf({{"LOTTOSYS", std::nullopt}}), "copy.zip").size(), 1U);
 }
 
 TEST(CopyArchiveTest, WhatIsNoZipIsRefusedByItsName) {

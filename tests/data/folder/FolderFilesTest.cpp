@@ -44,7 +44,17 @@ TEST(FolderFilesTest, AFileThatCannotBeReadIsRefusedByItsPath) {
         (void)ReadFolderFile(directory.Path(), GameTableFile());
         FAIL() << "was read";
     } catch (const Refusal& refusal) {
-        EXPECT_EQ(std::string(refusal.what()), (directory / "LOTTOSYS") + " cannot be read: it is a folder and no file.");
+        EXPECT_EQ(std::string(refusal.what()),
+                  (directory / "LOTTOSYS") + " cannot be read: it is a folder and no file.");
+    }
+}
+
+TEST(FolderFilesTest, TheTailOfAFileIsWhatStandsBehindItsLastRecord) {
+    const support::TemporaryDirectory directory;
+    EXPECT_EQ(TailLength(directory.Path(), GameTableFile()), 0);
+    for (const auto& [length, tail] : {std::pair{0, 0}, {1343, 0}, {1344, 0}, {1345, 1}, {2000, 656}}) {
+        directory.Write("LOTTOSYS", std::string(static_cast<std::size_t>(length), 'x'));
+        EXPECT_EQ(TailLength(directory.Path(), GameTableFile()), tail) << length;
     }
 }
 

@@ -98,11 +98,26 @@ TEST_F(WorkFolderTest, ADecidedChangeCanBeLeftAsItIs) {
     EXPECT_EQ(directory.Files(), before);
 }
 
-TEST_F(WorkFolderTest, BehindAContentThatEndsEarlyNothingStays) {
-    directory.Write("LOTTOSYS", std::string(1344, 'o') + "behind");
+TEST_F(WorkFolderTest, AContentThatEndsEarlyTakesTheWholePlace) {
+    directory.Write("LOTTOSYS", std::string(1344, 'o'));
     const WorkFolder folder(directory.Path());
     folder.Change({{"LOTTOSYS", std::string(1343, 'n')}}, "restore");
     EXPECT_EQ(directory.Read("LOTTOSYS"), std::string(1343, 'n'));
+}
+
+TEST_F(WorkFolderTest, WhatNoCopyKeepsIsNeverCutOff) {
+    directory.Write("LOTTOSYS", std::string(1344, 'o') + "behind");
+    const auto before = directory.Files();
+    const WorkFolder folder(directory.Path());
+    const std::string words =
+        "Nothing was changed: " + directory / "LOTTOSYS" +
+        " goes on for 6 bytes behind its last record, which would be lost, and which no copy keeps. "
+        "Move the file to another place, and try again.";
+    EXPECT_EQ(RefusalOf([&] { folder.Change({{"LOTTOSYS", std::string(1343, 'n')}}, "restore"); }), words);
+    EXPECT_EQ(RefusalOf([&] { folder.Change({{"LOTTOSYS", std::nullopt}}, "restore"); }), words);
+    EXPECT_EQ(directory.Files(), before);
+    folder.Change({{"LOTTOSYS", std::string(1344, 'n')}}, "restore");
+    EXPECT_EQ(directory.Read("LOTTOSYS"), std::string(1344, 'n') + "behind");
 }
 
 TEST_F(WorkFolderTest, WithoutRoomForTheCopyNothingChanges) {
