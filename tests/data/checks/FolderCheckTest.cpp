@@ -1,23 +1,30 @@
 #include "data/checks/FolderCheck.h"
 
 #include "data/folder/DrawsOnFile.h"
+#include "data/folder/GamesOnFile.h"
 #include "data/folder/PlaysOnFile.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/TableOnFile.h"
 #include "history/HistoryFile.h"
 #include "plays/PlayFile.h"
 #include "printing/PlaySort.h"
 #include "state/AppState.h"
 #include "state/GameRecord.h"
 #include "state/GameTable.h"
+#include "state/modUTILS.h"
+#include "support/ChildProcess.h"
 #include "support/TemporaryDirectory.h"
 #include "tools/SampleGames.h"
+#include "wheels/ChosenRecord.h"
 #include "wheels/ShuffleFile.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <random>
+#include <sys/stat.h>
 
 namespace ballhaven::data {
 namespace {
@@ -164,6 +171,25 @@ TEST_F(FolderCheckTest, AFolderWithoutDataIsRefused) {
     EXPECT_THROW((void)CheckFolder(empty.Path()), Refusal);
 }
 
+TEST_F(FolderCheckTest, AFolderOrItsCopiesThatMayNotBeReadAreRefusedByName) {
+    std::filesystem::create_directory(directory / "copies");
+    for (const std::string& path : {directory / "copies", directory.Path()}) {
+        ASSERT_EQ(chmod(directory.Path().c_str(), 0755), 0);
+        ASSERT_EQ(chmod(path.c_str(), 0311), 0);
+        const auto check = [&] {
+            support::BecomeOrdinaryUser();
+            try {
+                (void)CheckFolder(directory.Path());
+            } catch (const Refusal& refusal) {
+                return std::string(refusal.what());
+            }
+            return std::string("checked");
+        };
+        EXPECT_EQ(support::RunInChild(check).words, path + " cannot be read: Permission denied.");
+        ASSERT_EQ(chmod(path.c_str(), 0755), 0);
+    }
+}
+
 /// The draws of a file by date, in the order of their rows where dates are the same.
 std::vector<DrawOnFile> SortedDraws(const std::string& content) {
     std::vector<DrawOnFile> draws = DrawsOf(content, 10).draws;
@@ -171,40 +197,102 @@ std::vector<DrawOnFile> SortedDraws(const std::string& content) {
     return draws;
 }
 
-// Whatever the damage, mending changes no draw and no play that the program reads, and what it leaves is left again.
+/// Files of every kind, with the draws of one of them in dates of five digits where the folder is mended.
+std::map<std::string, std::string> FewFiles(const support::TemporaryDirectory& directory, bool folderIsMended) {
+    std::map<std::string, std::string> files;
+    for (const char* name : {"LOTTOSYS", "GAME01.CDB", "GAME03.CDB", "PLAYS03.CDB", "SHUFFLE.CDB"}) {
+        files[name] = directory.Read(name);
+    }
+    if (folderIsMended) {
+        files["LOTTOSYS"][63] = 'M';
+        files["GAME01.CDB"][63] = 'M';
+        for (std::size_t row = 64; row + 64 <= files["GAME01.CDB"].size(); row += 64) {
+            if (files["GAME01.CDB"][row] != ' ') {
+                files["GAME01.CDB"].replace(row, 5, std::to_string(12'000 + row / 64));
+            }
+        }
+    }
+    return files;
+}
+
+/// What the program reads of a table: the mark, and each slot's name, rules and history set.
+std::vector<std::string> ReadOf(const std::string& table) {
+    std::vector<std::string> texts{IsTableOfMendedFolder(table) ? "mended" : "ordinary"};
+    for (const GameOnFile& game : GamesOf(WholeTable(table))) {
+        const GameRules& rules = game.rules;
+        std::string text = game.name;
+        for (const int number :
+             {int{game.historySet}, rules.gameType, rules.mainPickCount, rules.bonusPickCount, rules.mainLow,
+              rules.mainHigh, rules.bonusLow, rules.bonusHigh, int{rules.duplicatesAllowed}, int{rules.orderMatters}}) {
+            text += " " + std::to_string(number);
+        }
+        texts.push_back(text);
+    }
+    return texts;
+}
+
+/// The chosen picks that the program reads in each record.
+std::vector<std::vector<std::int16_t>> ChosenIn(const std::string& content) {
+    std::vector<std::vector<std::int16_t>> lists;
+    for (std::size_t record = 0; record < 40; ++record) {
+        std::vector<std::int16_t> slots(100, -1);
+        const std::string text = record * 320 < content.size() ? content.substr(record * 320, 320) : "";
+        DecodeChosenPicks(modUTILS::FixedWidth(text, 320), slots);
+        lists.push_back(slots);
+    }
+    return lists;
+}
+
+void ExpectReadAlike(const std::string& name, const std::string& before, const std::string& mended,
+                     const std::string& sample) {
+    if (name == "LOTTOSYS") {
+        EXPECT_EQ(ReadOf(mended), ReadOf(before));
+    } else if (name == "SHUFFLE.CDB") {
+        EXPECT_EQ(ChosenIn(mended), ChosenIn(before));
+    } else if (name.starts_with("PLAYS")) {
+        EXPECT_EQ(PlaysOf(mended), PlaysOf(before)) << name;
+    } else if (DateDigitsOf(mended) == DateDigitsOf(before)) {
+        EXPECT_EQ(SortedDraws(mended), SortedDraws(before)) << name;
+    } else {  // the mark that the file had lost
+        EXPECT_EQ(DateDigitsOf(mended), DateDigitsOf(sample)) << name;
+    }
+}
+
+// Whatever the damage, mending changes nothing that the program reads, and what it leaves is left again.
 TEST_F(FolderCheckTest, MendingChangesNothingThatIsRead) {
-    const auto sample = directory.Files();
     std::mt19937 chance(2002);
     const auto upTo = [&chance](std::size_t count) { return static_cast<std::size_t>(chance() % count); };
     int mendings = 0;
-    for (int round = 0; round < 12; ++round) {
-        for (const char* name : {"LOTTOSYS", "GAME01.CDB", "GAME03.CDB", "PLAYS01.CDB", "PLAYS03.CDB", "SHUFFLE.CDB"}) {
-            std::string bytes = sample.at(name);
+    for (int round = 0; round < 24; ++round) {
+        SCOPED_TRACE("round " + std::to_string(round));
+        const auto sample = FewFiles(directory, round % 2 == 1);
+        const support::TemporaryDirectory damaged;
+        for (const auto& [name, content] : sample) {
+            std::string bytes = content;
             for (int damage = 0; damage < 6; ++damage) {
-                static constexpr std::string_view letters = " 0123456789/x-M";
-                bytes[upTo(std::min<std::size_t>(bytes.size(), 20'000))] = letters[upTo(letters.size())];
+                static constexpr std::string_view letters("\0 0123456789/x-M", 16);
+                bytes[upTo(std::min<std::size_t>(bytes.size(), damage == 0 ? 68 : 20'000))] =
+                    letters[upTo(letters.size())];
+            }
+            if (name.starts_with("GAME")) {
+                bytes[64 * (1 + upTo(300)) + 4] = '3';  // behind four digits of a date
             }
             if (round % 4 == 0) {
                 bytes.resize(upTo(bytes.size()));
             }
-            directory.Write(name, bytes);
+            damaged.Write(name, bytes);
         }
-        const CheckedFolder checked = CheckFolder(directory.Path());
+        const CheckedFolder checked = CheckFolder(damaged.Path());
         for (const auto& [name, content] : checked.mended) {
-            const std::string before = directory.Read(name);
             ++mendings;
-            if (name.starts_with("GAME")) {
-                EXPECT_EQ(SortedDraws(*content), SortedDraws(before)) << name << " in round " << round;
-            } else if (name.starts_with("PLAYS")) {
-                EXPECT_EQ(PlaysOf(*content), PlaysOf(before)) << name << " in round " << round;
-            }
-            directory.Write(name, *content);
+            ExpectReadAlike(name, damaged.Read(name), *content, sample.at(name));
+            damaged.Write(name, *content);
         }
-        const CheckedFolder again = CheckFolder(directory.Path());
-        EXPECT_TRUE(again.mended.empty()) << again.mended.begin()->first << " in round " << round;
+        const CheckedFolder again = CheckFolder(damaged.Path());
+        EXPECT_TRUE(again.mended.empty()) << again.mended.begin()->first;
         EXPECT_EQ(std::ranges::count(again.findings, Remedy::Mend, &Finding::remedy), 0);
     }
-    EXPECT_GT(mendings, 25);
+    EXPECT_GT(mendings, 40);
 }
 
 }  // namespace
