@@ -1,5 +1,6 @@
 #include "data/CopyCommands.h"
 
+#include "data/folder/CountText.h"
 #include "data/folder/FolderFiles.h"
 #include "data/folder/NewOutput.h"
 #include "data/folder/Refusal.h"
@@ -74,11 +75,11 @@ std::string BackUp(const WorkFolder& folder, const std::string& zip, const Conso
         throw Refusal(folder.Path() + " holds no data of Ballhaven. Name the right folder with --folder.");
     }
     SaveNewOutput(zip, ArchiveOf(files));
-    std::string made = std::to_string(count) + (count == 1 ? " file is in " : " files are in ") + zip + ".";
+    std::string made = CountText(count, "file") + (count == 1 ? " is in " : " are in ") + zip + ".";
     console.out << made << '\n';
     for (const FolderFile& file : AllFolderFiles()) {
         if (const std::int64_t tail = TailLength(folder.Path(), file); tail > 0) {
-            console.out << file.name << " goes on for " << tail << (tail == 1 ? " byte" : " bytes")
+            console.out << file.name << " goes on for " << CountText(tail, "byte")
                         << " behind its last record, which no Ballhaven reads. They are not in the copy.\n";
         }
     }

@@ -1,21 +1,18 @@
 #include "data/MendCommand.h"
 
+#include "data/folder/DrawsOnFile.h"
 #include "data/folder/FolderFiles.h"
 #include "data/folder/Refusal.h"
 #include "data/folder/TableOnFile.h"
 #include "history/DrawRecord.h"
 #include "state/AppState.h"
 #include "state/MendedFolder.h"
-#include "state/modUTILS.h"
 
-#include <algorithm>
 #include <filesystem>
 
 namespace ballhaven::data {
 
 namespace {
-
-constexpr std::size_t fifthDigitPlace = 4;
 
 constexpr const char* whatIsDifferent =
     "In a mended folder no statistic ends the program, and daily use keeps what was entered:\n"
@@ -26,16 +23,6 @@ constexpr const char* whatIsDifferent =
     "- a partial wheel follows the plays in use, and printing the plays leaves them as they are;\n"
     "- pairs, repeaters and percentages of many draws are as large as they are.\n"
     "Everything else stays as it is.\n";
-
-/// The content of a file of draws with the mark of dates of five digits, each date the one that it is read as now.
-std::string WithFiveDigitDates(std::string content) {
-    const auto length = static_cast<std::size_t>(drawRecordLength);
-    for (std::size_t row = length; row + fifthDigitPlace < content.size(); row += length) {
-        content[row + fifthDigitPlace] = ' ';
-    }
-    const std::string header = WithFiveDigits(content.substr(0, length));
-    return header + content.substr(std::min(length, content.size()));
-}
 
 /// The files of draws that keep four digits, with the mark of five.
 FileContents MarkedHistories(const std::string& directory) {

@@ -1,5 +1,6 @@
 #include "data/checks/Examination.h"
 
+#include "data/folder/CountText.h"
 #include "platform/files/CodePage.h"
 
 #include <algorithm>
@@ -27,10 +28,6 @@ std::string PlaceOf(int first, int width) {
                       : "columns " + std::to_string(first) + "-" + std::to_string(first + width - 1);
 }
 
-std::string BytesText(std::int64_t count) {
-    return std::to_string(count) + (count == 1 ? " byte" : " bytes");
-}
-
 /// What is left of a record that the end of its file has cut.
 std::string_view TornRecord(const FoundFile& found) {
     const std::string_view bytes = found.bytes;
@@ -38,7 +35,7 @@ std::string_view TornRecord(const FoundFile& found) {
 }
 
 std::string EndText(const FoundFile& found) {
-    return "ends after " + BytesText(found.length) + ", in record " +
+    return "ends after " + CountText(found.length, "byte") + ", in record " +
            std::to_string(found.length / found.form.recordLength + 1) + " of " + std::to_string(found.form.recordCount);
 }
 
@@ -228,7 +225,7 @@ void CheckEnd(Examination& examination, const FoundFile& found, const std::strin
     if (found.length < whole) {
         examination.Mend(EndText(found), meaningOfCut);
     } else if (found.length > whole) {
-        examination.Remark("goes on for " + BytesText(found.length - whole) + " behind its last record",
+        examination.Remark("goes on for " + CountText(found.length - whole, "byte") + " behind its last record",
                            "Ballhaven neither reads nor changes them.");
     }
 }

@@ -4,6 +4,7 @@
 #include "data/checks/HistoryFileCheck.h"
 #include "data/checks/LeftOvers.h"
 #include "data/checks/PickFilesCheck.h"
+#include "data/folder/CountText.h"
 #include "data/folder/Refusal.h"
 #include "history/DrawRecord.h"
 #include "platform/files/DurableFile.h"
@@ -85,8 +86,8 @@ class FolderExamination {
         }
         if (marked > 0 && !folderIsMended && (isRead || !found)) {
             Keep(GameTableFile().name,
-                 "has no mark of a mended folder, though " + std::to_string(marked) +
-                     (marked == 1 ? " file" : " files") + " of draws keep dates of five digits",
+                 "has no mark of a mended folder, though " + CountText(marked, "file") +
+                     " of draws keep dates of five digits",
                  "If the folder was a mended one, mark it again with \"ballhaven-data mend\".", Remedy::None);
         }
     }

@@ -89,4 +89,14 @@ std::string ContentOf(const DrawsOnFile& file, const std::optional<std::string>&
     return content;
 }
 
+std::string WithFiveDigitDates(std::string content) {
+    const auto length = static_cast<std::size_t>(drawRecordLength);
+    constexpr std::size_t fifthDigit = 4;
+    for (std::size_t row = length; row + fifthDigit < content.size(); row += length) {
+        content[row + fifthDigit] = ' ';
+    }
+    const std::string header = WithFiveDigits(content.substr(0, length));
+    return header + content.substr(std::min(length, content.size()));
+}
+
 }  // namespace ballhaven::data

@@ -49,4 +49,7 @@ struct BesideDraws {
 /// Of more than 1000 draws the last ones are not in it.
 [[nodiscard]] std::string ContentOf(const DrawsOnFile& file, const std::optional<std::string>& oldContent);
 
+/// A content of four digits with the mark of dates of five, each date the one that it was read as.
+[[nodiscard]] std::string WithFiveDigitDates(std::string content);
+
 }  // namespace ballhaven::data

@@ -1,5 +1,6 @@
 #include "data/folder/WorkFolder.h"
 
+#include "data/folder/CountText.h"
 #include "data/folder/FolderFiles.h"
 #include "data/folder/Refusal.h"
 #include "platform/Services.h"
@@ -90,8 +91,7 @@ void WorkFolder::KeepTails(const FileContents& files) const {
         const FolderFile& file = FileNamed(known, name);
         const std::int64_t tail = TailLength(directory, file);
         if (tail > 0 && (!content || static_cast<std::int64_t>(content->size()) < file.FormatLength())) {
-            throw Refusal("Nothing was changed: " + directory + name + " goes on for " + std::to_string(tail) +
-                          (tail == 1 ? " byte" : " bytes") +
+            throw Refusal("Nothing was changed: " + directory + name + " goes on for " + CountText(tail, "byte") +
                           " behind its last record, which would be lost, and which no copy keeps. Move the file to "
                           "another place, and try again.");
         }

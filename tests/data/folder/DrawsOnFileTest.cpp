@@ -80,5 +80,12 @@ TEST(DrawsOnFileTest, WhatIsNoPickOfADrawIsCounted) {
     EXPECT_EQ(BesideDrawsOf("", 2), BesideDraws{});
 }
 
+TEST(DrawsOnFileTest, InFiveDigitsEachDateStaysTheOneThatItWasReadAs) {
+    std::string content = "10-26-2002" + std::string(54, ' ') + "70013 1  2" + std::string(54, ' ') + "7001";
+    const std::string marked = WithFiveDigitDates(content);
+    EXPECT_EQ(marked, content.replace(63, 1, "M").replace(64 + 4, 1, " "));
+    EXPECT_EQ(DrawsOf(marked, 2).draws.at(0), (DrawOnFile{7001, {1, 2}}));
+}
+
 }  // namespace
 }  // namespace ballhaven::data
