@@ -1,6 +1,7 @@
 #include "data/checks/LeftOvers.h"
 
 #include "data/folder/FolderFiles.h"
+#include "data/folder/WorkFolder.h"
 #include "platform/files/FolderChange.h"
 
 #include <algorithm>
@@ -14,7 +15,6 @@ namespace {
 constexpr const char* changeList = "CHANGE";
 constexpr std::string_view unsavedEnding = ".new";  // of a file that was being saved
 constexpr std::string_view stagedEnding = ".next";  // of a file that was to be changed with others
-constexpr const char* copiesFolder = "copies";
 
 // The name of a copy, a digit for each 0 and a word of small letters for the star.
 constexpr std::string_view copyName = "0000-00-00 00.00.00 *";

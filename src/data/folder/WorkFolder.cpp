@@ -18,8 +18,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr const char* copiesFolder = "copies";
-
 const FolderFile& FileNamed(const std::vector<FolderFile>& known, const std::string& name) {
     return *std::ranges::find(known, name, &FolderFile::name);
 }

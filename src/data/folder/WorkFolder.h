@@ -8,6 +8,9 @@
 
 namespace ballhaven::data {
 
+/// Where a folder keeps what its changes have replaced.
+inline constexpr const char* copiesFolder = "copies";
+
 /// What becomes of a change of the folder that was decided and not brought to its end.
 enum class DecidedChange { Finish, Leave };
 
