@@ -158,7 +158,7 @@ void ArrangePlaysForm(int gameType, bool orderMatters) {
 }
 
 void ShowSlipNumber(int slip) {
-    frmPlays.lblPlaySlip.text = std::string(1, ' ') + std::to_string(slip) + " Play Slip  ";
+    frmPlays.lblPlaySlip.text = std::string(" ").append(std::to_string(slip)).append(" Play Slip  ");
 }
 
 }  // namespace ballhaven

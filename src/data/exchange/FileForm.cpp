@@ -46,7 +46,7 @@ bool NamesDelimiter(const CsvText& text) {
 void RefusePlays(const Fields& first) {
     std::string names;
     for (const std::string_view field : std::span(first).first(std::min(first.size(), playColumns))) {
-        names += (names.empty() ? "" : ",") + std::string(field);
+        names.append(names.empty() ? "" : ",").append(field);
     }
     if (names == playColumnNames) {
         throw Refusal("it holds plays, as \"export --plays\" writes them; draws alone can be imported");

@@ -75,7 +75,7 @@ std::string Quoted(std::string_view text) {
     while (end > 0 && ContinuesCharacter(shown[end])) {
         --end;
     }
-    return "\"" + shown.substr(0, end) + "...\"";
+    return std::string("\"").append(shown, 0, end).append("...\"");
 }
 
 }  // namespace ballhaven::data
