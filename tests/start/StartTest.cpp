@@ -114,11 +114,12 @@ TEST_F(Starting, AChangeThatCannotBeFinishedIsToldAndNoWindowOpens) {
     services.executableDirectory = [] { return std::string("/far/away"); };
     platform::fileSystem.open = [](const std::string&, platform::FileAccess) { return -EIO; };
     StartProgram();
-    EXPECT_EQ(boxes, (std::vector<platform::MessageBoxRequest>{
-                         {"Ballhaven cannot finish a change that was begun in the folder\n/far/away\n\n"
-                          "The system says: Input/output error. Make sure that you may write there, and start Ballhaven "
-                          "again.",
-                          platform::BoxButtons::Ok, platform::BoxIcon::Critical, "Ballhaven"}}));
+    EXPECT_EQ(boxes,
+              (std::vector<platform::MessageBoxRequest>{
+                  {"Ballhaven cannot finish a change that was begun in the folder\n/far/away\n\n"
+                   "The system says: Input/output error. Make sure that you may write there, and start Ballhaven "
+                   "again.",
+                   platform::BoxButtons::Ok, platform::BoxIcon::Critical, "Ballhaven"}}));
     EXPECT_EQ(exitCodes, (std::vector<int>{0}));
     EXPECT_FALSE(frmMainForm.window.IsLoaded());
 }
