@@ -1,10 +1,10 @@
 #include "data/CheckCommand.h"
 
 #include "data/checks/FolderCheck.h"
-#include "data/checks/LeftOvers.h"
 #include "data/folder/CountText.h"
 #include "data/folder/WorkFolder.h"
 #include "platform/files/FileSystem.h"
+#include "platform/files/FolderChange.h"
 
 #include <algorithm>
 #include <functional>
@@ -73,7 +73,7 @@ struct Mending {
 
 /// Mends what can be mended, and tells what was.
 Mending MendAll(const std::string& path, const Console& console) {
-    const bool finishes = HasDecidedChange(path);
+    const bool finishes = platform::HasDecidedChange(path);
     const WorkFolder folder(path);
     if (finishes) {
         console.out << "mended: A change that was decided has been brought to its end.\n";

@@ -8,6 +8,7 @@
 #include "data/folder/Refusal.h"
 #include "history/DrawRecord.h"
 #include "platform/files/DurableFile.h"
+#include "platform/files/FolderChange.h"
 #include "platform/files/Paths.h"
 
 #include <algorithm>
@@ -58,8 +59,8 @@ class FolderExamination {
         } catch (const std::system_error& error) {
             throw Refusal(directory + " cannot be read: " + error.code().message() + ".");
         }
-        if (HasDecidedChange(directory)) {
-            Keep("CHANGE", "tells of a change that was decided and not brought to its end",
+        if (platform::HasDecidedChange(directory)) {
+            Keep(platform::changeListName, "tells of a change that was decided and not brought to its end",
                  "Some files may be the new ones already; Ballhaven finishes it when it next starts.", Remedy::Mend);
         }
         for (const std::string& name : result.leftOvers) {

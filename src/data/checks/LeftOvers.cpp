@@ -2,6 +2,7 @@
 
 #include "data/folder/FolderFiles.h"
 #include "data/folder/WorkFolder.h"
+#include "platform/files/DurableFile.h"
 #include "platform/files/FolderChange.h"
 
 #include <algorithm>
@@ -12,10 +13,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr const char* changeList = "CHANGE";
-constexpr std::string_view unsavedEnding = ".new";  // of a file that was being saved
-constexpr std::string_view stagedEnding = ".next";  // of a file that was to be changed with others
-
 // The name of a copy, a digit for each 0 and a word of small letters for the star.
 constexpr std::string_view copyName = "0000-00-00 00.00.00 *";
 constexpr std::string_view copyEnding = ".zip";
@@ -25,10 +22,10 @@ std::string WithoutEnding(const std::string& name, std::string_view ending) {
 }
 
 bool IsLeftOver(const std::string& name, const std::vector<std::string>& names, bool changeIsDecided) {
-    const std::string unsaved = WithoutEnding(name, unsavedEnding);
-    const std::string staged = WithoutEnding(name, stagedEnding);
+    const std::string unsaved = WithoutEnding(name, platform::unsavedEnding);
+    const std::string staged = WithoutEnding(name, platform::stagedEnding);
     const auto isOurs = [&names](const std::string& stem) { return std::ranges::find(names, stem) != names.end(); };
-    return unsaved == changeList || isOurs(unsaved) || (!changeIsDecided && isOurs(staged));
+    return unsaved == platform::changeListName || isOurs(unsaved) || (!changeIsDecided && isOurs(staged));
 }
 
 bool IsWord(std::string_view text) {
@@ -57,14 +54,10 @@ std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
 
 }  // namespace
 
-bool HasDecidedChange(const std::string& directory) {
-    return platform::HasDecidedChange(directory);
-}
-
 std::vector<std::string> FindLeftOvers(const std::string& directory) {
     std::vector<std::string> ours;
     std::ranges::transform(AllFolderFiles(), std::back_inserter(ours), &FolderFile::name);
-    const bool changeIsDecided = HasDecidedChange(directory);
+    const bool changeIsDecided = platform::HasDecidedChange(directory);
     std::vector<std::string> leftOvers;
     for (const std::string& name : NamesIn(directory)) {
         if (IsLeftOver(name, ours, changeIsDecided)) {
@@ -74,7 +67,7 @@ std::vector<std::string> FindLeftOvers(const std::string& directory) {
     const std::filesystem::path copies = std::filesystem::path(directory) / copiesFolder;
     if (std::filesystem::is_directory(copies)) {
         for (const std::string& name : NamesIn(copies)) {
-            if (IsCopyName(WithoutEnding(name, unsavedEnding))) {
+            if (IsCopyName(WithoutEnding(name, platform::unsavedEnding))) {
                 leftOvers.push_back(std::string(copiesFolder) + "/" + name);
             }
         }

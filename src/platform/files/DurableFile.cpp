@@ -63,7 +63,7 @@ std::string RealPath(const std::string& path) {
 }
 
 std::string TemporaryPath(const std::string& realPath) {
-    return realPath + ".new";
+    return realPath + std::string(unsavedEnding);
 }
 
 FileStatus RegularStatus(const OpenFile& file) {

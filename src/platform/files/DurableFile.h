@@ -8,6 +8,9 @@
 
 namespace ballhaven::platform {
 
+/// What stands behind the name of a file while it is being saved.
+inline constexpr std::string_view unsavedEnding = ".new";
+
 /// The beginning of a file.
 struct FileHead {
     std::string bytes;

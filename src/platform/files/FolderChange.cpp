@@ -12,7 +12,6 @@ namespace ballhaven::platform {
 
 namespace {
 
-constexpr const char* listName = "CHANGE";
 constexpr std::string_view putWord = "put ";
 constexpr std::string_view removeWord = "remove ";
 constexpr std::int64_t longestList = 64 * 1024;
@@ -27,7 +26,7 @@ std::string TargetOf(const std::string& directory, const std::string& name) {
 }
 
 std::string StagedPath(const std::string& target) {
-    return target + ".next";
+    return target + std::string(stagedEnding);
 }
 
 bool IsNameInAFolder(const std::string& name) {
@@ -48,7 +47,7 @@ void FlushFolder(const std::string& directory) {
 /// Ends a change: the files that it has put into place reach the disk before its list goes.
 void RemoveList(const std::string& directory) {
     FlushFolder(directory);
-    CheckedIfThere(fileSystem.remove(directory + listName));
+    CheckedIfThere(fileSystem.remove(directory + changeListName));
     FlushFolder(directory);
 }
 
@@ -128,12 +127,12 @@ void FolderChange::Decide() const {
     for (const Step& step : steps) {
         list.append(step.puts ? putWord : removeWord).append(step.name).append("\n");
     }
-    NewFile file(directory, listName, "");
+    NewFile file(directory, changeListName, "");
     try {
         file.SaveUnderItsName(list);
     } catch (const std::system_error& error) {
         if (error.code() != std::errc::file_exists) {
-            fileSystem.remove(directory + listName);  // it may bear its name already, and not be on the disk
+            fileSystem.remove(directory + changeListName);  // it may bear its name already, and not be on the disk
         }
         throw;
     }
@@ -147,7 +146,7 @@ void FolderChange::TakeAll() {
             ++taken;
         }
     } catch (const std::system_error&) {
-        decided = taken > 0 || fileSystem.remove(directory + listName) < 0;
+        decided = taken > 0 || fileSystem.remove(directory + changeListName) < 0;
         throw;
     }
     decided = true;
@@ -155,7 +154,7 @@ void FolderChange::TakeAll() {
 }
 
 std::vector<FolderChange::Step> FolderChange::DecidedSteps(const std::string& directory) {
-    const std::optional<FileHead> list = ReadHeadIfThere(directory + listName, longestList);
+    const std::optional<FileHead> list = ReadHeadIfThere(directory + changeListName, longestList);
     std::vector<Step> steps;
     std::istringstream lines(list ? list->bytes : std::string());
     for (std::string line; std::getline(lines, line);) {

@@ -7,6 +7,10 @@
 
 namespace ballhaven::platform {
 
+/// The name of the list of a change that was decided, and what stands behind the names of the files that it puts.
+inline constexpr const char* changeListName = "CHANGE";
+inline constexpr std::string_view stagedEnding = ".next";
+
 /// A change of several files of a folder that comes about for all of them or for none.
 ///
 /// The new contents are put beside the files, as NAME.next, and flushed. Then a list of the steps, the file

@@ -1,5 +1,6 @@
 #include "data/checks/LeftOvers.h"
 
+#include "platform/files/FolderChange.h"
 #include "support/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +27,7 @@ TEST(LeftOversTest, OnlyFilesOfTheProgramsOwnAreLeftOvers) {
     }
     EXPECT_EQ(FindLeftOvers(directory.Path()), (Names{"CHANGE.new", "GAME01.CDB.next", "LOTTOSYS.new",
                                                       "PLAYS20.CDB.new", "copies/2026-11-22 09.30.05 import.zip.new"}));
-    EXPECT_FALSE(HasDecidedChange(directory.Path()));
+    EXPECT_FALSE(platform::HasDecidedChange(directory.Path()));
 }
 
 TEST(LeftOversTest, WhatADecidedChangeNeedsIsNone) {
@@ -34,7 +35,7 @@ TEST(LeftOversTest, WhatADecidedChangeNeedsIsNone) {
     for (const char* name : {"CHANGE", "GAME01.CDB.next", "GAME01.CDB.new"}) {
         directory.Write(name, "remove GAME02.CDB\n");
     }
-    EXPECT_TRUE(HasDecidedChange(directory.Path()));
+    EXPECT_TRUE(platform::HasDecidedChange(directory.Path()));
     EXPECT_EQ(FindLeftOvers(directory.Path()), Names{"GAME01.CDB.new"});
 }
 
