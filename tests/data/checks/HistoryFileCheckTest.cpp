@@ -295,7 +295,7 @@ TEST_F(HistoryFileCheckTest, AFileThatEndsInTheMiddleOfADrawStaysAsItIs) {
               "file was not looked at any further. Restore a copy; or look at the record in Ballhaven, put it right, "
               "save it, and check again.");
     EXPECT_EQ(checked.findings[0].remedy, Remedy::User);
-    for (const std::size_t length : {1, 63, 3 * 64 + 1, 3 * 64 + 4, 3 * 64 + 63}) {
+    for (const std::size_t length : {1U, 63U, 3U * 64 + 1, 3U * 64 + 4, 3U * 64 + 63}) {
         content = whole.substr(0, length);
         EXPECT_EQ(Check().findings.size(), 1U);
         EXPECT_EQ(Check().findings.at(0).remedy, Remedy::User) << length;
