@@ -277,8 +277,6 @@ ExitCode RunCommandLine(std::vector<std::string> arguments, const std::string& o
         return commands.Run(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         return commands.Explain(error);
-    } catch (const Refusal& refusal) {
-        console.notes << "ballhaven-data: " << refusal.what() << '\n';
     } catch (const std::exception& failure) {
         console.notes << "ballhaven-data: " << failure.what() << '\n';
     }
