@@ -105,10 +105,10 @@ class ClassicStyle : public PlainScrollBarStyle {
         if (element == CE_PushButtonBevel && button != nullptr) {
             QStyleOptionButton shared = *button;
             shared.palette = SharedPalette(button->palette);
-            QProxyStyle::drawControl(element, &shared, painter, widget);
+            PlainScrollBarStyle::drawControl(element, &shared, painter, widget);
             return;
         }
-        QProxyStyle::drawControl(element, option, painter, widget);
+        PlainScrollBarStyle::drawControl(element, option, painter, widget);
     }
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -117,10 +117,10 @@ class ClassicStyle : public PlainScrollBarStyle {
         if (control == CC_ComboBox && list != nullptr) {
             QStyleOptionComboBox shared = *list;
             shared.palette = SharedPalette(list->palette);
-            QProxyStyle::drawComplexControl(control, &shared, painter, widget);
+            PlainScrollBarStyle::drawComplexControl(control, &shared, painter, widget);
             return;
         }
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        PlainScrollBarStyle::drawComplexControl(control, option, painter, widget);
     }
 
     // The mark of a menu bar that has no room for its menus. The toolkit's own is a file that it looks for a reader

@@ -7,8 +7,11 @@
 #include <QMessageBox>
 #include <QPixmapCache>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyle>
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace ballhaven::platform {
 namespace {
@@ -77,6 +80,23 @@ TEST(Appearance, AButtonWithColoursOfItsOwnKeepsThem) {
     colours.setColor(QPalette::Button, Qt::red);
     button.setPalette(colours);
     EXPECT_NE(button.grab().toImage(), plain);
+}
+
+TEST(Appearance, ScrollBarsAreFlatFacesInTheColoursOfThePalette) {
+    QScrollBar bar(Qt::Vertical);
+    bar.setRange(0, 100);
+    bar.resize(14, 200);
+    const QImage drawn = bar.grab().toImage();
+    std::set<QRgb> colours;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) {
+            colours.insert(drawn.pixel(x, y));
+        }
+    }
+    const QPalette palette = QApplication::palette();
+    EXPECT_EQ(colours,
+              (std::set<QRgb>{palette.color(QPalette::Midlight).rgb(), palette.color(QPalette::Dark).rgb(),
+                              palette.color(QPalette::Button).rgb(), palette.color(QPalette::ButtonText).rgb()}));
 }
 
 TEST(Appearance, ListsDropDownBelowTheirBox) {
