@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/Grid.h"
+#include "platform/qt/grid/GridMeasures.h"
 #include "platform/qt/grid/GridPaneModel.h"
 
 #include <QHeaderView>
@@ -27,6 +28,9 @@ class GridCellPainter : public QStyledItemDelegate {
 class GridHeadings : public QHeaderView {
   public:
     GridHeadings(const GridPane& shownPane, QWidget* parent);
+
+    /// The toolkit's own headings would measure all their texts each time they are asked.
+    [[nodiscard]] QSize sizeHint() const override { return {0, gridHeadingHeight}; }
 
   protected:
     void paintSection(QPainter* painter, const QRect& section, int logicalIndex) const override;

@@ -36,7 +36,6 @@ GridPaneView::GridPaneView(Grid& shownGrid, int shownPane, QWidget* parent)
 
 void GridPaneView::Place(const GridMeasures::PanePlace& place) {
     horizontalHeader()->setVisible(grid.showsHeadings);
-    horizontalHeader()->setFixedHeight(gridHeadingHeight);
     verticalHeader()->setDefaultSectionSize(RowPixels(grid));
     if (cells.TakeColumns()) {
         FollowCurrentCell();
