@@ -49,6 +49,14 @@ run 1 backup "$work/monday.zip"
 says "is there already"
 is_as "$original" "a backup has changed something"
 
+echo "== without its standard streams"
+"$folder/ballhaven-data" guarantee "First Four Home" --numbers 1-10 --drawn 3 --hits 2 --proof "$work/proof.csv" \
+    <&- 2>&- >"$work/lines"
+[[ $(head -n 1 "$work/proof.csv") == pick1,pick2,pick3 ]] || fail "words for the errors are in the proof"
+"$folder/ballhaven-data" backup "$work/tuesday.zip" <&- >&- 2>&- || fail "no backup without standard streams"
+cmp "$work/monday.zip" "$work/tuesday.zip" || fail "the backup without standard streams is another one"
+rm "$work/tuesday.zip"
+
 echo "== settings"
 run 0 set "three digits" --history-set 1000
 run 0 set --shown 7
