@@ -131,9 +131,16 @@ class NewFile::Temporary : public TemporaryFile {
 
 NewFile::NewFile(std::string folderPath, std::string nameStem, std::string nameEnding)
     : folder(WithSeparator(std::move(folderPath))), stem(std::move(nameStem)), ending(std::move(nameEnding)) {
-    const std::string path = TemporaryPath(PathOf(1));
-    fileSystem.remove(path);  // one that cannot be removed lets the next step fail
-    temporary = std::make_unique<Temporary>(path);
+    // What bears the temporary name already may be a file of the user's, so that another name is tried.
+    for (int copy = 1; !temporary; ++copy) {
+        try {
+            temporary = std::make_unique<Temporary>(TemporaryPath(PathOf(copy)));
+        } catch (const std::system_error& error) {
+            if (error.code() != std::errc::file_exists || copy == mostCopies) {
+                throw;
+            }
+        }
+    }
 }
 
 NewFile::~NewFile() = default;

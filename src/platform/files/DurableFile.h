@@ -30,12 +30,12 @@ struct FileHead {
 /// std::system_error; the file is the old one then, except where the flush of the directory, the last step, has failed.
 void ReplaceHead(const std::string& path, std::string_view head, std::int64_t tailOffset);
 
-/// A file that comes into being whole, and never in another one's place. Until it is saved its name ends in
-/// ".new"; at the end of the scope it is gone, unless it was saved.
+/// A file that comes into being whole, and never in another one's place. Until it is saved its name is the first free
+/// one of "Report.pdf.new", "Report (2).pdf.new" and so on; at the end of the scope it is gone, unless it was saved.
 class NewFile {
   public:
-    /// Begins a file in a folder, with a name of two parts such as "Report" and ".pdf". Removes what a crash left of an
-    /// earlier one. Throws std::system_error where the folder takes no file.
+    /// Begins a file in a folder, with a name of two parts such as "Report" and ".pdf". Throws std::system_error where
+    /// the folder takes no file.
     NewFile(std::string folderPath, std::string nameStem, std::string nameEnding);
     ~NewFile();
     NewFile(const NewFile&) = delete;

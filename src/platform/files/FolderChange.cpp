@@ -127,6 +127,7 @@ void FolderChange::Decide() const {
     for (const Step& step : steps) {
         list.append(step.puts ? putWord : removeWord).append(step.name).append("\n");
     }
+    fileSystem.remove(directory + changeListName + std::string(unsavedEnding));  // what a crash left
     NewFile file(directory, changeListName, "");
     try {
         file.SaveUnderItsName(list);

@@ -479,10 +479,21 @@ TEST_F(NewFileTest, ThatIsNotSavedLeavesNothing) {
     EXPECT_EQ(directory.Files(), Files{});
 }
 
-TEST_F(NewFileTest, RemovesWhatACrashLeft) {
-    directory.Write("Report.pdf.new", "half");
+TEST_F(NewFileTest, LeavesAFileAloneThatBearsItsTemporaryName) {
+    directory.Write("Report.pdf.new", "the user's");
+    std::filesystem::create_symlink("nowhere", directory / "Report (2).pdf.new");
+    {
+        const NewFile file(directory.Path(), "Report", ".pdf");
+        EXPECT_TRUE(directory.Has("Report (3).pdf.new"));
+    }
     EXPECT_EQ(Save("pages"), directory / "Report.pdf");
-    EXPECT_EQ(directory.Files(), (Files{{"Report.pdf", "pages"}}));
+    std::filesystem::remove(directory / "Report (2).pdf.new");
+    EXPECT_EQ(directory.Files(), (Files{{"Report.pdf", "pages"}, {"Report.pdf.new", "the user's"}}));
+}
+
+TEST_F(NewFileTest, GivesUpWhereNoTemporaryNameIsFree) {
+    fileSystem.open = [](const std::string&, FileAccess) { return -EEXIST; };
+    EXPECT_EQ(ErrorOf([this] { const NewFile file(directory.Path(), "Report", ".pdf"); }), EEXIST);
 }
 
 TEST_F(NewFileTest, InAFolderThatDoesNotExistFailsAtOnce) {
@@ -499,20 +510,20 @@ TEST_F(NewFileTest, OnAFullDiskLeavesNothing) {
 TEST_F(NewFileTest, ReachesTheDiskBeforeItBearsItsName) {
     support::WatchedFiles watched;
     (void)Save("pages");
-    EXPECT_EQ(watched.Names(), (Names{"remove", "open CreateNew", "open Directory", "write", "flush", "close",
-                                      "renameToFree", "flush", "close"}));
+    EXPECT_EQ(watched.Names(),
+              (Names{"open CreateNew", "open Directory", "write", "flush", "close", "renameToFree", "flush", "close"}));
 }
 
 TEST_F(NewFileTest, AnErrorInAnyCallLeavesNothingOrTheWholeFile) {
-    // The first call may fail; the last two come when the file has its name.
-    for (std::size_t failing = 1; failing < 7; ++failing) {
+    // The last two calls come when the file has its name.
+    for (std::size_t failing = 0; failing < 6; ++failing) {
         support::WatchedFiles watched;
         watched.before = [failing](std::size_t call) { return call == failing ? EIO : 0; };
         EXPECT_EQ(ErrorOf([this] { (void)Save("pages"); }), EIO) << failing;
         EXPECT_EQ(directory.Files(), Files{}) << failing;
     }
     support::WatchedFiles watched;
-    watched.before = [](std::size_t call) { return call == 7 ? EIO : 0; };
+    watched.before = [](std::size_t call) { return call == 6 ? EIO : 0; };
     EXPECT_EQ(ErrorOf([this] { (void)Save("pages"); }), EIO);
     EXPECT_EQ(directory.Files(), (Files{{"Report.pdf", "pages"}}));
 }
@@ -535,8 +546,8 @@ TEST_F(NewFileTest, UnderItsOwnNameItTakesNoOther) {
 TEST_F(NewFileTest, UnderItsOwnNameItReachesTheDiskBeforeItBearsThat) {
     support::WatchedFiles watched;
     NewFile(directory.Path(), "Draws", ".csv").SaveUnderItsName("draws");
-    EXPECT_EQ(watched.Names(), (Names{"remove", "open CreateNew", "open Directory", "write", "flush", "close",
-                                      "renameToFree", "flush", "close"}));
+    EXPECT_EQ(watched.Names(),
+              (Names{"open CreateNew", "open Directory", "write", "flush", "close", "renameToFree", "flush", "close"}));
 }
 
 TEST_F(NewFileTest, WhatIsAddedStandsBeforeWhatIsSaved) {
