@@ -10,6 +10,7 @@
 #include "data/SetCommand.h"
 #include "data/WinnersCommand.h"
 #include "data/exchange/CsvText.h"
+#include "data/exchange/DateForm.h"
 #include "data/folder/Refusal.h"
 #include "data/folder/WorkFolder.h"
 #include "state/AppState.h"
@@ -108,8 +109,10 @@ class Commands {
         AddGame(command, importing.game);
         command.add_option("FILE", importing.file, "The file of draws: a date and picks in each line")
             ->type_name("")
-            ->required();
-        AddChecked(command, "--delimiter", "comma, semicolon, tab, blank or the character that divides the fields",
+            ->required()
+            ->check(IsNamed);
+        AddChecked(command, "--delimiter",
+                   "What divides the fields: comma, semicolon, tab, blank or the character itself",
                    importing.form.delimiter, DelimiterNamed);
         AddChecked(command, "--dates", "The order of the dates: y-m-d, m/d/y or d.m.y", importing.form.dates,
                    OrderNamed);
@@ -142,8 +145,8 @@ class Commands {
                                 "winners Lotto --from 2010-01-01 --top 10");
         AddGame(command, winners.game);
         command.add_flag("--draws-as-tickets", winners.drawsAsTickets, "Holds past draws against the draws, not plays");
-        command.add_option("--from", winners.from, "The first day of the draws: 2010-01-01");
-        command.add_option("--to", winners.to, "The last day of the draws");
+        AddChecked(command, "--from", "The first day of the draws, such as 2010-01-01", winners.from, SerialNamed);
+        AddChecked(command, "--to", "The last day of the draws, such as 2010-12-31", winners.to, SerialNamed);
         command.add_option("--last", winners.last, "Takes of these draws so many of the newest alone")
             ->check(OneOrMore());
         command.add_option("--top", winners.top, "How many winners are told, the best first; else 20, or all as CSV")
@@ -159,8 +162,9 @@ class Commands {
                 "in how many plays the others hit at least",
                 "guarantee Lotto --numbers 1-16 --drawn 5 --hits 4 --proof missed.csv");
         AddGame(command, guarantee.game);
-        command.add_option("--numbers", guarantee.numbers,
-                           "The chosen numbers; without it those of the plays: 3,7,20-25");
+        command
+            .add_option("--numbers", guarantee.numbers, "The chosen numbers; without it those of the plays: 3,7,20-25")
+            ->check(IsNamed);
         command.add_flag("--chosen", guarantee.chosenPicks, "The chosen numbers are those chosen for the wheels")
             ->excludes("--numbers");
         command.add_option("-m,--drawn", guarantee.drawn, "How many of the chosen numbers are drawn")
@@ -190,10 +194,10 @@ class Commands {
     template <typename Value>
     static void AddChecked(CLI::App& command, const std::string& name, const std::string& what,
                            std::optional<Value>& value, std::optional<Value> (*read)(std::string_view)) {
-        const auto take = [&value, read, name](const std::string& text) {
+        const auto take = [&value, read, name, what](const std::string& text) {
             value = read(text);
             if (!value) {
-                throw CLI::ValidationError(name, "\"" + text + "\" is none that it takes");
+                throw CLI::ValidationError(name, "\"" + text + "\" is none that it takes. " + what);
             }
         };
         command.add_option_function<std::string>(name, take, what);
@@ -225,7 +229,7 @@ class Commands {
     }
 
     void AddZip(CLI::App& command, const std::string& what) {
-        command.add_option("FILE", zip, what)->required()->type_name("");
+        command.add_option("FILE", zip, what)->required()->type_name("")->check(IsNamed);
     }
 
     void AddMend() {

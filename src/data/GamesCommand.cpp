@@ -5,10 +5,13 @@
 #include "data/folder/GamesOnFile.h"
 #include "data/folder/IsoDate.h"
 #include "data/folder/PlaysOnFile.h"
+#include "data/folder/Refusal.h"
 #include "plays/PickSlots.h"
 
 #include <algorithm>
 #include <iomanip>
+#include <string>
+#include <utility>
 
 namespace ballhaven::data {
 
@@ -64,18 +67,55 @@ std::string DrawsText(const std::vector<DrawOnFile>& draws) {
     return CountText(std::ssize(draws), "draw") + ", " + IsoDate(first.date) + " to " + IsoDate(last.date);
 }
 
-}  // namespace
+/// Lists games as far as their files can be read.
+class GameList {
+  public:
+    GameList(std::string folder, const Console& output) : directory(std::move(folder)), console(output) {}
 
-void ListGames(const WorkFolder& folder, const Console& console) {
-    for (const GameOnFile& game : ReadGames(folder.Path())) {
+    void Tell(const GameOnFile& game) {
         console.out << std::setw(2) << game.slot << "  ";
         if (!game.defined) {
             console.out << "(no game)\n";
-            continue;
+            return;
         }
-        console.out << game.Title() << ": " << KindOf(game.rules) << ", " << RulesText(game.rules) << "; "
-                    << DrawsText(ReadDraws(folder.Path(), game).draws) << "; "
-                    << PlaysInUse(ReadPlays(folder.Path(), game.slot)) << " plays in use\n";
+        const std::string draws =
+            TextOr("draws that cannot be read", [&] { return DrawsText(ReadDraws(directory, game).draws); });
+        const std::string plays = TextOr("plays that cannot be read", [&] {
+            return std::to_string(PlaysInUse(ReadPlays(directory, game.slot))) + " plays in use";
+        });
+        console.out << game.Title() << ": " << KindOf(game.rules) << ", " << RulesText(game.rules) << "; " << draws
+                    << "; " << plays << '\n';
+    }
+
+    [[nodiscard]] int UnreadFiles() const { return unread; }
+
+  private:
+    /// What `read` tells; where its file cannot be read, other words, and the reason in the notes.
+    template <typename Read>
+    std::string TextOr(const char* otherWords, const Read& read) {
+        try {
+            return read();
+        } catch (const Refusal& refusal) {
+            console.notes << refusal.what() << '\n';
+            ++unread;
+            return otherWords;
+        }
+    }
+
+    std::string directory;
+    const Console& console;
+    int unread = 0;
+};
+
+}  // namespace
+
+void ListGames(const WorkFolder& folder, const Console& console) {
+    GameList list(folder.Path(), console);
+    for (const GameOnFile& game : ReadGames(folder.Path())) {
+        list.Tell(game);
+    }
+    if (list.UnreadFiles() > 0) {
+        throw Refusal(CountText(list.UnreadFiles(), "file") + " could not be read.");
     }
 }
 

@@ -25,7 +25,6 @@ namespace ballhaven::data {
 namespace {
 
 constexpr std::size_t datesNamed = 20;
-constexpr int lastGameType = 5;
 
 /// A game of a folder as it stands before the import.
 struct Target {
@@ -34,27 +33,11 @@ struct Target {
     DrawsOnFile before;                  ///< with as many digits of its dates as the file is to have
 };
 
-/// What no game has, and rules out of a damaged record do; empty where they can be a game's.
-std::string DamageOf(const GameRules& rules) {
-    if (rules.gameType < 0 || rules.gameType > lastGameType) {
-        return "no known kind";
-    }
-    if (rules.mainPickCount < 1) {
-        return "no main pick in a draw";
-    }
-    return TotalPicksOf(rules) > mostPicksOfDraw ? "more than " + std::to_string(mostPicksOfDraw) + " picks in a draw"
-                                                 : "";
-}
-
 Target ReadTarget(const std::string& directory, const std::string& word) {
     const std::vector<GameOnFile> games = ReadGames(directory);
     Target target;
-    target.game = FindGame(games, word);
+    target.game = FindPlayableGame(games, word);
     target.content = ReadFolderFile(directory, HistoryFileOf(target.game.slot));
-    if (const std::string damage = DamageOf(target.game.rules); !damage.empty()) {
-        throw Refusal(target.game.Title() + " has " + damage +
-                      ", so its record is damaged. Look at it with ballhaven-data check.");
-    }
     target.before = DrawsOf(target.content.value_or(""), TotalPicksOf(target.game.rules));
     if (IsMended(ReadFolderFile(directory, GameTableFile()).value_or(""))) {
         target.before.digits = DateDigits::Five;

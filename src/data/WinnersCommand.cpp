@@ -1,6 +1,5 @@
 #include "data/WinnersCommand.h"
 
-#include "data/exchange/DateForm.h"
 #include "data/folder/GamesOnFile.h"
 #include "data/folder/IsoDate.h"
 #include "data/folder/PlaysOnFile.h"
@@ -29,30 +28,16 @@ struct Contest {
     NamedTickets tickets;
 };
 
-int DayOf(const std::string& option, const std::string& text) {
-    const auto date = DateIn(text, DateOrder::yearFirst);
-    if (!date || !date->ok()) {
-        throw Refusal(option + " " + text + " is no day. Write it as 2026-11-22.");
-    }
-    return SerialOf(*date);
-}
-
 DayRange RangeOf(const WinnersOptions& options) {
-    DayRange range;
-    if (!options.from.empty()) {
-        range.first = DayOf("--from", options.from);
-    }
-    if (!options.to.empty()) {
-        range.last = DayOf("--to", options.to);
-    }
-    return range;
+    const DayRange unlimited;
+    return {.first = options.from.value_or(unlimited.first), .last = options.to.value_or(unlimited.last)};
 }
 
 Contest ReadContest(const std::string& directory, const WinnersOptions& options) {
     const DayRange range = RangeOf(options);
     const WorkFolder folder(directory);
     const std::vector<GameOnFile> games = ReadGames(folder.Path());
-    Contest contest{.game = FindGame(games, options.game), .draws = {}, .held = {}, .tickets = {}};
+    Contest contest{.game = FindPlayableGame(games, options.game), .draws = {}, .held = {}, .tickets = {}};
     const GameRules& rules = contest.game.rules;
     contest.draws = NewestFirst(ReadDraws(folder.Path(), contest.game).draws);
     contest.held = DrawsIn(range, contest.draws, options.last > 0 ? static_cast<std::size_t>(options.last) : all);

@@ -11,8 +11,8 @@ namespace ballhaven::data {
 struct WinnersOptions {
     std::string game{};           ///< slot or name
     bool drawsAsTickets = false;  ///< its draws themselves, instead of its plays
-    std::string from{};           ///< the first and the last day of the draws, year-month-day; empty for no limit
-    std::string to{};
+    std::optional<int> from{};    ///< the serials of the first and the last day of the draws; none for no limit
+    std::optional<int> to{};
     int last = 0;              ///< the newest so many draws of those; 0 for all
     std::optional<int> top{};  ///< how many winners are told
     bool csv = false;          ///< the winners alone, as CSV

@@ -36,6 +36,10 @@ TEST_F(CommandLineTest, AnUnknownCommandIsWrongUsage) {
 TEST_F(CommandLineTest, AnOptionThatNamesNothingIsWrongUsage) {
     for (const std::vector<std::string>& line : {std::vector<std::string>{"--folder", "", "games"},
                                                  {"export", "1", "--output", ""},
+                                                 {"import", "1", ""},
+                                                 {"backup", ""},
+                                                 {"restore", ""},
+                                                 {"guarantee", "1", "--numbers", ""},
                                                  {"guarantee", "1", "-m", "2", "-t", "2", "--proof", ""}}) {
         notes.str("");
         EXPECT_EQ(Run(line), wrongUsage);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <sstream>
 
 namespace ballhaven::data {
@@ -27,6 +29,27 @@ TEST(GamesCommandTest, EverySlotHasItsLine) {
         EXPECT_NE(text.find(line), std::string::npos) << line << text;
     }
     EXPECT_EQ(directory.Files(), before);
+}
+
+TEST(GamesCommandTest, AFileThatCannotBeReadHidesNoOtherGame) {
+    const support::TemporaryDirectory directory;
+    ASSERT_EQ(tools::FillSampleFolder(directory.Path()), "");
+    for (const char* name : {"GAME03.CDB", "PLAYS08.CDB"}) {
+        std::filesystem::remove(directory / name);
+        std::filesystem::create_directory(directory / name);
+    }
+    std::ostringstream out;
+    std::ostringstream notes;
+    EXPECT_EQ(RunCommandLine({"games"}, directory.Path(), {out, notes}), refused);
+    EXPECT_EQ(notes.str(), directory / "GAME03.CDB" + " cannot be read: it is a folder and no file.\n" +
+                               directory / "PLAYS08.CDB" + " cannot be read: it is a folder and no file.\n" +
+                               "ballhaven-data: 2 files could not be read.\n");
+    const std::string text = out.str();
+    EXPECT_EQ(std::ranges::count(text, '\n'), 20) << text;
+    EXPECT_NE(text.find("2 of 1 to 12; draws that cannot be read; 100 plays in use\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("order matters; 150 draws, 2008-06-24 to 2011-05-03; plays that cannot be read\n"),
+              std::string::npos)
+        << text;
 }
 
 TEST(GamesCommandTest, AFolderWithoutATableIsRefused) {

@@ -320,7 +320,9 @@ TEST_F(ImportCommandTest, AFileOfAnyEncodingComesIn) {
 
 TEST_F(ImportCommandTest, WhatNoOptionTakesIsWrongUsage) {
     EXPECT_EQ(Import("", {"--delimiter", "||"}), wrongUsage);
-    EXPECT_EQ(notes.str().substr(0, notes.str().find('\n')), "--delimiter: \"||\" is none that it takes");
+    EXPECT_EQ(notes.str().substr(0, notes.str().find('\n')),
+              "--delimiter: \"||\" is none that it takes. What divides the fields: comma, semicolon, tab, blank or the "
+              "character itself");
     EXPECT_EQ(Import("", {"--dates", "y-d-m"}), wrongUsage);
     EXPECT_EQ(Import("", {"--header", "--no-header"}), wrongUsage);
     EXPECT_EQ(RunCommandLine({"import", "1"}, directory.Path(), {out, notes}), wrongUsage);

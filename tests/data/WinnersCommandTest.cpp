@@ -115,9 +115,11 @@ TEST_F(WinnersCommandTest, BonusPicksAndCardsAreWrittenAsOnTheSlips) {
 }
 
 TEST_F(WinnersCommandTest, WhatCannotBeToldIsRefused) {
-    EXPECT_EQ(Run({"1", "--from", "2011-02-31"}), refused);
-    EXPECT_EQ(notes.str(), "ballhaven-data: --from 2011-02-31 is no day. Write it as 2026-11-22.\n");
-    EXPECT_EQ(Run({"1", "--to", "yesterday"}), refused);
+    EXPECT_EQ(Run({"1", "--from", "2011-02-31"}), wrongUsage);
+    EXPECT_EQ(notes.str(),
+              "--from: \"2011-02-31\" is none that it takes. The first day of the draws, such as "
+              "2010-01-01\nRun with --help for more information.\n");
+    EXPECT_EQ(Run({"1", "--to", "yesterday"}), wrongUsage);
     EXPECT_EQ(Run({"1", "--from", "2008-09-06"}), refused);
     EXPECT_EQ(notes.str(), "ballhaven-data: Harbour Six has no draws in this range.\n");
     EXPECT_EQ(Run({"1", "--from", "2008-09-05", "--to", "2008-08-22"}), refused);
@@ -126,6 +128,16 @@ TEST_F(WinnersCommandTest, WhatCannotBeToldIsRefused) {
     EXPECT_EQ(notes.str(), "ballhaven-data: Harbour Six has no play with all its main picks.\n");
     EXPECT_EQ(Run({"1", "--top", "0"}), wrongUsage);
     EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(WinnersCommandTest, NothingIsToldOfAGameWhoseRecordIsDamaged) {
+    std::string table = directory.Read("LOTTOSYS");
+    table.replace(64 + 45, 2, "99");
+    directory.Write("LOTTOSYS", table);
+    EXPECT_EQ(Run({"1"}), refused);
+    EXPECT_EQ(notes.str(),
+              "ballhaven-data: Harbour Six has more than 10 picks in a draw, so its record is damaged. "
+              "Look at it with ballhaven-data check.\n");
 }
 
 TEST_F(WinnersCommandTest, AnOutputThatTakesNothingIsTold) {

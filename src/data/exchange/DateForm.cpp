@@ -239,6 +239,11 @@ std::optional<year_month_day> DateIn(std::string_view text, DateOrder order) {
     return written ? DateOf(*written, order) : std::nullopt;
 }
 
+std::optional<int> SerialNamed(std::string_view text) {
+    const std::optional<year_month_day> date = DateIn(text, DateOrder::yearFirst);
+    return date && date->ok() ? std::optional(SerialOf(*date)) : std::nullopt;
+}
+
 int SerialOf(const year_month_day& date) {
     return static_cast<int>((sys_days{date} - dayOfSerial0).count());
 }

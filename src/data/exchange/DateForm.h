@@ -23,6 +23,9 @@ enum class DateOrder { monthFirst, dayFirst, yearFirst };
 /// English or of three letters at most, and a point and a time of day behind it are passed over.
 [[nodiscard]] std::optional<std::chrono::year_month_day> DateIn(std::string_view text, DateOrder order);
 
+/// The serial of a day as a user names it, the year first; none for any other text, and for no day of the calendar.
+[[nodiscard]] std::optional<int> SerialNamed(std::string_view text);
+
 /// The days from 1 January 1984 to a date of the calendar.
 [[nodiscard]] int SerialOf(const std::chrono::year_month_day& date);
 

@@ -3,6 +3,7 @@
 #include "data/folder/FolderFiles.h"
 #include "data/folder/Refusal.h"
 #include "data/folder/ShownText.h"
+#include "history/DrawRecord.h"
 #include "platform/files/CodePage.h"
 #include "platform/files/FileSystem.h"
 #include "state/AppState.h"
@@ -17,6 +18,8 @@
 namespace ballhaven::data {
 
 namespace {
+
+constexpr int lastGameType = 5;
 
 std::string InLowerCase(std::string text) {
     std::ranges::transform(text, text.begin(), modUTILS::LowerCase);
@@ -52,6 +55,18 @@ const GameOnFile& GameOfName(const std::vector<GameOnFile>& games, const std::st
         throw Refusal("There are several games \"" + word + "\"; name the one you mean by the number of its slot.");
     }
     return *found;
+}
+
+/// What no game has, and rules out of a damaged record do; empty where they can be a game's.
+std::string DamageOf(const GameRules& rules) {
+    if (rules.gameType < 0 || rules.gameType > lastGameType) {
+        return "no known kind";
+    }
+    if (rules.mainPickCount < 1) {
+        return "no main pick in a draw";
+    }
+    return TotalPicksOf(rules) > mostPicksOfDraw ? "more than " + std::to_string(mostPicksOfDraw) + " picks in a draw"
+                                                 : "";
 }
 
 }  // namespace
@@ -93,6 +108,15 @@ const GameOnFile& FindGame(const std::vector<GameOnFile>& games, const std::stri
     if (!game.defined) {
         throw Refusal("No game has been set up in slot " + std::to_string(game.slot) +
                       ". Set it up in Ballhaven first, with \"Add New Game\".");
+    }
+    return game;
+}
+
+const GameOnFile& FindPlayableGame(const std::vector<GameOnFile>& games, const std::string& word) {
+    const GameOnFile& game = FindGame(games, word);
+    if (const std::string damage = DamageOf(game.rules); !damage.empty()) {
+        throw Refusal(game.Title() + " has " + damage +
+                      ", so its record is damaged. Look at it with ballhaven-data check.");
     }
     return game;
 }

@@ -34,4 +34,8 @@ struct GameOnFile {
 /// slot.
 [[nodiscard]] const GameOnFile& FindGame(const std::vector<GameOnFile>& games, const std::string& word);
 
+/// The same for whoever reads draws or plays by the game's rules. Throws Refusal also where these are none that a game
+/// can have, so that its record must be damaged.
+[[nodiscard]] const GameOnFile& FindPlayableGame(const std::vector<GameOnFile>& games, const std::string& word);
+
 }  // namespace ballhaven::data

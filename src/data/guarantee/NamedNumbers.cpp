@@ -21,7 +21,8 @@ struct Stretch {
     int last;
 };
 
-std::optional<int> NumberIn(std::string_view text) {
+/// The number that a text is from end to end.
+std::optional<int> ParsedNumber(std::string_view text) {
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
@@ -36,19 +37,22 @@ std::optional<Stretch> CardsIn(std::string text) {
 
 std::optional<Stretch> NumbersIn(std::string_view text) {
     const std::size_t hyphen = text.find('-');
-    const std::optional<int> first = NumberIn(text.substr(0, hyphen));
-    const std::optional<int> last = hyphen == std::string_view::npos ? first : NumberIn(text.substr(hyphen + 1));
+    const std::optional<int> first = ParsedNumber(text.substr(0, hyphen));
+    const std::optional<int> last = hyphen == std::string_view::npos ? first : ParsedNumber(text.substr(hyphen + 1));
     return first && last ? std::optional(Stretch{*first, *last}) : std::nullopt;
 }
 
+[[noreturn]] void Refuse(const GameRules& rules, std::string_view text) {
+    throw Refusal("\"" + std::string(text) + "\" names no main picks of this game: " +
+                  (IsCardGame(rules.gameType) ? "name cards as Ah, 10c, Kd or 2s."
+                                              : "name numbers from " + std::to_string(rules.mainLow) + " to " +
+                                                    std::to_string(rules.mainHigh) + ", such as 3,7,20-25."));
+}
+
 Stretch StretchIn(const GameRules& rules, std::string_view text) {
-    const bool cards = IsCardGame(rules.gameType);
-    const std::optional<Stretch> found = cards ? CardsIn(std::string(text)) : NumbersIn(text);
+    const std::optional<Stretch> found = IsCardGame(rules.gameType) ? CardsIn(std::string(text)) : NumbersIn(text);
     if (!found || found->first < rules.mainLow || found->last > rules.mainHigh || found->last < found->first) {
-        throw Refusal("\"" + std::string(text) + "\" names no main picks of this game: " +
-                      (cards ? "name cards as Ah, 10c, Kd or 2s"
-                             : "name numbers from " + std::to_string(rules.mainLow) + " to " +
-                                   std::to_string(rules.mainHigh) + ", such as 3,7,20-25"));
+        Refuse(rules, text);
     }
     return *found;
 }
@@ -65,6 +69,9 @@ std::vector<int> NamedNumbers(const GameRules& rules, std::string_view text) {
             numbers.insert(number);
         }
         begin = text.find_first_not_of(separators, end);
+    }
+    if (numbers.empty()) {
+        Refuse(rules, text);
     }
     return {numbers.begin(), numbers.end()};
 }

@@ -106,6 +106,14 @@ TEST(SerialOf, CountsFromTheFirstDayOf1984AsTheProgramDoes) {
     }
 }
 
+TEST(SerialNamed, IsThatOfADayWithTheYearFirst) {
+    EXPECT_EQ(SerialNamed("1984-01-02"), 1);
+    EXPECT_EQ(SerialNamed("20110518"), 9999);
+    for (const char* text : {"", "2011-02-31", "18.05.2011", "05/18/2011", "yesterday"}) {
+        EXPECT_EQ(SerialNamed(text), std::nullopt) << text;
+    }
+}
+
 TEST(OrderNamed, TakesAnySeparatorThatDatesHave) {
     EXPECT_EQ(OrderNamed("m/d/y"), monthFirst);
     EXPECT_EQ(OrderNamed("d.m.y"), dayFirst);

@@ -26,7 +26,6 @@ std::string RefusalOf(const GameRules& rules, std::string_view text) {
 TEST(NamedNumbers, CommasAndBlanksStandBetweenThem) {
     EXPECT_EQ(NamedNumbers(numberGame, "7,3, 20 0"), (Numbers{0, 3, 7, 20}));
     EXPECT_EQ(NamedNumbers(numberGame, " 5 "), Numbers{5});
-    EXPECT_EQ(NamedNumbers(numberGame, ""), Numbers{});
 }
 
 TEST(NamedNumbers, AHyphenNamesAStretchAndNoNumberComesTwice) {
@@ -40,13 +39,14 @@ TEST(NamedNumbers, CardsAreNamedInEitherCase) {
 
 TEST(NamedNumbers, WhatTheGameDoesNotDrawIsRefused) {
     EXPECT_EQ(RefusalOf(numberGame, "7,50"),
-              "\"50\" names no main picks of this game: name numbers from 0 to 49, such as 3,7,20-25");
-    for (const std::string text : {"x", "4x", "-5", "5-", "9-5", "1--3", "1-2-3", "99999999999", "48-50", "Ah"}) {
+              "\"50\" names no main picks of this game: name numbers from 0 to 49, such as 3,7,20-25.");
+    for (const std::string text :
+         {"", " , ", "x", "4x", "-5", "5-", "9-5", "1--3", "1-2-3", "99999999999", "48-50", "Ah"}) {
         EXPECT_EQ(RefusalOf(numberGame, text).find("\"" + text + "\" names no main picks"), 0U) << text;
     }
     for (const std::string text : {"7", "1h", "14h", "11c", "Ax", "h", "A", "10", "1-3", "99999999h", "Ah-Kh"}) {
         EXPECT_EQ(RefusalOf(cardGame, text),
-                  "\"" + text + "\" names no main picks of this game: name cards as Ah, 10c, Kd or 2s");
+                  "\"" + text + "\" names no main picks of this game: name cards as Ah, 10c, Kd or 2s.");
     }
 }
 
