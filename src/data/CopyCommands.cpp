@@ -74,7 +74,7 @@ std::string BackUp(const WorkFolder& folder, const std::string& zip, const Conso
     if (count == 0) {
         throw Refusal(folder.Path() + " holds no data of Ballhaven. Name the right folder with --folder.");
     }
-    SaveNewOutput(zip, ArchiveOf(files));
+    SaveNewOutput(folder.Path(), zip, ArchiveOf(files));
     std::string made = CountText(count, "file") + (count == 1 ? " is in " : " are in ") + zip + ".";
     console.out << made << '\n';
     for (const FolderFile& file : AllFolderFiles()) {

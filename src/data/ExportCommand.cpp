@@ -11,11 +11,11 @@ namespace ballhaven::data {
 
 void ExportGame(const WorkFolder& folder, const ExportOptions& options, const Console& console) {
     const std::vector<GameOnFile> games = ReadGames(folder.Path());
-    const GameOnFile& game = FindGame(games, options.game);
+    const GameOnFile& game = FindPlayableGame(games, options.game);
     const std::string csv = options.plays ? CsvOfPlays(game.rules, ReadPlays(folder.Path(), game.slot))
                                           : CsvOfDraws(game.rules, ReadDraws(folder.Path(), game).draws);
     if (!options.output.empty()) {
-        SaveNewOutput(options.output, csv);
+        SaveNewOutput(folder.Path(), options.output, csv);
         return;
     }
     console.out << csv;

@@ -30,7 +30,7 @@ struct GameWheel {
 
 std::vector<int> ChosenBy(const GuaranteeOptions& options, const GameOnFile& game, const std::string& directory) {
     if (!options.chosenPicks) {
-        return NamedNumbers(game.rules, options.numbers);
+        return options.numbers.empty() ? std::vector<int>() : NamedNumbers(game.rules, options.numbers);
     }
     std::vector<int> chosen = ChosenNumbers(game.rules, ReadChosenPicks(directory, game.slot));
     if (chosen.empty()) {
@@ -43,7 +43,7 @@ std::vector<int> ChosenBy(const GuaranteeOptions& options, const GameOnFile& gam
 GameWheel ReadWheel(const std::string& directory, const GuaranteeOptions& options) {
     const WorkFolder folder(directory);
     const std::vector<GameOnFile> games = ReadGames(folder.Path());
-    const GameOnFile& game = FindGame(games, options.game);
+    const GameOnFile& game = FindPlayableGame(games, options.game);
     if (game.rules.duplicatesAllowed) {
         throw Refusal("In " + game.Title() +
                       " a number can be drawn twice, and guarantees are reckoned for different numbers alone.");
@@ -105,7 +105,7 @@ void ShowGuarantee(const std::string& folder, const GuaranteeOptions& options, c
     const Questions questions = QuestionsFor(of.Numbers(), of.game.rules.mainPickCount, options.drawn, options.hits);
     std::optional<NewOutput> proof;
     if (!options.proof.empty()) {
-        proof.emplace(options.proof);
+        proof.emplace(folder, options.proof);
     }
     TellWheel(of, console);
     const PlayBits plays(of.Numbers(), of.wheel.holds);

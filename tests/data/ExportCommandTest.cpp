@@ -56,6 +56,28 @@ TEST_F(ExportCommandTest, AFileIsMadeAndNeverReplaced) {
     EXPECT_EQ(files.Files(), (std::map<std::string, std::string>{{"six.csv", "the user's"}}));
 }
 
+TEST_F(ExportCommandTest, NothingIsWrittenOfAGameWhoseRecordIsDamaged) {
+    std::string table = directory.Read("LOTTOSYS");
+    table[2 * 64 + 30] = '9';
+    directory.Write("LOTTOSYS", table);
+    for (const std::vector<std::string>& line :
+         {std::vector<std::string>{"export", "2"}, {"export", "2", "--plays"}, {"guarantee", "2"}}) {
+        EXPECT_EQ(Run(line), refused);
+        EXPECT_EQ(out.str(), "");
+        EXPECT_EQ(notes.str(),
+                  "ballhaven-data: Lantern Five Plus has no known kind, so its record is damaged. Look at "
+                  "it with ballhaven-data check.\n");
+    }
+}
+
+TEST_F(ExportCommandTest, NoFileIsMadeUnderANameOfTheDatasOwn) {
+    const auto before = directory.Files();
+    EXPECT_EQ(Run({"export", "1", "--output", directory / "GAME15.CDB"}), refused);
+    EXPECT_EQ(notes.str(), "ballhaven-data: " + directory / "GAME15.CDB" +
+                               " has a name that Ballhaven keeps for itself in its folder. Name another file.\n");
+    EXPECT_EQ(directory.Files(), before);
+}
+
 TEST_F(ExportCommandTest, AnOutputThatTakesNothingIsTold) {
     FullDisk disk;
     std::ostream full(&disk);

@@ -62,6 +62,9 @@ class FolderExamination {
         if (platform::HasDecidedChange(directory)) {
             Keep(platform::changeListName, "tells of a change that was decided and not brought to its end",
                  "Some files may be the new ones already; Ballhaven finishes it when it next starts.", Remedy::Mend);
+        } else if (std::filesystem::exists(std::filesystem::symlink_status(directory + platform::changeListName))) {
+            Keep(platform::changeListName, "bears the name of Ballhaven's list of a change, and is none",
+                 "No change of several files can be made beside it. Move it to another place.", Remedy::User);
         }
         for (const std::string& name : result.leftOvers) {
             Keep(name, "was left by a run that did not come to its end", "Nothing reads it.", Remedy::Mend);

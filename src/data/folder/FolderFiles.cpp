@@ -67,7 +67,10 @@ std::int64_t TailLength(const std::string& directory, const FolderFile& file) {
 
 std::string WhyUnreadable(const std::string& path, const std::system_error& error) {
     std::error_code unknown;
-    return std::filesystem::is_directory(path, unknown) ? "it is a folder and no file" : error.code().message();
+    if (std::filesystem::is_directory(path, unknown)) {
+        return "it is a folder and no file";
+    }
+    return std::filesystem::is_other(path, unknown) ? "it is a device or a pipe and no file" : error.code().message();
 }
 
 }  // namespace ballhaven::data

@@ -1,7 +1,11 @@
 #include "data/folder/NewOutput.h"
 
+#include "data/folder/FolderFiles.h"
 #include "data/folder/Refusal.h"
+#include "data/folder/WorkFolder.h"
+#include "platform/files/FolderChange.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -26,14 +30,37 @@ void MakeAt(const std::string& path, const Step& step) {
     }
 }
 
+/// Whether a file of this name in the folder of the data is read, written or removed there, by the window's program or
+/// by this one.
+bool IsNameOfOurs(std::string_view name) {
+    for (const std::string_view ending : {platform::unsavedEnding, platform::stagedEnding}) {
+        if (name.ends_with(ending)) {
+            name.remove_suffix(ending.size());
+            break;
+        }
+    }
+    const std::vector<FolderFile> files = AllFolderFiles();
+    return name == platform::changeListName || name == copiesFolder ||
+           std::ranges::find(files, name, &FolderFile::name) != files.end();
+}
+
+void RefuseNameOfOurs(const std::string& dataFolder, const std::filesystem::path& whole, const std::string& path) {
+    std::error_code notThere;
+    if (IsNameOfOurs(whole.filename().string()) &&
+        std::filesystem::equivalent(whole.parent_path(), dataFolder, notThere)) {
+        throw Refusal(path + " has a name that Ballhaven keeps for itself in its folder. Name another file.");
+    }
+}
+
 }  // namespace
 
-NewOutput::NewOutput(std::string userPath) : path(std::move(userPath)) {
-    MakeAt(path, [this] {
+NewOutput::NewOutput(const std::string& dataFolder, std::string userPath) : path(std::move(userPath)) {
+    MakeAt(path, [this, &dataFolder] {
         const std::filesystem::path whole = std::filesystem::absolute(path);
         if (std::filesystem::exists(std::filesystem::symlink_status(whole))) {
             throw std::system_error(EEXIST, std::generic_category());
         }
+        RefuseNameOfOurs(dataFolder, whole, path);
         file = std::make_unique<platform::NewFile>(whole.parent_path().string(), whole.filename().string(), "");
     });
 }
@@ -49,8 +76,8 @@ void NewOutput::Save() {
     MakeAt(path, [this] { file->SaveUnderItsName(text); });
 }
 
-void SaveNewOutput(const std::string& path, std::string_view bytes) {
-    NewOutput output(path);
+void SaveNewOutput(const std::string& dataFolder, const std::string& path, std::string_view bytes) {
+    NewOutput output(dataFolder, path);
     output.Add(bytes);
     output.Save();
 }

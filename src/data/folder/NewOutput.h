@@ -11,8 +11,9 @@ namespace ballhaven::data {
 /// A file under a path that the user named. It comes into being whole, and never in another one's place.
 class NewOutput {
   public:
-    /// Throws Refusal where something stands there already, and where the file cannot be made.
-    explicit NewOutput(std::string userPath);
+    /// Throws Refusal where something stands there already, where the file cannot be made, and for a name in the folder
+    /// of the data that Ballhaven or this program takes for a file of its own.
+    NewOutput(const std::string& dataFolder, std::string userPath);
 
     /// Puts text behind what the file has. Throws Refusal where it cannot be written.
     void Add(std::string_view more);
@@ -27,6 +28,6 @@ class NewOutput {
 };
 
 /// Makes a file of these bytes under a path that the user named, whole or not at all. Throws Refusal as above.
-void SaveNewOutput(const std::string& path, std::string_view bytes);
+void SaveNewOutput(const std::string& dataFolder, const std::string& path, std::string_view bytes);
 
 }  // namespace ballhaven::data

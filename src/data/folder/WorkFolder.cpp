@@ -40,6 +40,16 @@ std::string ReasonOf(const std::system_error& error) {
     return error.code().message();
 }
 
+/// Why nothing was changed, where `file` could not be written or is empty for the change as a whole.
+std::string WhyUnchanged(const std::string& directory, const std::string& file, const std::system_error& error) {
+    if (error.code() != std::errc::file_exists) {
+        return directory + file + " could not be written: " + ReasonOf(error) + ".";
+    }
+    const std::string inTheWay = file.empty() ? platform::changeListName : file + std::string(platform::stagedEnding);
+    return "what bears the name " + directory + inTheWay +
+           " is none of Ballhaven's, and in its way. Move it to another place, and try again.";
+}
+
 }  // namespace
 
 WorkFolder::WorkFolder(const std::string& folder, DecidedChange decided) : directory(platform::WithSeparator(folder)) {
@@ -62,14 +72,17 @@ std::string WorkFolder::Change(const FileContents& files, const std::string& occ
     std::string copy = KeepCopy(files, occasion);
     const std::vector<FolderFile> known = AllFolderFiles();
     platform::FolderChange change(directory);
+    std::string fileInHand;
     try {
         for (const auto& [name, content] : files) {
+            fileInHand = name;
             if (content) {
                 change.Put(name, *content, FileNamed(known, name).FormatLength());
             } else {
                 change.Remove(name);
             }
         }
+        fileInHand.clear();
         change.Commit();
     } catch (const std::system_error& error) {
         if (!change.IsDecided()) {
@@ -78,7 +91,7 @@ std::string WorkFolder::Change(const FileContents& files, const std::string& occ
         throw Refusal(change.IsDecided()
                           ? "The change could not be brought to its end: " + ReasonOf(error) +
                                 ". It will be when this program or Ballhaven is next started on " + directory + "."
-                          : "Nothing was changed: " + directory + " could not be written: " + ReasonOf(error) + ".");
+                          : "Nothing was changed: " + WhyUnchanged(directory, fileInHand, error));
     }
     return copy;
 }
@@ -109,8 +122,8 @@ std::string WorkFolder::KeepCopy(const FileContents& files, const std::string& o
             .Save(ArchiveOf(old));
     } catch (const std::system_error& error) {
         std::error_code unknown;
-        const bool isInTheWay =
-            std::filesystem::exists(folder, unknown) && !std::filesystem::is_directory(folder, unknown);
+        const bool isInTheWay = std::filesystem::exists(std::filesystem::symlink_status(folder, unknown)) &&
+                                !std::filesystem::is_directory(folder, unknown);
         throw Refusal("Nothing was changed, since no copy could be kept in " + folder + ": " +
                       (isInTheWay ? "it is no folder; move it to another place" : ReasonOf(error)) + ".");
     }

@@ -51,6 +51,18 @@ void RemoveList(const std::string& directory) {
     FlushFolder(directory);
 }
 
+/// What the list holds; none where nothing bears its name, or what is no file, and so none of ours.
+std::optional<FileHead> ReadList(const std::string& directory) {
+    try {
+        return ReadHeadIfThere(directory + changeListName, longestList);
+    } catch (const std::system_error& error) {
+        if (error.code() != std::errc::not_supported) {
+            throw;
+        }
+        return std::nullopt;
+    }
+}
+
 void WriteStaged(OpenFile& staged, unsigned permissions, std::string_view head) {
     staged.SetPermissions(permissions);
     staged.Write(head);
@@ -155,7 +167,7 @@ void FolderChange::TakeAll() {
 }
 
 std::vector<FolderChange::Step> FolderChange::DecidedSteps(const std::string& directory) {
-    const std::optional<FileHead> list = ReadHeadIfThere(directory + changeListName, longestList);
+    const std::optional<FileHead> list = ReadList(directory);
     std::vector<Step> steps;
     std::istringstream lines(list ? list->bytes : std::string());
     for (std::string line; std::getline(lines, line);) {

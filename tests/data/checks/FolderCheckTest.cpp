@@ -110,6 +110,19 @@ TEST_F(FolderCheckTest, AMissingTableIsLeft) {
                     "in files of their own."});
 }
 
+TEST_F(FolderCheckTest, WhatIsInTheWayOfAListOfAChangeIsLeft) {
+    const Texts lines{
+        "CHANGE: bears the name of Ballhaven's list of a change, and is none. No change of several files "
+        "can be made beside it. Move it to another place."};
+    directory.Write("CHANGE", "my list of changes");
+    EXPECT_EQ(Lines(true), lines);
+    std::filesystem::remove(directory / "CHANGE");
+    std::filesystem::create_directory(directory / "CHANGE");
+    EXPECT_EQ(Lines(true), lines);
+    EXPECT_TRUE(CheckFolder(directory.Path()).mended.empty());
+    EXPECT_TRUE(CheckFolder(directory.Path()).leftOvers.empty());
+}
+
 TEST_F(FolderCheckTest, AFileThatCannotBeReadIsLeftAndTheOthersAreLookedAt) {
     std::filesystem::remove(directory / "GAME02.CDB");
     std::filesystem::create_directory(directory / "GAME02.CDB");

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace ballhaven::data {
 namespace {
@@ -46,6 +47,18 @@ TEST(FolderFilesTest, AFileThatCannotBeReadIsRefusedByItsPath) {
     } catch (const Refusal& refusal) {
         EXPECT_EQ(std::string(refusal.what()),
                   (directory / "LOTTOSYS") + " cannot be read: it is a folder and no file.");
+    }
+}
+
+TEST(FolderFilesTest, APipeInAFilesPlaceIsToldAsWhatItIs) {
+    const support::TemporaryDirectory directory;
+    ASSERT_EQ(mkfifo((directory / "LOTTOSYS").c_str(), 0600), 0);
+    try {
+        (void)ReadFolderFile(directory.Path(), GameTableFile());
+        FAIL() << "was read";
+    } catch (const Refusal& refusal) {
+        EXPECT_EQ(std::string(refusal.what()),
+                  (directory / "LOTTOSYS") + " cannot be read: it is a device or a pipe and no file.");
     }
 }
 

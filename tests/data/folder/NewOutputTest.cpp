@@ -16,7 +16,7 @@ using Files = std::map<std::string, std::string>;
 
 std::string RefusalOf(const std::string& path) {
     try {
-        SaveNewOutput(path, "bytes");
+        SaveNewOutput("/nowhere", path, "bytes");
     } catch (const Refusal& refusal) {
         return refusal.what();
     }
@@ -25,7 +25,7 @@ std::string RefusalOf(const std::string& path) {
 
 TEST(SaveNewOutput, MakesTheFileWhole) {
     const support::TemporaryDirectory directory;
-    SaveNewOutput(directory / "draws.csv", "bytes");
+    SaveNewOutput("/nowhere", directory / "draws.csv", "bytes");
     EXPECT_EQ(directory.Files(), (Files{{"draws.csv", "bytes"}}));
 }
 
@@ -33,7 +33,7 @@ TEST(SaveNewOutput, APathWithoutAFolderIsOneOfTheCurrentFolder) {
     const support::TemporaryDirectory directory;
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(directory.Path());
-    SaveNewOutput("draws.csv", "bytes");
+    SaveNewOutput("/nowhere", "draws.csv", "bytes");
     std::filesystem::current_path(before);
     EXPECT_EQ(directory.Files(), (Files{{"draws.csv", "bytes"}}));
 }
@@ -64,9 +64,29 @@ TEST(SaveNewOutput, AFolderThatIsNotThereIsNotMade) {
     EXPECT_EQ(directory.Files(), Files{});
 }
 
+TEST(NewOutput, ANameOfTheDatasOwnIsRefusedInTheirFolderAlone) {
+    const support::TemporaryDirectory data;
+    const support::TemporaryDirectory elsewhere;
+    for (const char* name : {"GAME20.CDB", "PLAYS01.CDB", "LOTTOSYS", "SHUFFLE.CDB", "CHANGE", "copies",
+                             "GAME20.CDB.new", "LOTTOSYS.next", "CHANGE.new"}) {
+        std::string words = "none";
+        try {
+            SaveNewOutput(data.Path(), data / name, "bytes");
+        } catch (const Refusal& refusal) {
+            words = refusal.what();
+        }
+        EXPECT_EQ(words, data / name + " has a name that Ballhaven keeps for itself in its folder. Name another file.");
+        SaveNewOutput(data.Path(), elsewhere / name, "bytes");
+        EXPECT_EQ(elsewhere.Read(name), "bytes");
+    }
+    EXPECT_EQ(data.Files(), Files{});
+    SaveNewOutput(data.Path(), data / "GAME21.CDB", "bytes");
+    EXPECT_EQ(data.Files(), (Files{{"GAME21.CDB", "bytes"}}));
+}
+
 TEST(NewOutput, HasItsNameWhenItIsSavedAndItsTextInOrder) {
     const support::TemporaryDirectory directory;
-    NewOutput output(directory / "proof.csv");
+    NewOutput output("/nowhere", directory / "proof.csv");
     std::string all;
     for (int piece = 0; piece < 30; ++piece) {
         const std::string text(100'000, static_cast<char>('a' + piece % 26));
@@ -82,7 +102,7 @@ TEST(NewOutput, HasItsNameWhenItIsSavedAndItsTextInOrder) {
 TEST(NewOutput, WithoutASaveThereIsNoFile) {
     const support::TemporaryDirectory directory;
     {
-        NewOutput output(directory / "proof.csv");
+        NewOutput output("/nowhere", directory / "proof.csv");
         output.Add(std::string(3 << 20, 'x'));
         EXPECT_TRUE(directory.Has("proof.csv.new"));
     }
@@ -91,7 +111,7 @@ TEST(NewOutput, WithoutASaveThereIsNoFile) {
 
 TEST(NewOutput, ANameThatIsTakenMeanwhileIsRefusedToo) {
     const support::TemporaryDirectory directory;
-    NewOutput output(directory / "proof.csv");
+    NewOutput output("/nowhere", directory / "proof.csv");
     directory.Write("proof.csv", "the user's");
 
     EXPECT_THROW(output.Save(), Refusal);
@@ -100,7 +120,7 @@ TEST(NewOutput, ANameThatIsTakenMeanwhileIsRefusedToo) {
 
 TEST(NewOutput, AFullDiskIsToldWhereverItIsMet) {
     const support::TemporaryDirectory directory;
-    NewOutput output(directory / "proof.csv");
+    NewOutput output("/nowhere", directory / "proof.csv");
     support::WatchedFiles watched;
     watched.room = 1000;
     EXPECT_THROW(output.Add(std::string(3 << 20, 'x')), Refusal);

@@ -137,8 +137,31 @@ TEST_F(WorkFolderTest, AFailingChangeSaysThatNothingWasChanged) {
     support::WatchedFiles watched;
     watched.before = [&](std::size_t call) { return watched.Names()[call] == "open Update" ? EACCES : 0; };
     EXPECT_EQ(RefusalOf([&] { folder.Change(change, "import"); }),
-              "Nothing was changed: " + directory.Path() + " could not be written: Permission denied.");
+              "Nothing was changed: " + directory / "GAME01.CDB" + " could not be written: Permission denied.");
     EXPECT_EQ(directory.Read("GAME01.CDB"), "old one");
+}
+
+TEST_F(WorkFolderTest, WhatStandsInTheWayOfAChangeIsNamed) {
+    const WorkFolder folder(directory.Path());
+    const auto words = [&](const char* name) {
+        return "Nothing was changed: what bears the name " + directory / name +
+               " is none of Ballhaven's, and in its way. Move it to another place, and try again.";
+    };
+    directory.Write("CHANGE", "my list of changes");
+    EXPECT_EQ(RefusalOf([&] { folder.Change(change, "import"); }), words("CHANGE"));
+    std::filesystem::create_directory(directory / "GAME01.CDB.next");
+    EXPECT_EQ(RefusalOf([&] { folder.Change(change, "import"); }), words("GAME01.CDB.next"));
+    EXPECT_EQ(directory.Read("CHANGE"), "my list of changes");
+    EXPECT_EQ(directory.Read("GAME01.CDB"), "old one");
+    EXPECT_TRUE(std::filesystem::is_empty(directory / "copies"));
+}
+
+TEST_F(WorkFolderTest, ALinkToNowhereInThePlaceOfTheCopiesIsToldAsWhatItIs) {
+    std::filesystem::create_symlink("/not/there", directory / "copies");
+    const WorkFolder folder(directory.Path());
+    EXPECT_EQ(RefusalOf([&] { folder.Change(change, "import"); }),
+              "Nothing was changed, since no copy could be kept in " + directory / "copies" +
+                  ": it is no folder; move it to another place.");
 }
 
 TEST_F(WorkFolderTest, AChangeThatIsDecidedAndNotFinishedSaysSo) {

@@ -245,6 +245,20 @@ TEST_F(FolderChangeTest, AFileOfThatNameThatIsNoListIsLeftAlone) {
     }
 }
 
+TEST_F(FolderChangeTest, AFolderOfThatNameIsLeftAlone) {
+    std::filesystem::create_directory(directory / "CHANGE");
+    EXPECT_FALSE(HasDecidedChange(directory.Path()));
+    FinishFolderChange(directory.Path());
+    EXPECT_EQ(Change(), std::pair(false, EEXIST));
+    EXPECT_TRUE(std::filesystem::is_directory(directory / "CHANGE"));
+}
+
+TEST_F(FolderChangeTest, AListThatCannotBeReadIsNotPassedOver) {
+    support::WatchedFiles watched;
+    watched.before = [](std::size_t) { return EACCES; };
+    EXPECT_THROW((void)HasDecidedChange(directory.Path()), std::system_error);
+}
+
 TEST_F(FolderChangeTest, ADecidedChangeIsKnownUntilItIsFinished) {
     EXPECT_FALSE(HasDecidedChange(directory.Path()));
     directory.Write("CHANGE", "remove B\n");
