@@ -7,8 +7,6 @@
 #include "platform/files/FolderChange.h"
 
 #include <algorithm>
-#include <functional>
-#include <iterator>
 #include <map>
 #include <system_error>
 #include <utility>
@@ -25,24 +23,16 @@ auto CountOf(const Findings& findings, Remedy remedy) {
     return std::ranges::count(findings, remedy, &Finding::remedy);
 }
 
-/// Lists some of the findings, each behind a word.
-void List(const Findings& findings, const char* word, bool (*isListed)(const Finding&), const Console& console) {
-    for (const Finding& finding : findings) {
-        if (isListed(finding)) {
-            console.out << word << LineOf(finding) << '\n';
-        }
-    }
-}
-
-bool IsMendable(const Finding& finding) {
-    return finding.remedy == Remedy::Mend;
+/// The beginning of a finding's line; of a fault, the given word.
+const char* WordBefore(const Finding& finding, const char* wordOfAFault) {
+    return IsFault(finding) ? wordOfAFault : "note: ";
 }
 
 void TellAll(const CheckedFolder& checked, const Console& console) {
     for (const Finding& finding : checked.findings) {
         const bool mends = finding.remedy == Remedy::Mend;
-        console.out << (IsFault(finding) ? "" : "note: ") << LineOf(finding)
-                    << (mends ? " \"check --mend\" repairs it." : "") << '\n';
+        console.out << WordBefore(finding, "") << LineOf(finding) << (mends ? " \"check --mend\" repairs it." : "")
+                    << '\n';
     }
     const auto mendable = CountOf(checked.findings, Remedy::Mend);
     const auto faults = mendable + CountOf(checked.findings, Remedy::User);
@@ -86,7 +76,11 @@ Mending MendAll(const std::string& path, const Console& console) {
     Mending mending;
     mending.kept = RemoveLeftOvers(folder, found.leftOvers);
     std::erase_if(found.findings, [&mending](const Finding& finding) { return mending.kept.contains(finding.file); });
-    List(found.findings, "mended: ", IsMendable, console);
+    for (const Finding& finding : found.findings) {
+        if (finding.remedy == Remedy::Mend) {
+            console.out << "mended: " << LineOf(finding) << '\n';
+        }
+    }
     if (!copy.empty()) {
         mending.changed = "What was there is kept in " + copy + ".";
         console.out << mending.changed << '\n';
@@ -96,10 +90,9 @@ Mending MendAll(const std::string& path, const Console& console) {
     return mending;
 }
 
-/// What is wrong with a folder that has been mended.
-Findings FaultsLeft(const std::string& folder, const Reasons& kept) {
+/// What is to be told of a folder that has been mended.
+Findings FindingsLeft(const std::string& folder, const Reasons& kept) {
     Findings left = CheckFolder(folder).findings;
-    std::erase_if(left, std::not_fn(IsFault));
     for (Finding& finding : left) {
         if (const auto reason = kept.find(finding.file); reason != kept.end()) {
             finding.what = "was left by a run that did not come to its end, and cannot be removed: " + reason->second;
@@ -119,9 +112,11 @@ CheckOutcome CheckData(const std::string& folder, bool mend, const Console& cons
         return {.nothingIsWrong = std::ranges::none_of(checked.findings, IsFault)};
     }
     Mending mending = MendAll(folder, console);
-    const Findings left = FaultsLeft(folder, mending.kept);
-    List(left, "left: ", IsFault, console);
-    const auto count = std::ssize(left);
+    const Findings left = FindingsLeft(folder, mending.kept);
+    for (const Finding& finding : left) {
+        console.out << WordBefore(finding, "left: ") << LineOf(finding) << '\n';
+    }
+    const auto count = std::ranges::count_if(left, IsFault);
     console.out << (count == 0 ? std::string("Nothing is wrong any more.")
                                : CountText(count, "finding") + " left, for you to put right.")
                 << '\n';

@@ -13,7 +13,7 @@ struct CheckOutcome {
 };
 
 /// Tells of all that is wrong in a folder, one line a finding; with `mend` it repairs what can be repaired without a
-/// guess, keeps a copy of what was there, and tells what is left. Throws Refusal.
+/// guess, keeps a copy of what was there, and tells what is left, notes included. Throws Refusal.
 [[nodiscard]] CheckOutcome CheckData(const std::string& folder, bool mend, const Console& console);
 
 }  // namespace ballhaven::data

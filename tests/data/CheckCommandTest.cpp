@@ -100,6 +100,10 @@ TEST_F(CheckCommandTest, ANoteIsNoFinding) {
     EXPECT_EQ(out.str(),
               "note: GAME11.CDB: is empty. Ballhaven fills it with blank records when its game is shown.\n"
               "23 files checked: nothing is wrong.\n");
+    EXPECT_EQ(Run({"check", "--mend"}), done);
+    EXPECT_EQ(out.str(),
+              "note: GAME11.CDB: is empty. Ballhaven fills it with blank records when its game is shown.\n"
+              "Nothing is wrong any more.\n");
 }
 
 TEST_F(CheckCommandTest, ADecidedChangeIsLeftToTheMending) {
