@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/AppState.h"
+#include "state/RecordField.h"
 
 #include <cstdint>
 #include <span>
@@ -21,6 +22,33 @@ inline constexpr int olderDrawFileRecords = 1 + 100;  ///< of the version that k
 
 /// How many digits of a date's serial a file keeps. Four reach to 18 May 2011.
 enum class DateDigits : int { Four = 4, Five = 5 };
+
+/// The header of a file of draws.
+namespace drawHeaderField {
+
+inline constexpr RecordField stamp{1, 10};       // of the format; nothing reads it
+inline constexpr RecordField digitsMark{64, 1};  // "M" where dates have five digits
+
+}  // namespace drawHeaderField
+
+inline constexpr std::string_view drawFileStamp = "10-26-2002";
+inline constexpr std::string_view fiveDigitsMark = "M";
+
+/// A row of a file of draws.
+namespace drawField {
+
+inline constexpr RecordField fifthDigit{5, 1};  // of the date; blank where dates have four
+
+[[nodiscard]] constexpr RecordField Date(DateDigits digits) {
+    return {1, static_cast<int>(digits)};
+}
+
+/// A pick, from 1.
+[[nodiscard]] constexpr RecordField Pick(int pick) {
+    return {3 * pick + 3, 2};
+}
+
+}  // namespace drawField
 
 /// The last serial of a date that a file with so many digits keeps.
 [[nodiscard]] constexpr int LastDateOf(DateDigits digits) {

@@ -1,7 +1,6 @@
 #include "plays/PlayRecord.h"
 
 #include "plays/PickSlots.h"
-#include "plays/PlayMethodCode.h"
 #include "state/modUTILS.h"
 
 #include <cstddef>
@@ -10,15 +9,11 @@ namespace ballhaven {
 
 namespace {
 
-// A play's record: its method in columns 1-2, then the main picks from column 6 on and the bonus picks from column 36
-// on, each in two columns behind a blank.
-constexpr int methodColumn = 1;
-constexpr std::size_t pickWidth = 2;
-
 const std::string emptyRecord(playRecordLength, ' ');
 
-constexpr int PickFieldColumn(int pickColumn, int slot) {
-    return 3 * (pickColumn * picksPerPlay + slot) + 3;
+/// The text of a field of a record at its full length, without a copy of it.
+std::string_view TextIn(std::string_view record, RecordField field) {
+    return record.substr(static_cast<std::size_t>(field.first - 1), static_cast<std::size_t>(field.width));
 }
 
 }  // namespace
@@ -28,26 +23,25 @@ void DecodePlay(std::string_view record, PlayPicks& plays, int play) {
         EmptyPlay(plays, play);
         return;
     }
-    plays(mainPicks, play, 0) = MethodOfCode(record.substr(methodColumn - 1, methodCodeWidth));
-    for (const int pickColumn : {mainPicks, bonusPicks}) {
+    plays(mainPicks, play, 0) = MethodOfCode(TextIn(record, playField::method));
+    for (const PickColumn list : {mainPicks, bonusPicks}) {
         for (int slot = 1; slot <= picksPerPlay; ++slot) {
-            const auto start = static_cast<std::size_t>(PickFieldColumn(pickColumn, slot) - 1);
-            plays(pickColumn, play, slot) = modUTILS::PickOfField(record.substr(start, pickWidth));
+            plays(list, play, slot) = modUTILS::PickOfField(TextIn(record, playField::Pick(list, slot)));
         }
     }
 }
 
 std::string EncodePlay(const PlayPicks& plays, int play) {
     std::string record(static_cast<std::size_t>(playRecordLength), ' ');
-    modUTILS::SetColumns(record, methodColumn, CodeOfMethod(plays(mainPicks, play, 0)));
-    for (const int pickColumn : {mainPicks, bonusPicks}) {
+    SetField(record, playField::method, CodeOfMethod(plays(mainPicks, play, 0)));
+    for (const PickColumn list : {mainPicks, bonusPicks}) {
         for (int slot = 1; slot <= picksPerPlay; ++slot) {
-            const std::int16_t pick = plays(pickColumn, play, slot);
+            const std::int16_t pick = plays(list, play, slot);
             if (pick >= 0) {
                 // QUIRK PICK-TWO-DIGITS-1: of a cell number above 99 its first two digits are stored, so the last cells
                 // of a board where numbers can repeat come back as cell 10. A wider field would make files that other
                 // copies of the program read wrongly.
-                modUTILS::SetColumns(record, PickFieldColumn(pickColumn, slot), modUTILS::PickField(pick));
+                SetField(record, playField::Pick(list, slot), modUTILS::PickField(pick));
             }
         }
     }

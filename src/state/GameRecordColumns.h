@@ -1,20 +1,12 @@
 #pragma once
 
-#include "state/modUTILS.h"
+#include "state/RecordField.h"
 
-#include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace ballhaven {
 
 inline constexpr int gameRecordLength = 64;
-
-/// A field of a record: its first column, counted from 1, and its width in columns.
-struct RecordField {
-    int first;
-    int width;
-};
 
 /// Record 1 of the game table. Columns 3, 5 and 7 hold a separator, column 6 a digit that nothing reads.
 namespace systemField {
@@ -50,25 +42,5 @@ inline constexpr int separators[] = {3, 26, 30, 32, 34, 37, 39, 41, 43, 45, 48, 
 
 /// Columns 4-23 of a slot that no game has been set up in, without the blanks behind.
 inline constexpr std::string_view undefinedGameName = "un-defined";
-
-/// The text of a field; blanks where the record is shorter.
-[[nodiscard]] inline std::string FieldText(std::string_view record, RecordField field) {
-    return modUTILS::Columns(record, field.first, field.width);
-}
-
-/// The number in a field by the value rule. No field that holds a number is wide enough to overflow.
-[[nodiscard]] inline std::int16_t FieldValue(std::string_view record, RecordField field) {
-    return modUTILS::ValueOf16(FieldText(record, field));
-}
-
-/// Puts a text into a field, cut or padded with blanks to its width.
-inline void SetField(std::string& record, RecordField field, std::string_view text) {
-    modUTILS::SetColumns(record, field.first, modUTILS::FixedWidth(text, field.width));
-}
-
-/// Puts a number into a field, with leading zeros, cut to its last digits.
-inline void SetFieldValue(std::string& record, RecordField field, std::int64_t value) {
-    SetField(record, field, modUTILS::ZeroPadded(value, field.width));
-}
 
 }  // namespace ballhaven

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "plays/PlayMethodCode.h"
 #include "state/AppState.h"
+#include "state/RecordField.h"
 
 #include <cstdint>
 #include <span>
@@ -13,6 +15,17 @@ namespace ballhaven {
 // bonus list of each. Texts and values only; nothing here knows a file or `appState`.
 
 inline constexpr int chosenRecordLength = 320;
+
+namespace chosenField {
+
+inline constexpr RecordField method{300, methodCodeWidth};  // of a main list; a bonus list has none
+
+/// A pick, from 1.
+[[nodiscard]] constexpr RecordField Pick(int pick) {
+    return {3 * pick - 2, 2};
+}
+
+}  // namespace chosenField
 
 /// The record of the list of a game's slot (1 to 20).
 [[nodiscard]] int ChosenRecordOf(int slot, PickColumn list);

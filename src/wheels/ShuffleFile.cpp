@@ -16,9 +16,6 @@ namespace {
 constexpr FileSizes fileSizes{
     .recordLength = chosenRecordLength, .recordCount = 2 * gameSlots, .olderRecordCount = gameSlots};
 
-// Where a list's record keeps the option.
-constexpr int optionColumn = 300;
-
 std::string PathOf(const std::string& directory) {
     return directory + "SHUFFLE.CDB";
 }
@@ -37,13 +34,13 @@ void LoadShuffleFile() {
     // QUIRK SHUFFLE-OPTION-BONUS-1: the option is looked for in the record read last, which in a game with a bonus is
     // the bonus list's, where no option stands: such a game always comes back without one, and its window opens on
     // Shuffle. Looking in the main record would bring back options that were stored long ago and never shown.
-    appState.ShuffleTable(mainPicks, 0) = MethodOfCode(modUTILS::Columns(record, optionColumn, methodCodeWidth));
+    appState.ShuffleTable(mainPicks, 0) = MethodOfCode(FieldText(record, chosenField::method));
 }
 
 void SaveShuffleFile() {
     RecordFile file(PathOf(appState.programDirectory), fileSizes.recordLength, fileSizes.recordCount);
     std::string mainRecord = EncodeChosenPicks(appState.ShuffleTable.Slots(mainPicks));
-    modUTILS::SetColumns(mainRecord, optionColumn, CodeOfMethod(appState.ShuffleTable(mainPicks, 0)));
+    SetField(mainRecord, chosenField::method, CodeOfMethod(appState.ShuffleTable(mainPicks, 0)));
     file.Write(ChosenRecordOf(appState.currentGame, mainPicks), mainRecord);
     if (HasBonus(appState.gameType)) {
         file.Write(ChosenRecordOf(appState.currentGame, bonusPicks),

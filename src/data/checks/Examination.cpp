@@ -52,7 +52,7 @@ Bytes BytesOf(std::string_view record) {
     return std::ranges::all_of(record, [](char byte) { return byte == '\0'; }) ? Bytes::Zeros : Bytes::NoText;
 }
 
-std::optional<int> NumberIn(std::string_view field) {
+std::optional<int> NumberAmongBlanks(std::string_view field) {
     const std::size_t first = field.find_first_not_of(' ');
     if (first == std::string_view::npos) {
         return std::nullopt;

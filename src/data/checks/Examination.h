@@ -36,7 +36,7 @@ enum class Bytes { Text, Zeros, NoText };
 [[nodiscard]] Bytes BytesOf(std::string_view record);
 
 /// The number of a field that holds digits and blanks around them, and nothing else.
-[[nodiscard]] std::optional<int> NumberIn(std::string_view field);
+[[nodiscard]] std::optional<int> NumberAmongBlanks(std::string_view field);
 
 /// Bytes of a file in quotation marks, as UTF-8; those that are no text as "\x00".
 [[nodiscard]] std::string QuotedBytes(std::string_view bytes);

@@ -78,7 +78,7 @@ class TableCheck {
         if (!examination.IsText("Ballhaven reads what settings it finds there. Restore a copy.")) {
             return;
         }
-        if (!IsWithin(NumberIn(Text(systemField::shownSlot)), 1, gameSlots)) {
+        if (!IsWithin(NumberAmongBlanks(Text(systemField::shownSlot)), 1, gameSlots)) {
             examination.MendField({systemField::shownSlot, "slot shown last"}, "01", "Ballhaven takes it for slot 1.");
         }
         CheckSeparators(systemSeparators);
@@ -88,7 +88,7 @@ class TableCheck {
                                   oldestFirst ? "Ballhaven reads it as the oldest draw first."
                                               : "Ballhaven reads it as the newest draw first.");
         }
-        if (!NumberIn(Text(systemDigit))) {
+        if (!NumberAmongBlanks(Text(systemDigit))) {
             examination.MendField({systemDigit, "a digit that nothing reads"}, "1", "");
         }
         CheckPrintSelections();
@@ -119,7 +119,7 @@ class TableCheck {
         }
         Begin(slot + 1, SubjectOf(slot));
         CheckSeparators(gameField::separators);
-        if (!IsWithin(NumberIn(Text(gameField::slot)), 1, gameSlots)) {
+        if (!IsWithin(NumberAmongBlanks(Text(gameField::slot)), 1, gameSlots)) {
             examination.MendField({gameField::slot, "number of the slot"},
                                   modUTILS::FixedWidth(std::to_string(slot), gameField::slot.width),
                                   "Nothing reads it.");
@@ -186,7 +186,7 @@ class TableCheck {
 
     void CheckHistorySet(int slot) {
         const std::string text = Text(gameField::historySet);
-        const std::optional<int> size = NumberIn(text);
+        const std::optional<int> size = NumberAmongBlanks(text);
         if (text != "000" && (!IsWithin(size, smallestHistorySet, largestHistorySet) || *size % historySetStep != 0)) {
             examination.LeaveField({gameField::historySet, "history set"}, "none that can be chosen",
                                    "Choose one in Ballhaven, or with \"ballhaven-data set " + std::to_string(slot) +
@@ -201,7 +201,7 @@ class TableCheck {
     }
 
     void CheckKind() {
-        if (!IsWithin(NumberIn(Text(gameField::gameType)), 0, 5)) {
+        if (!IsWithin(NumberAmongBlanks(Text(gameField::gameType)), 0, 5)) {
             examination.LeaveField({gameField::gameType, "kind of game"}, "no kind from 0 to 5", alterIt);
             return;
         }
@@ -223,9 +223,9 @@ class TableCheck {
     void CheckCounts(const GameRules& rules) {
         const NamedField mainCount{gameField::mainPickCount, "main picks of a draw"};
         const NamedField bonusCount{gameField::bonusPickCount, "bonus picks of a draw"};
-        if (!IsWithin(NumberIn(Text(mainCount.columns)), 1, mostPicksOfDraw)) {
+        if (!IsWithin(NumberAmongBlanks(Text(mainCount.columns)), 1, mostPicksOfDraw)) {
             examination.LeaveField(mainCount, "outside 1 to 10", alterIt);
-        } else if (!NumberIn(Text(bonusCount.columns))) {
+        } else if (!NumberAmongBlanks(Text(bonusCount.columns))) {
             examination.LeaveField(bonusCount, "no number", alterIt);
         } else if (TotalPicksOf(rules) > mostPicksOfDraw) {
             examination.LeaveField(bonusCount, "more than a draw of 10 picks has left", alterIt);
@@ -252,7 +252,7 @@ class TableCheck {
 
     // A highest pick of 0 comes from the dialog, where so many picks may repeat that no number is left to choose.
     void CheckHighest(RecordField field, const std::string& name) {
-        if (!IsWithin(NumberIn(Text(field)), 0, highestNumber)) {
+        if (!IsWithin(NumberAmongBlanks(Text(field)), 0, highestNumber)) {
             examination.LeaveField({field, name}, "no number", alterIt);
         }
     }
@@ -262,7 +262,7 @@ class TableCheck {
             return;
         }
         const RecordField digit{gameField::conversion.first, 1};
-        if (NumberIn(Text(digit))) {
+        if (NumberAmongBlanks(Text(digit))) {
             examination.Remark("has a mark of the older form",
                                "Ballhaven brings it to the present form when it is shown.");
         } else {

@@ -1,6 +1,7 @@
 #include "data/checks/HistoryFileCheck.h"
 
 #include "data/checks/HistoryRows.h"
+#include "history/DrawRecord.h"
 #include "state/AppState.h"
 #include "state/GameRules.h"
 
@@ -10,25 +11,12 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr RecordField stampField{1, 10};
-constexpr RecordField markField{64, 1};
-constexpr std::string_view stamp = "10-26-2002";
-constexpr int dateColumn = 1;
-constexpr int fifthDigitColumn = 5;
 constexpr int lowestOfFiveDigits = 10'000;
 
-constexpr RecordField PickField(int pick) {
-    return {3 * pick + 3, 2};
-}
-
-RecordField DateField(DateDigits digits) {
-    return {dateColumn, static_cast<int>(digits)};
-}
-
 std::vector<RecordField> RowFields() {
-    std::vector<RecordField> fields{DateField(DateDigits::Five)};
+    std::vector<RecordField> fields{drawField::Date(DateDigits::Five)};
     for (int pick = 1; pick <= mostPicksOfDraw; ++pick) {
-        fields.push_back(PickField(pick));
+        fields.push_back(drawField::Pick(pick));
     }
     return fields;
 }
@@ -79,7 +67,7 @@ DateEvidence EvidenceOf(const Examination& examination) {
             continue;
         }
         ++evidence.rows;
-        if (NumberIn(FieldText(row, DateField(DateDigits::Five))).value_or(0) >= lowestOfFiveDigits) {
+        if (NumberAmongBlanks(FieldText(row, drawField::Date(DateDigits::Five))).value_or(0) >= lowestOfFiveDigits) {
             ++evidence.fiveDigitRows;
             evidence.firstFiveDigit = evidence.firstFiveDigit == 0 ? record : evidence.firstFiveDigit;
         }
@@ -124,21 +112,22 @@ class HistoryCheck {
     }
 
     void CheckHeader() {
-        if (examination.Text(headerRecord, stampField) != stamp) {
-            examination.MendField({stampField, "stamp of the form"}, stamp, "Nothing reads it.");
+        if (examination.Text(headerRecord, drawHeaderField::stamp) != drawFileStamp) {
+            examination.MendField({drawHeaderField::stamp, "stamp of the form"}, drawFileStamp, "Nothing reads it.");
         }
-        const std::string mark = examination.Text(headerRecord, markField);
-        if (mark != "M" && folderIsMended && evidence.MeansFive()) {
-            examination.MendField({markField, "mark of dates with five digits"}, "M",
+        const std::string mark = examination.Text(headerRecord, drawHeaderField::digitsMark);
+        if (mark != fiveDigitsMark && folderIsMended && evidence.MeansFive()) {
+            examination.MendField({drawHeaderField::digitsMark, "mark of dates with five digits"}, fiveDigitsMark,
                                   "Without it the fifth digit of the dates, which stands there, is not read.");
-        } else if (mark != "M" && mark != " ") {
-            examination.MendField({markField, "mark of dates with five digits"}, " ", "Dates have four digits here.");
+        } else if (mark != fiveDigitsMark && mark != " ") {
+            examination.MendField({drawHeaderField::digitsMark, "mark of dates with five digits"}, " ",
+                                  "Dates have four digits here.");
         }
         examination.MendUnused(headerColumns, StrayDigits::Blank);
     }
 
     void LeaveDoubt() {
-        examination.LeaveField({markField, "mark of dates with five digits"}, "in doubt",
+        examination.LeaveField({drawHeaderField::digitsMark, "mark of dates with five digits"}, "in doubt",
                                std::to_string(evidence.fiveDigitRows) + " of " + std::to_string(evidence.rows) +
                                    " dates have a fifth digit, the first in " +
                                    RecordsText(evidence.firstFiveDigit, evidence.firstFiveDigit) +
@@ -164,8 +153,8 @@ class HistoryCheck {
     }
 
     void CheckDate(const std::string& row) {
-        const NamedField field{DateField(digits), "date"};
-        const std::optional<int> date = NumberIn(FieldText(row, field.columns));
+        const NamedField field{drawField::Date(digits), "date"};
+        const std::optional<int> date = NumberAmongBlanks(FieldText(row, field.columns));
         const std::string words =
             "Ballhaven sees no draw here, and blanks the row when it next saves the game's draws: " +
             QuotedBytes(modUTILS::Trimmed(row)) + ".";
@@ -179,27 +168,26 @@ class HistoryCheck {
     }
 
     void CheckFifthDigit(const std::string& row) {
-        const RecordField fifth{fifthDigitColumn, 1};
-        if (digits == DateDigits::Five || FieldText(row, fifth) == " ") {
+        if (digits == DateDigits::Five || FieldText(row, drawField::fifthDigit) == " ") {
             return;
         }
-        if (NumberIn(FieldText(row, DateField(DateDigits::Five)))) {
-            examination.LeaveField({DateField(DateDigits::Five), "date"}, "a digit longer than this file's dates",
+        if (NumberAmongBlanks(FieldText(row, drawField::Date(DateDigits::Five)))) {
+            examination.LeaveField({drawField::Date(DateDigits::Five), "date"}, "a digit longer than this file's dates",
                                    "Ballhaven reads the first four.");
         } else {
-            examination.MendField({fifth, "blank behind the date"}, " ", "Nothing reads it.");
+            examination.MendField({drawField::fifthDigit, "blank behind the date"}, " ", "Nothing reads it.");
         }
     }
 
     void CheckPicks(int record) {
         const int picks = slot.rules ? TotalPicksOf(*slot.rules) : 0;
         for (int pick = 1; pick <= mostPicksOfDraw; ++pick) {
-            const NamedField field{PickField(pick), "pick " + std::to_string(pick)};
+            const NamedField field{drawField::Pick(pick), "pick " + std::to_string(pick)};
             const std::string text = examination.Text(record, field.columns);
             if (IsBlank(text)) {
                 continue;
             }
-            if (const std::optional<int> value = NumberIn(text); !value) {
+            if (const std::optional<int> value = NumberAmongBlanks(text); !value) {
                 examination.LeaveField(field, "no number",
                                        "Ballhaven reads it as " + std::to_string(modUTILS::PickOfField(text)) + ".");
             } else if (pick <= picks) {
@@ -230,7 +218,8 @@ class HistoryCheck {
     bool folderIsMended;
     DateEvidence evidence;
     DateDigits digits = DateDigits::Four;
-    const std::vector<bool> headerColumns = ColumnsOf({stampField, markField}, drawRecordLength);
+    const std::vector<bool> headerColumns =
+        ColumnsOf({drawHeaderField::stamp, drawHeaderField::digitsMark}, drawRecordLength);
     const std::vector<bool> rowColumns = ColumnsOf(RowFields(), drawRecordLength);
 };
 

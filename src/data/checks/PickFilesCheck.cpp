@@ -5,6 +5,7 @@
 #include "plays/PlayRecord.h"
 #include "state/AppState.h"
 #include "state/GameRules.h"
+#include "wheels/ChosenRecord.h"
 
 #include <algorithm>
 
@@ -12,22 +13,7 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr int pickWidth = 2;
 constexpr const char* lookAtIt = "An alteration of the game leaves such picks. Look at it in Ballhaven.";
-
-// A play's record: its method, then the main and the bonus picks.
-constexpr RecordField playMethodField{1, methodCodeWidth};
-
-constexpr RecordField PlayPickField(PickColumn list, int slot) {
-    return {3 * (list * picksPerPlay + slot) + 3, pickWidth};
-}
-
-// A record of chosen picks: the picks, then the method of a main list.
-constexpr RecordField chosenMethodField{300, methodCodeWidth};
-
-constexpr RecordField ChosenPickField(int pick) {
-    return {3 * pick - 2, pickWidth};
-}
 
 std::string NameOfPick(PickColumn list, int slot) {
     return (list == mainPicks ? "main pick " : "bonus pick ") + std::to_string(slot);
@@ -57,7 +43,7 @@ class PickFieldCheck {
             return;
         }
         const NamedField field{columns, NameOfPick(list, slot)};
-        if (const std::optional<int> pick = NumberIn(text); !pick) {
+        if (const std::optional<int> pick = NumberAmongBlanks(text); !pick) {
             examination.LeaveField(
                 field, "no number",
                 "Ballhaven reads it as cell " + std::to_string(modUTILS::PickOfField(text)) + " of the board.");
@@ -79,19 +65,19 @@ void CheckMethod(Examination& examination, const std::string& record, RecordFiel
 }
 
 std::vector<bool> PlayColumns() {
-    std::vector<RecordField> fields{playMethodField};
+    std::vector<RecordField> fields{playField::method};
     for (const PickColumn list : {mainPicks, bonusPicks}) {
         for (int slot = 1; slot <= picksPerPlay; ++slot) {
-            fields.push_back(PlayPickField(list, slot));
+            fields.push_back(playField::Pick(list, slot));
         }
     }
     return ColumnsOf(fields, playRecordLength);
 }
 
 std::vector<bool> ChosenColumns(int recordLength) {
-    std::vector<RecordField> fields{chosenMethodField};
+    std::vector<RecordField> fields{chosenField::method};
     for (int pick = 1; pick <= chosenPicks; ++pick) {
-        fields.push_back(ChosenPickField(pick));
+        fields.push_back(chosenField::Pick(pick));
     }
     return ColumnsOf(fields, recordLength);
 }
@@ -115,10 +101,10 @@ CheckedFile CheckPlayFile(const FoundFile& found, const CheckedSlot& slot) {
         if (!examination.IsText("Ballhaven reads what numbers it finds there. Look at the play.")) {
             continue;
         }
-        CheckMethod(examination, record, playMethodField);
+        CheckMethod(examination, record, playField::method);
         for (const PickColumn list : {mainPicks, bonusPicks}) {
             for (int pick = 1; pick <= picksPerPlay; ++pick) {
-                picks.Check(record, PlayPickField(list, pick), list, pick, pick <= PicksOf(slot, list));
+                picks.Check(record, playField::Pick(list, pick), list, pick, pick <= PicksOf(slot, list));
             }
         }
         examination.MendUnused(columns, StrayDigits::Leave);
@@ -142,10 +128,10 @@ CheckedFile CheckChosenPicksFile(const FoundFile& found, const std::vector<Check
         if (IsBlank(record) || !examination.IsText("Ballhaven reads what numbers it finds there.")) {
             continue;
         }
-        CheckMethod(examination, record, chosenMethodField);
+        CheckMethod(examination, record, chosenField::method);
         PickFieldCheck picks(examination, slot.rules);
         for (int pick = 1; pick <= chosenPicks; ++pick) {
-            picks.Check(record, ChosenPickField(pick), list, pick, PicksOf(slot, list) > 0);
+            picks.Check(record, chosenField::Pick(pick), list, pick, PicksOf(slot, list) > 0);
         }
         examination.MendUnused(columns, StrayDigits::Leave);
     }

@@ -91,7 +91,7 @@ std::string ContentOf(const DrawsOnFile& file, const std::optional<std::string>&
 
 std::string WithFiveDigitDates(std::string content) {
     const auto length = static_cast<std::size_t>(drawRecordLength);
-    constexpr std::size_t fifthDigit = 4;
+    constexpr auto fifthDigit = static_cast<std::size_t>(drawField::fifthDigit.first - 1);
     for (std::size_t row = length; row + fifthDigit < content.size(); row += length) {
         content[row + fifthDigit] = ' ';
     }

@@ -12,12 +12,12 @@ FoundFile Found(const std::string& bytes, std::int64_t length = -1) {
 }
 
 TEST(ExaminationTest, OnlyDigitsWithBlanksAroundThemAreANumber) {
-    EXPECT_EQ(NumberIn(" 7"), 7);
-    EXPECT_EQ(NumberIn("7 "), 7);
-    EXPECT_EQ(NumberIn("000"), 0);
-    EXPECT_EQ(NumberIn("32768"), 32768);
+    EXPECT_EQ(NumberAmongBlanks(" 7"), 7);
+    EXPECT_EQ(NumberAmongBlanks("7 "), 7);
+    EXPECT_EQ(NumberAmongBlanks("000"), 0);
+    EXPECT_EQ(NumberAmongBlanks("32768"), 32768);
     for (const char* text : {"", "  ", "7x", "-1", "1 2", "+3", "1."}) {
-        EXPECT_EQ(NumberIn(text), std::nullopt) << text;
+        EXPECT_EQ(NumberAmongBlanks(text), std::nullopt) << text;
     }
 }
 
