@@ -9,6 +9,7 @@
 #include <QPalette>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTableView>
 
 namespace ballhaven::platform {
 
@@ -121,6 +122,14 @@ class ClassicStyle : public PlainScrollBarStyle {
             return;
         }
         PlainScrollBarStyle::drawComplexControl(control, option, painter, widget);
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const bool isCovered = element == PE_PanelItemViewRow && qobject_cast<const QTableView*>(widget) != nullptr;
+        if (!isCovered) {  // the cells of a table fill all of their row
+            PlainScrollBarStyle::drawPrimitive(element, option, painter, widget);
+        }
     }
 
     // The mark of a menu bar that has no room for its menus. The toolkit's own is a file that it looks for a reader

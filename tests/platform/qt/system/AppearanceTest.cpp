@@ -3,12 +3,16 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontInfo>
+#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPixmapCache>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOption>
+#include <QTableView>
 #include <gtest/gtest.h>
 
 #include <set>
@@ -97,6 +101,22 @@ TEST(Appearance, ScrollBarsAreFlatFacesInTheColoursOfThePalette) {
     EXPECT_EQ(colours,
               (std::set<QRgb>{palette.color(QPalette::Midlight).rgb(), palette.color(QPalette::Dark).rgb(),
                               palette.color(QPalette::Button).rgb(), palette.color(QPalette::ButtonText).rgb()}));
+}
+
+TEST(Appearance, ARowOfATableIsFilledByItsCellsAlone) {
+    QStyleOptionViewItem row;
+    row.rect = QRect(0, 0, 20, 20);
+    row.features = QStyleOptionViewItem::Alternate;
+    row.palette = QApplication::palette();
+    const auto filled = [&row](const QWidget& widget) {
+        QImage image(row.rect.size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QApplication::style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &row, &painter, &widget);
+        return image.pixel(10, 10) != QColor(Qt::white).rgb();
+    };
+    EXPECT_FALSE(filled(QTableView()));
+    EXPECT_TRUE(filled(QListView()));
 }
 
 TEST(Appearance, ListsDropDownBelowTheirBox) {
