@@ -10,6 +10,7 @@
 #include "platform/Pointer.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
+#include "state/DrawCells.h"
 #include "state/MendedFolder.h"
 #include "state/ViewRows.h"
 #include "state/modUTILS.h"
@@ -22,8 +23,6 @@ namespace {
 
 constexpr std::size_t addRecord = 4;
 constexpr std::size_t deleteRecord = 5;
-constexpr int dateColumn = 0;
-constexpr std::int16_t newestDraw = -1;
 
 /// Opens the calendar on a date, and returns when it has closed.
 void ChooseDate(std::chrono::year_month_day offered) {

@@ -8,6 +8,7 @@
 #include "state/DateMask.h"
 #include "state/DateSerial.h"
 #include "state/DateText.h"
+#include "state/DrawCells.h"
 #include "state/ViewRows.h"
 #include "state/modUTILS.h"
 
@@ -18,12 +19,10 @@ namespace ballhaven {
 
 namespace {
 
-constexpr int dateColumn = 0;
-constexpr std::int16_t blankPick = -1;
 constexpr int choosingNewDraw = -1;
 
-// A view of so many rows counts a new draw before it has been cut again.
-constexpr int viewThatCountsNewDraw = 10;
+// A view that ends before this row counts a new draw at once, before it is cut again.
+constexpr int endOfSmallView = 10;
 
 void TellDateExists() {
     platform::Tell("Date already exists,\nplease select another date.", platform::BoxIcon::Information);
@@ -56,7 +55,7 @@ void AddDraw(std::int16_t date) {
     const int row = RowForNewDraw(appState.historyLast);
     if (row > appState.historyLast) {
         appState.historyLast = modUTILS::ToInt16(row);
-        if (row > appState.historyViewLast && appState.historyViewLast < viewThatCountsNewDraw) {
+        if (row > appState.historyViewLast && appState.historyViewLast < endOfSmallView) {
             appState.historyViewLast = appState.historyLast;
         }
     }

@@ -11,6 +11,7 @@
 #include "plays/PlayFile.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
+#include "state/DrawCells.h"
 #include "state/GameRecordColumns.h"
 #include "state/GameTable.h"
 #include "state/ViewRows.h"
@@ -25,9 +26,6 @@
 namespace ballhaven {
 
 namespace {
-
-constexpr int dateColumn = 0;
-constexpr std::int16_t newestDraw = -1;
 
 /// The slot of the game shown last. A damaged record has slot 1.
 std::int16_t StoredSlot(const std::string& systemRecord) {

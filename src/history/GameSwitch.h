@@ -20,9 +20,12 @@ void SwitchGameTo(std::int16_t slot);
 /// view has no draw. An empty table or a history set of 0 gives `historyViewLast` -1.
 void BuildHistoryView();
 
+/// In place of a date: the newest draw.
+inline constexpr std::int16_t newestDraw = -1;
+
 /// What every change of the draws, of the history set or of the order ends in: saves a dirty history, marks the tables
-/// stale, rebuilds the view and the hot table, and brings a draw into view. `date` is its serial; -1 stands for the
-/// newest draw. Says so where the draw is not in the set, unless a new draw's date is being chosen.
+/// stale, rebuilds the view and the hot table, and brings a draw into view. `date` is its serial, or `newestDraw`. Says
+/// so where the draw is not in the set, unless a new draw's date is being chosen.
 void RefreshHistory(std::int16_t date);
 
 /// Ends an edit in the log, and saves the history if it is dirty, then the plays if they are, under the current game.

@@ -1,6 +1,7 @@
 #include "history/HistoryView.h"
 
 #include "state/AppState.h"
+#include "state/DrawCells.h"
 
 #include <algorithm>
 #include <numeric>
@@ -10,8 +11,6 @@
 namespace ballhaven {
 
 namespace {
-
-constexpr int dateColumn = 0;
 
 /// Whether a row of the table is a draw: a date of 0 or less is none.
 bool HasDate(const Table& table, int row) {

@@ -4,16 +4,10 @@
 #include "history/PickEntry.h"
 #include "state/AppState.h"
 #include "state/DateText.h"
+#include "state/DrawCells.h"
 #include "state/modUTILS.h"
 
 namespace ballhaven {
-
-namespace {
-
-constexpr int dateColumn = 0;
-constexpr std::int16_t blankPick = -1;
-
-}  // namespace
 
 std::int16_t LogDate() {
     return ReadSerial(frmMainForm.grdHist.Text(dateColumn));

@@ -1,13 +1,12 @@
 #include "history/PickEntry.h"
 
 #include "state/AppState.h"
+#include "state/DrawCells.h"
 #include "state/modUTILS.h"
 
 namespace ballhaven {
 
 namespace {
-
-constexpr int dateColumn = 0;
 
 /// Puts a pick into the column of every row from 0 to `last` that has the date.
 void StoreInTable(Table& table, int last, std::int16_t date, int column, std::int16_t pick) {

@@ -4,12 +4,11 @@
 #include "forms/PlaysForm.h"
 #include "state/AppState.h"
 #include "state/DateSerial.h"
+#include "state/DrawCells.h"
 
 namespace ballhaven {
 
 namespace {
-
-constexpr int dateColumn = 0;
 
 /// The last row of the table with a date, -1 if there is none.
 int LastRowOfDate(const Table& draws, std::int16_t date) {

@@ -1,17 +1,12 @@
 #include "screen/DrawingHiLite.h"
 
+#include "state/DrawCells.h"
 #include "state/PickText.h"
 
 #include <algorithm>
 #include <string>
 
 namespace ballhaven {
-
-namespace {
-
-constexpr std::int16_t blankPick = -1;
-
-}  // namespace
 
 std::vector<std::int16_t> PicksOfBoxes(std::span<const std::int16_t> draw, int totalPicks) {
     std::vector<std::int16_t> picks(draw.begin(), draw.end());

@@ -3,6 +3,7 @@
 #include "screen/HiLite.h"
 #include "state/AppState.h"
 #include "state/DateSerial.h"
+#include "state/DrawCells.h"
 #include "state/PickText.h"
 #include "state/modUTILS.h"
 
@@ -11,9 +12,6 @@
 namespace ballhaven {
 
 namespace {
-
-constexpr int dateColumn = 0;
-constexpr std::int16_t blankPick = -1;
 
 bool IsRedCard(std::string_view card) {
     return card.ends_with('h') || card.ends_with('d');

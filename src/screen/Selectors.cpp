@@ -24,8 +24,6 @@ namespace ballhaven {
 
 namespace {
 
-constexpr std::int16_t newestDraw = -1;
-
 bool IsFilling() {
     return frmMainForm.windowStarting || frmMainForm.gameLoading;
 }

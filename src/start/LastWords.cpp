@@ -59,8 +59,7 @@ std::string WayOut(const std::exception& failure, bool inReading) {
     }
     return "This came up" + InWhichGame() +
            ". The program ends. The files are as they were when they were last saved; start again, and choose a "
-           "smaller "
-           "history set if this comes back.";
+           "smaller history set if this comes back.";
 }
 
 }  // namespace

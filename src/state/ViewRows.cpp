@@ -1,17 +1,12 @@
 #include "state/ViewRows.h"
 
 #include "state/AppState.h"
+#include "state/DrawCells.h"
 
 #include <algorithm>
 #include <cstddef>
 
 namespace ballhaven {
-
-namespace {
-
-constexpr int dateColumn = 0;
-
-}  // namespace
 
 std::span<const std::int16_t> DrawRows::Picks(int row) const {
     const int first = std::max(1, columns.first);

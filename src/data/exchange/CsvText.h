@@ -17,8 +17,8 @@ namespace ballhaven::data {
 /// over. No more than one record is ever in memory.
 class CsvText {
   public:
-    /// Reads from where the stream stands. The delimiter is no quote or line end. Where it is a blank,
-    /// several of them are one, and no field is empty.
+    /// Reads from where the stream stands. The delimiter is no quote or line end. Where it is a blank, several of them
+    /// are one, and no field is empty.
     CsvText(std::istream& bytes, char fieldDelimiter) : source(bytes), delimiter(fieldDelimiter) {}
 
     /// Takes the next record; false at the end. Throws Refusal for a record of more than 64 KiB, a quote that never
@@ -63,9 +63,8 @@ class CsvText {
 inline constexpr std::string_view delimiterMark = "sep=";
 
 /// The delimiter of a text: the one that its first line names so, else a comma, a semicolon or a tab, whichever most of
-/// the first lines agree on. Leaves the
-/// stream at its beginning. Throws Refusal where none divides them; where the lines cannot be read with any, as
-/// `CsvText` does.
+/// the first lines agree on. Leaves the stream at its beginning. Throws Refusal where none divides them; where the
+/// lines cannot be read with any, as `CsvText` does.
 [[nodiscard]] char RecognisedDelimiter(std::istream& bytes);
 
 /// The delimiter with a name: "comma", "semicolon", "tab", "blank", or any character of ASCII itself but letters,
