@@ -21,8 +21,10 @@ constexpr const char* kinds[] = {
     "numbers", "numbers, bonus from the same numbers", "numbers, bonus from numbers of its own",
     "cards",   "cards, bonus from the same cards",     "cards, bonus from cards of its own"};
 
+static_assert(std::size(kinds) == lastGameType + 1);
+
 const char* KindOf(const GameRules& rules) {
-    const bool known = rules.gameType >= 0 && rules.gameType < static_cast<int>(std::size(kinds));
+    const bool known = rules.gameType >= 0 && rules.gameType <= lastGameType;
     return known ? kinds[rules.gameType] : "of no known kind";
 }
 

@@ -13,6 +13,7 @@
 #include "data/guarantee/ProofText.h"
 #include "data/guarantee/Questions.h"
 #include "data/guarantee/Wheel.h"
+#include "plays/PlaySlips.h"
 
 #include <iomanip>
 #include <optional>

@@ -6,6 +6,7 @@
 #include "data/folder/TableOnFile.h"
 #include "history/DrawRecord.h"
 #include "state/AppState.h"
+#include "state/GameRecordColumns.h"
 #include "state/MendedFolder.h"
 
 #include <filesystem>

@@ -6,8 +6,6 @@
 
 namespace ballhaven {
 
-inline constexpr int mostPicks = 10;  ///< main and bonus picks of a draw together
-
 /// The selected entries of the dialog's lists, counted from 0, -1 where nothing is selected.
 struct GameChoices {
     int type = -1;

@@ -54,14 +54,14 @@ GameQuestion AskType(int type) {
 }
 
 GameQuestion AskMainCount(const std::string& record) {
-    return Question(NumbersTo(mostPicks), FieldValue(record, gameField::mainPickCount) - 1);
+    return Question(NumbersTo(mostPicksOfDraw), FieldValue(record, gameField::mainPickCount) - 1);
 }
 
 GameQuestion AskBonusCount(const std::string& record, int type) {
     if (!HasBonus(type)) {
         return Unasked();
     }
-    const int left = mostPicks - FieldValue(record, gameField::mainPickCount);
+    const int left = mostPicksOfDraw - FieldValue(record, gameField::mainPickCount);
     return Question(NumbersTo(left), FieldValue(record, gameField::bonusPickCount) - 1);
 }
 
@@ -140,7 +140,7 @@ AskedGame AskAbout(std::string record, bool opening) {
 }
 
 GameQuestion CountBeside(int changedCount, int selectedEntry, int recordedCount) {
-    const int left = mostPicks - changedCount;
+    const int left = mostPicksOfDraw - changedCount;
     const int wanted = selectedEntry >= 0 ? selectedEntry + 1 : recordedCount;
     return Question(NumbersTo(left), std::min(wanted, left) - 1);
 }

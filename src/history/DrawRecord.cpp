@@ -18,6 +18,10 @@ constexpr RecordField PickField(std::size_t cell) {
 
 }  // namespace
 
+std::string HistoryFileName(int slot) {
+    return "GAME" + modUTILS::ZeroPadded(slot, 2) + ".CDB";
+}
+
 DateDigits DateDigitsOf(std::string_view header) {
     return FieldText(header, drawHeaderField::digitsMark) == fiveDigitsMark ? DateDigits::Five : DateDigits::Four;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/AppState.h"
+#include "state/GameRules.h"
 #include "state/RecordField.h"
 
 #include <cstdint>
@@ -13,11 +14,12 @@ namespace ballhaven {
 // A file of draws, GAME01.CDB to GAME20.CDB: a header, and behind it a record for each row of the history. Texts and
 // values only; nothing here knows a file or `appState`.
 
+[[nodiscard]] std::string HistoryFileName(int slot);
+
 inline constexpr int drawRecordLength = 64;
 inline constexpr int headerRecord = 1;
 inline constexpr int firstDrawRecord = 2;
 inline constexpr int drawFileRecords = 1 + historyRows;
-inline constexpr int mostPicksOfDraw = 10;
 inline constexpr int olderDrawFileRecords = 1 + 100;  ///< of the version that kept 100 draws
 
 /// How many digits of a date's serial a file keeps. Four reach to 18 May 2011.

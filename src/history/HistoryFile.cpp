@@ -4,7 +4,6 @@
 #include "state/AppState.h"
 #include "state/FullSizeFile.h"
 #include "state/MendedFolder.h"
-#include "state/modUTILS.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -19,10 +18,6 @@ constexpr FileSizes fileSizes{.recordLength = drawRecordLength,
                               .recordCount = drawFileRecords,
                               .olderRecordCount = olderDrawFileRecords,
                               .headerFor = StampedHeader};
-
-std::string PathOf(const std::string& directory, int slot) {
-    return directory + "GAME" + modUTILS::ZeroPadded(slot, 2) + ".CDB";
-}
 
 /// The cells of a row that are stored, the date and as many picks as the game has; none where the table has no such
 /// row.
@@ -44,7 +39,8 @@ std::string HeaderToSave(std::string header, bool clearMark) {
 }  // namespace
 
 void LoadHistory() {
-    const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory, appState.currentGame), fileSizes);
+    const RecordFile file =
+        OpenAtFullSize(appState.programDirectory + HistoryFileName(appState.currentGame), fileSizes);
     const DateDigits digits = DateDigitsOf(file.Read(headerRecord));
     appState.HistoryTable = Table(1 + appState.totalPicks, historyRows);
     appState.historyLast = -1;
@@ -62,7 +58,7 @@ void LoadHistory() {
 }
 
 void SaveHistory(std::int16_t clearMark) {
-    RecordFile file(PathOf(appState.programDirectory, appState.currentGame), fileSizes.recordLength,
+    RecordFile file(appState.programDirectory + HistoryFileName(appState.currentGame), fileSizes.recordLength,
                     fileSizes.recordCount);
     const std::string header = HeaderToSave(file.Read(headerRecord), clearMark == 1);
     file.Write(headerRecord, header);

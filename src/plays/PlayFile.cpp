@@ -5,7 +5,6 @@
 #include "plays/PlayScreen.h"
 #include "state/AppState.h"
 #include "state/FullSizeFile.h"
-#include "state/modUTILS.h"
 
 #include <string>
 
@@ -16,14 +15,10 @@ namespace {
 constexpr FileSizes fileSizes{
     .recordLength = playRecordLength, .recordCount = playCount, .olderRecordCount = olderPlayFileRecords};
 
-std::string PathOf(const std::string& directory, int slot) {
-    return directory + "PLAYS" + modUTILS::ZeroPadded(slot, 2) + ".CDB";
-}
-
 }  // namespace
 
 void LoadPlayFile() {
-    const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory, appState.currentGame), fileSizes);
+    const RecordFile file = OpenAtFullSize(appState.programDirectory + PlayFileName(appState.currentGame), fileSizes);
     appState.PlayTable = PlayPicks();
     std::string padded;
     for (int play = 1; play <= playCount; ++play) {
@@ -32,7 +27,7 @@ void LoadPlayFile() {
 }
 
 void SavePlayFile() {
-    RecordFile file(PathOf(appState.programDirectory, appState.currentGame), fileSizes.recordLength,
+    RecordFile file(appState.programDirectory + PlayFileName(appState.currentGame), fileSizes.recordLength,
                     fileSizes.recordCount);
     for (int play = 1; play <= playCount; ++play) {
         file.Write(play, EncodePlay(appState.PlayTable, play));

@@ -18,6 +18,10 @@ std::string_view TextIn(std::string_view record, RecordField field) {
 
 }  // namespace
 
+std::string PlayFileName(int slot) {
+    return "PLAYS" + modUTILS::ZeroPadded(slot, 2) + ".CDB";
+}
+
 void DecodePlay(std::string_view record, PlayPicks& plays, int play) {
     if (record == emptyRecord) {  // as most are
         EmptyPlay(plays, play);

@@ -12,6 +12,8 @@ namespace ballhaven {
 // A file of plays, PLAYS01.CDB to PLAYS20.CDB: record n is play n. Texts and values only; nothing here knows a file or
 // `appState`.
 
+[[nodiscard]] std::string PlayFileName(int slot);
+
 inline constexpr int playRecordLength = 64;
 inline constexpr int olderPlayFileRecords = 1000;  ///< of the version that kept 1000 plays
 

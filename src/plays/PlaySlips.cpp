@@ -18,4 +18,11 @@ void PlaySlipLabel(int play, std::string& slipText, std::string& lineLetter) {
     lineLetter.assign(1, lineLetters[static_cast<std::size_t>(LineOfPlay(play) - 1)]);
 }
 
+std::string NameOfPlay(int play) {
+    std::string slip;
+    std::string line;
+    PlaySlipLabel(play, slip, line);
+    return slip + line;
+}
+
 }  // namespace ballhaven

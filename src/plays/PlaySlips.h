@@ -20,4 +20,7 @@ inline constexpr std::string_view lineLetters = "ABCDE";
 /// The name of a play in two parts: its slip with a point behind, such as "12.", and its line's letter, "A" to "E".
 void PlaySlipLabel(int play, std::string& slipText, std::string& lineLetter);
 
+/// The name in one, such as "12.B".
+[[nodiscard]] std::string NameOfPlay(int play);
+
 }  // namespace ballhaven

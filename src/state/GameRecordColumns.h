@@ -1,12 +1,18 @@
 #pragma once
 
+#include "state/AppState.h"
 #include "state/RecordField.h"
 
 #include <string_view>
 
 namespace ballhaven {
 
+// The table of games: the program's own record, and behind it one for each slot.
+
+inline constexpr const char* gameTableName = "LOTTOSYS";
 inline constexpr int gameRecordLength = 64;
+inline constexpr int systemRecordNumber = 1;
+inline constexpr int gameTableRecords = systemRecordNumber + gameSlots;
 
 /// Record 1 of the game table. Columns 3, 5 and 7 hold a separator, column 6 a digit that nothing reads.
 namespace systemField {

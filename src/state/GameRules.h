@@ -2,9 +2,12 @@
 
 namespace ballhaven {
 
+inline constexpr int lastGameType = 5;
+inline constexpr int mostPicksOfDraw = 10;  ///< main and bonus picks together
+
 /// The rules of a game: what is drawn, how many of it, and how the order counts.
 struct GameRules {
-    int gameType = 0;  ///< 0 to 5
+    int gameType = 0;  ///< 0 to `lastGameType`
     int mainPickCount = 0;
     int bonusPickCount = 0;
     int mainLow = 0;

@@ -10,11 +10,8 @@ namespace ballhaven {
 
 namespace {
 
-constexpr int gameTableRecords = 1 + gameSlots;
-constexpr int systemRecordNumber = 1;
-
 RecordFile OpenedGameTable(const std::string& directory) {
-    return {directory + "LOTTOSYS", gameRecordLength, gameTableRecords};
+    return {directory + gameTableName, gameRecordLength, gameTableRecords};
 }
 
 int RecordNumberOf(int slot) {

@@ -14,7 +14,10 @@ namespace ballhaven {
 // The file of the chosen picks, SHUFFLE.CDB: a record for the main list of each game, and behind those one for the
 // bonus list of each. Texts and values only; nothing here knows a file or `appState`.
 
+inline constexpr const char* chosenFileName = "SHUFFLE.CDB";
 inline constexpr int chosenRecordLength = 320;
+inline constexpr int chosenFileRecords = 2 * gameSlots;
+inline constexpr int olderChosenFileRecords = gameSlots;  ///< of the version without bonus lists
 
 namespace chosenField {
 

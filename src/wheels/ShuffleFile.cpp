@@ -12,18 +12,13 @@ namespace ballhaven {
 
 namespace {
 
-// The older form comes from a version without bonus lists.
 constexpr FileSizes fileSizes{
-    .recordLength = chosenRecordLength, .recordCount = 2 * gameSlots, .olderRecordCount = gameSlots};
-
-std::string PathOf(const std::string& directory) {
-    return directory + "SHUFFLE.CDB";
-}
+    .recordLength = chosenRecordLength, .recordCount = chosenFileRecords, .olderRecordCount = olderChosenFileRecords};
 
 }  // namespace
 
 void LoadShuffleFile() {
-    const RecordFile file = OpenAtFullSize(PathOf(appState.programDirectory), fileSizes);
+    const RecordFile file = OpenAtFullSize(appState.programDirectory + chosenFileName, fileSizes);
     appState.ShuffleTable = ChosenPicks();
     std::string record = file.Read(ChosenRecordOf(appState.currentGame, mainPicks));
     DecodeChosenPicks(record, appState.ShuffleTable.Slots(mainPicks));
@@ -38,7 +33,7 @@ void LoadShuffleFile() {
 }
 
 void SaveShuffleFile() {
-    RecordFile file(PathOf(appState.programDirectory), fileSizes.recordLength, fileSizes.recordCount);
+    RecordFile file(appState.programDirectory + chosenFileName, fileSizes.recordLength, fileSizes.recordCount);
     std::string mainRecord = EncodeChosenPicks(appState.ShuffleTable.Slots(mainPicks));
     SetField(mainRecord, chosenField::method, CodeOfMethod(appState.ShuffleTable(mainPicks, 0)));
     file.Write(ChosenRecordOf(appState.currentGame, mainPicks), mainRecord);

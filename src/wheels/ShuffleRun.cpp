@@ -151,18 +151,11 @@ void RunPass(WheelMode mode, const PickPass& pass, PlayStretch& plays, PlayPicks
     }
 }
 
-std::string NameOf(int play) {
-    std::string slip;
-    std::string line;
-    PlaySlipLabel(play, slip, line);
-    return slip + line;
-}
-
 RunResult ResultOf(const PlayStretch& plays) {
     if (plays.lastPlay < 1) {
         return {.end = RunResult::End::Done};
     }
-    return {RunResult::End::Done, NameOf(plays.firstPlay), NameOf(plays.lastPlay),
+    return {RunResult::End::Done, NameOfPlay(plays.firstPlay), NameOfPlay(plays.lastPlay),
             std::to_string(plays.lastPlay + 1 - plays.firstPlay)};
 }
 

@@ -31,6 +31,7 @@ TEST(PlaySlips, APlayIsNamedByItsSlipWithAPointAndItsLetter) {
         PlaySlipLabel(play, slipText, lineLetter);
         EXPECT_EQ(slipText + lineLetter, name);
         EXPECT_EQ(slipText.back(), '.');
+        EXPECT_EQ(NameOfPlay(play), name);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "history/DrawRecord.h"
 #include "state/AppState.h"
 #include "state/GameRecord.h"
+#include "state/GameRecordColumns.h"
 #include "state/MendedFolder.h"
 
 #include <algorithm>
@@ -201,7 +202,7 @@ class TableCheck {
     }
 
     void CheckKind() {
-        if (!IsWithin(NumberAmongBlanks(Text(gameField::gameType)), 0, 5)) {
+        if (!IsWithin(NumberAmongBlanks(Text(gameField::gameType)), 0, lastGameType)) {
             examination.LeaveField({gameField::gameType, "kind of game"}, "no kind from 0 to 5", alterIt);
             return;
         }

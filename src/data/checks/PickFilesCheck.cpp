@@ -3,6 +3,7 @@
 #include "data/folder/Picks.h"
 #include "plays/PlayMethodCode.h"
 #include "plays/PlayRecord.h"
+#include "plays/PlaySlips.h"
 #include "state/AppState.h"
 #include "state/GameRules.h"
 #include "wheels/ChosenRecord.h"
@@ -47,7 +48,7 @@ class PickFieldCheck {
             examination.LeaveField(
                 field, "no number",
                 "Ballhaven reads it as cell " + std::to_string(modUTILS::PickOfField(text)) + " of the board.");
-        } else if (ofTheGame && rules && PickOfCell(*rules, list, *pick) == noPick) {
+        } else if (ofTheGame && rules && PickOnCell(*rules, list, *pick) == noPick) {
             examination.RemarkField(field, "no cell of the game's board", lookAtIt);
         }
     }
@@ -114,7 +115,7 @@ CheckedFile CheckPlayFile(const FoundFile& found, const CheckedSlot& slot) {
 
 CheckedFile CheckChosenPicksFile(const FoundFile& found, const std::vector<CheckedSlot>& slots) {
     Examination examination(found);
-    if (!CheckLength(examination, found, gameSlots)) {
+    if (!CheckLength(examination, found, olderChosenFileRecords)) {
         return std::move(examination).Result();
     }
     examination.MendZeros();

@@ -28,7 +28,7 @@ std::string TextOfSlot(const GameRules& rules, PickColumn list, std::int16_t slo
     if (slot < 0) {
         return {};
     }
-    return TextOfPick(PickOfCell(rules, list, slot), rules.gameType);
+    return TextOfPick(PickOnCell(rules, list, slot), rules.gameType);
 }
 
 /// The fields of one of the lists of a play.

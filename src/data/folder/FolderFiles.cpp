@@ -1,11 +1,12 @@
 #include "data/folder/FolderFiles.h"
 
 #include "data/folder/Refusal.h"
+#include "history/DrawRecord.h"
 #include "platform/files/DurableFile.h"
 #include "platform/files/Paths.h"
+#include "plays/PlayRecord.h"
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"
-#include "state/modUTILS.h"
 #include "wheels/ChosenRecord.h"
 
 #include <algorithm>
@@ -13,28 +14,20 @@
 
 namespace ballhaven::data {
 
-namespace {
-
-FolderFile FileOfSlot(const std::string& stem, int slot, int recordCount) {
-    return {stem + modUTILS::ZeroPadded(slot, 2) + ".CDB", gameRecordLength, recordCount};
-}
-
-}  // namespace
-
 FolderFile GameTableFile() {
-    return {"LOTTOSYS", gameRecordLength, 1 + gameSlots};
+    return {gameTableName, gameRecordLength, gameTableRecords};
 }
 
 FolderFile HistoryFileOf(int slot) {
-    return FileOfSlot("GAME", slot, 1 + historyRows);
+    return {HistoryFileName(slot), drawRecordLength, drawFileRecords};
 }
 
 FolderFile PlayFileOf(int slot) {
-    return FileOfSlot("PLAYS", slot, playCount);
+    return {PlayFileName(slot), playRecordLength, playCount};
 }
 
 FolderFile ChosenPicksFile() {
-    return {"SHUFFLE.CDB", chosenRecordLength, 2 * gameSlots};
+    return {chosenFileName, chosenRecordLength, chosenFileRecords};
 }
 
 std::vector<FolderFile> AllFolderFiles() {

@@ -19,8 +19,6 @@ namespace ballhaven::data {
 
 namespace {
 
-constexpr int lastGameType = 5;
-
 std::string InLowerCase(std::string text) {
     std::ranges::transform(text, text.begin(), modUTILS::LowerCase);
     return text;

@@ -1,6 +1,5 @@
 #include "data/folder/Picks.h"
 
-#include "plays/PlaySlips.h"
 #include "state/BoardGeometry.h"
 #include "state/PickText.h"
 #include "state/modUTILS.h"
@@ -13,7 +12,7 @@ int BonusSlots(const GameRules& rules) {
     return HasBonus(rules.gameType) ? rules.bonusPickCount : 0;
 }
 
-int PickOfCell(const GameRules& rules, PickColumn list, int cell) {
+int PickOnCell(const GameRules& rules, PickColumn list, int cell) {
     const BoardGeometry board = BoardOf(rules.gameType);
     if (cell < 0 || (list == mainPicks && cell >= board.mainCells)) {
         return noPick;
@@ -25,10 +24,10 @@ int PickOfCell(const GameRules& rules, PickColumn list, int cell) {
 Picks PicksOfPlay(const GameRules& rules, const PlayPicks& plays, int play) {
     Picks picks;
     for (int slot = 1; slot <= std::min(rules.mainPickCount, picksPerPlay); ++slot) {
-        picks.main.push_back(PickOfCell(rules, mainPicks, plays(mainPicks, play, slot)));
+        picks.main.push_back(PickOnCell(rules, mainPicks, plays(mainPicks, play, slot)));
     }
     for (int slot = 1; slot <= BonusSlots(rules); ++slot) {
-        picks.bonus.push_back(PickOfCell(rules, bonusPicks, plays(bonusPicks, play, slot)));
+        picks.bonus.push_back(PickOnCell(rules, bonusPicks, plays(bonusPicks, play, slot)));
     }
     return picks;
 }
@@ -51,13 +50,6 @@ bool HasAllMainPicks(const GameRules& rules, const Picks& picks) {
     return !sorted.empty() && std::ssize(sorted) == rules.mainPickCount &&
            std::ranges::find(sorted, noPick) == sorted.end() &&
            (rules.duplicatesAllowed || std::ranges::adjacent_find(sorted) == sorted.end());
-}
-
-std::string NameOfPlay(int play) {
-    std::string slip;
-    std::string line;
-    PlaySlipLabel(play, slip, line);
-    return slip + line;
 }
 
 std::string PickTexts(const GameRules& rules, std::span<const int> picks) {

@@ -26,7 +26,7 @@ struct Picks {
 
 /// The pick on a cell of a play or of the chosen picks, as the files keep it; `noPick` for an empty slot and for a cell
 /// of the board that shows no pick.
-[[nodiscard]] int PickOfCell(const GameRules& rules, PickColumn list, int cell);
+[[nodiscard]] int PickOnCell(const GameRules& rules, PickColumn list, int cell);
 
 /// The picks of a play (1 to 5000), which has ten main slots at most.
 [[nodiscard]] Picks PicksOfPlay(const GameRules& rules, const PlayPicks& plays, int play);
@@ -39,9 +39,6 @@ struct Picks {
 
 /// Whether there is each main pick that the game draws, one at least, and all are different unless they can repeat.
 [[nodiscard]] bool HasAllMainPicks(const GameRules& rules, const Picks& picks);
-
-/// The name of a play, such as "2.B".
-[[nodiscard]] std::string NameOfPlay(int play);
 
 /// Picks as a person writes them, with a blank between; a dash for a slot without one.
 [[nodiscard]] std::string PickTexts(const GameRules& rules, std::span<const int> picks);

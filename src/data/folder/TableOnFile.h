@@ -6,9 +6,6 @@
 
 namespace ballhaven::data {
 
-/// The program's own record in a table.
-inline constexpr int systemRecordNumber = 1;
-
 /// A table of games at its full length. One that the program would build anew, empty or of a single record, is built
 /// here as the program does it; one that ends early gets the records of unused slots behind what it has, a record that
 /// is cut blanks.

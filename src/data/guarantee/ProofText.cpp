@@ -2,6 +2,7 @@
 
 #include "data/folder/Picks.h"
 #include "data/guarantee/SetProof.h"
+#include "plays/PlaySlips.h"
 #include "state/PickText.h"
 
 #include <string>

@@ -54,7 +54,7 @@ std::vector<int> NumbersAt(const Wheel& wheel, std::span<const int> places) {
 std::vector<int> ChosenNumbers(const GameRules& rules, const ChosenPicks& chosen) {
     std::set<int> numbers;
     for (const std::int16_t cell : chosen.Slots(mainPicks)) {
-        if (const int pick = PickOfCell(rules, mainPicks, cell); pick != noPick) {
+        if (const int pick = PickOnCell(rules, mainPicks, cell); pick != noPick) {
             numbers.insert(pick);
         }
     }

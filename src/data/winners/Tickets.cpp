@@ -1,6 +1,7 @@
 #include "data/winners/Tickets.h"
 
 #include "data/folder/IsoDate.h"
+#include "plays/PlaySlips.h"
 
 #include <algorithm>
 #include <functional>

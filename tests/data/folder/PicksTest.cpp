@@ -29,30 +29,30 @@ constexpr GameRules digits{
     .gameType = 0, .mainPickCount = 3, .mainLow = 0, .mainHigh = 9, .duplicatesAllowed = true, .orderMatters = true};
 
 TEST(Picks, TheNumberOfACellIsOneMoreThanItsPlaceWhereTheLowestIsOne) {
-    EXPECT_EQ(PickOfCell(sixOf49, mainPicks, 0), 1);
-    EXPECT_EQ(PickOfCell(sixOf49, mainPicks, 48), 49);
-    EXPECT_EQ(PickOfCell(withBonus, bonusPicks, 0), 0);
-    EXPECT_EQ(PickOfCell(withBonus, bonusPicks, 11), 11);
+    EXPECT_EQ(PickOnCell(sixOf49, mainPicks, 0), 1);
+    EXPECT_EQ(PickOnCell(sixOf49, mainPicks, 48), 49);
+    EXPECT_EQ(PickOnCell(withBonus, bonusPicks, 0), 0);
+    EXPECT_EQ(PickOnCell(withBonus, bonusPicks, 11), 11);
 }
 
 TEST(Picks, ACellWithoutANumberAndAnEmptySlotAreNoPick) {
-    EXPECT_EQ(PickOfCell(sixOf49, mainPicks, 49), noPick);
-    EXPECT_EQ(PickOfCell(sixOf49, mainPicks, -1), noPick);
-    EXPECT_EQ(PickOfCell(withBonus, mainPicks, 101), noPick) << "the B of BONUS";
-    EXPECT_EQ(PickOfCell(withBonus, bonusPicks, 12), noPick);
+    EXPECT_EQ(PickOnCell(sixOf49, mainPicks, 49), noPick);
+    EXPECT_EQ(PickOnCell(sixOf49, mainPicks, -1), noPick);
+    EXPECT_EQ(PickOnCell(withBonus, mainPicks, 101), noPick) << "the B of BONUS";
+    EXPECT_EQ(PickOnCell(withBonus, bonusPicks, 12), noPick);
 }
 
 TEST(Picks, ACellOfACardGameIsACard) {
-    EXPECT_EQ(PickOfCell(cards, mainPicks, 51), 52);
-    EXPECT_EQ(PickOfCell(cards, mainPicks, 52), noPick);
-    EXPECT_EQ(PickOfCell(cards, bonusPicks, 38), 39);
+    EXPECT_EQ(PickOnCell(cards, mainPicks, 51), 52);
+    EXPECT_EQ(PickOnCell(cards, mainPicks, 52), noPick);
+    EXPECT_EQ(PickOnCell(cards, bonusPicks, 38), 39);
 }
 
 TEST(Picks, EachRunOfABoardWithRepeatedNumbersShowsThemAll) {
-    EXPECT_EQ(PickOfCell(digits, mainPicks, 0), 0);
-    EXPECT_EQ(PickOfCell(digits, mainPicks, 10), 0);
-    EXPECT_EQ(PickOfCell(digits, mainPicks, 27), 7);
-    EXPECT_EQ(PickOfCell(digits, mainPicks, 30), noPick);
+    EXPECT_EQ(PickOnCell(digits, mainPicks, 0), 0);
+    EXPECT_EQ(PickOnCell(digits, mainPicks, 10), 0);
+    EXPECT_EQ(PickOnCell(digits, mainPicks, 27), 7);
+    EXPECT_EQ(PickOnCell(digits, mainPicks, 30), noPick);
 }
 
 TEST(Picks, APlayHasThePicksOfTheGamesSlotsAlone) {
@@ -95,12 +95,6 @@ TEST(Picks, NoPlayHasAllPicksOfARecordThatDrawsNoneOrMoreThanTen) {
 TEST(Picks, APlayWithBonusPicksAloneHasNoMainPick) {
     EXPECT_TRUE(HasNoMainPick({.main = {noPick, noPick}, .bonus = {4}}));
     EXPECT_FALSE(HasNoMainPick({.main = {noPick, 0}}));
-}
-
-TEST(Picks, PlaysAreNamedByTheirSlip) {
-    EXPECT_EQ(NameOfPlay(1), "1.A");
-    EXPECT_EQ(NameOfPlay(7), "2.B");
-    EXPECT_EQ(NameOfPlay(5000), "1000.E");
 }
 
 TEST(Picks, TheyAreWrittenAsNumbersOrAsCards) {
