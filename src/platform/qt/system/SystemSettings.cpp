@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QString>
 
 #include <cstdlib>
@@ -26,9 +27,12 @@ std::string DateLocale() {
     return {};
 }
 
-// Some locales put blanks or invisible marks of the writing direction beside their separators. Left there, they would
-// be taken for separators themselves, or for one of the letters.
-void TakeOutBlanksAndMarks(QString& pattern) {
+// Some locales put blanks or invisible marks of the writing direction beside their separators, or a word in quotes
+// behind the year. Left there, they would be taken for separators themselves, or for one of the letters, and a word
+// would be printed with its quotes.
+void LeaveLettersAndSeparators(QString& pattern) {
+    static const QRegularExpression word(QStringLiteral("'[^']*'"));
+    pattern.remove(word);
     pattern.removeIf([](QChar each) { return each.isSpace() || each.category() == QChar::Other_Format; });
 }
 
@@ -78,7 +82,7 @@ std::string ShortDatePatternOfLocale(const std::string& name) {
         return {};
     }
     QString pattern = locale.dateFormat(QLocale::ShortFormat);
-    TakeOutBlanksAndMarks(pattern);
+    LeaveLettersAndSeparators(pattern);
     return FromQString(pattern);
 }
 

@@ -16,8 +16,8 @@ namespace ballhaven::platform {
 /// The user's short-date pattern, such as "M/d/yyyy"; empty where there is none.
 [[nodiscard]] std::string ShortDatePattern(const std::string& systemDirectory);
 
-/// The short-date pattern of a locale such as "de_DE.UTF-8", without the blanks in it: "yyyy. MM. dd." comes as
-/// "yyyy.MM.dd.". Empty for "C", "POSIX" and the empty name.
+/// The short-date pattern of a locale such as "de_DE.UTF-8", without the blanks and the words in it: "yyyy. MM. dd."
+/// comes as "yyyy.MM.dd.". Empty for "C", "POSIX" and the empty name.
 [[nodiscard]] std::string ShortDatePatternOfLocale(const std::string& name);
 
 /// The current date in the user's time zone.

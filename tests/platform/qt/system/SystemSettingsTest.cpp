@@ -63,6 +63,10 @@ TEST(SystemSettings, BlanksAndInvisibleMarksBesideTheSeparatorsAreTakenOut) {
     EXPECT_EQ(ShortDatePatternOfLocale("ar_EG.UTF-8"), "d/M/yyyy");
 }
 
+TEST(SystemSettings, AWordInADateIsTakenOut) {
+    EXPECT_EQ(ShortDatePatternOfLocale("bg_BG.UTF-8"), "d.MM.yy.");
+}
+
 TEST(SystemSettings, EveryLocaleGivesAnOrderOfMonthDayAndYear) {
     const auto locales = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
     ASSERT_GT(locales.size(), 100);
