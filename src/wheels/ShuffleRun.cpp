@@ -57,7 +57,7 @@ bool IsPick(std::int16_t slot) {
 PickPass PassOf(const ChosenPicks& chosen, PickColumn list, int low, int high, int pickCount) {
     const int slotsRead = std::clamp(low == 0 ? high + 1 : high, 0, chosenPicks);
     const auto slots = chosen.Slots(list).first(static_cast<std::size_t>(slotsRead));
-    PickPass pass{list, {}, std::clamp(pickCount, 1, picksPerPlay)};
+    PickPass pass{list, {}, std::clamp(pickCount, 0, picksPerPlay)};
     std::ranges::copy_if(slots, std::back_inserter(pass.pool), IsPick);
     return pass;
 }
@@ -71,13 +71,16 @@ std::vector<PickPass> PassesOf(const GameRules& rules, const ChosenPicks& chosen
     return passes;
 }
 
-/// Tells the user where too few picks are chosen for a pass; whether they are.
-bool TellTooFewPicks(const PickPass& pass) {
-    if (std::ssize(pass.pool) > pass.slotCount) {
+/// Tells the user where too few picks are chosen for a pass; whether they are. A damaged count of picks that is higher
+/// than a play has slots counts as it stands.
+bool TellTooFewPicks(const GameRules& rules, const PickPass& pass) {
+    const bool isMain = pass.pickColumn == mainPicks;
+    const int pickCount = isMain ? rules.mainPickCount : rules.bonusPickCount;
+    if (std::ssize(pass.pool) > pickCount) {
         return false;
     }
-    const std::string kind = pass.pickColumn == mainPicks ? "main" : "bonus";
-    platform::Tell("You need to select at least " + std::to_string(pass.slotCount + 1) + " " + kind +
+    const std::string kind = isMain ? "main" : "bonus";
+    platform::Tell("You need to select at least " + std::to_string(pickCount + 1) + " " + kind +
                    " picks to shuffle or wheel.");
     return true;
 }
@@ -177,8 +180,9 @@ RunResult RunShuffleOrWheel(WheelMode mode, std::string_view totalPlays) {
         return {};
     }
     const RunMark mark;
-    const std::vector<PickPass> passes = PassesOf(CurrentRules(), appState.ShuffleTable);
-    if (std::ranges::any_of(passes, TellTooFewPicks)) {
+    const GameRules rules = CurrentRules();
+    const std::vector<PickPass> passes = PassesOf(rules, appState.ShuffleTable);
+    if (std::ranges::any_of(passes, [&rules](const PickPass& pass) { return TellTooFewPicks(rules, pass); })) {
         return {};
     }
     const std::optional<double> total = mode == WheelMode::FullWheel ? 0 : TotalPlaysOf(totalPlays);

@@ -18,7 +18,8 @@ class Combination {
 
     void StartOver() { std::iota(places.begin(), places.end(), std::size_t{0}); }
 
-    [[nodiscard]] bool IsLast() const { return places.front() == HighestAt(0); }
+    /// Of no places there is one combination.
+    [[nodiscard]] bool IsLast() const { return places.empty() || places.front() == HighestAt(0); }
 
     /// Goes on to the next combination; there must be one.
     void Step() {

@@ -192,18 +192,43 @@ TEST_F(Run, ABonusKindThatDrawsNoBonusPicksNeedsNone) {
     EXPECT_EQ(PlaysInUse(appState.PlayTable, bonusPicks), 0);
 }
 
-TEST_F(Run, ADamagedCountOfPicksIsHeldAtOneAndAtTenAndWritesBesideNoPlay) {
-    Use(NumberGame().Picks(0).To(99), Cells(0, 12));
-    EXPECT_EQ(RunShuffleOrWheel(WheelMode::FullWheel, "").plays, "12");
-    EXPECT_EQ(Main(1, 3) + "|" + Main(12, 13), "0|1|2|11|");
-    for (const int count : {11, 99}) {
-        Use(NumberGame().Picks(count).To(99), Cells(0, 12));
-        EXPECT_EQ(RunShuffleOrWheel(WheelMode::FullWheel, "").plays, "66") << count;
-        EXPECT_EQ(Main(1, 2), "0 1 2 3 4 5 6 7 8 9|0 1 2 3 4 5 6 7 8 10") << count;
-        EXPECT_EQ(Main(66, 67), "2 3 4 5 6 7 8 9 10 11|") << count;
-        EXPECT_EQ(appState.PlayTable(mainPicks, 67, 0), 0) << count;
-        EXPECT_EQ(PlaysInUse(appState.PlayTable, bonusPicks), 0) << count;
+TEST_F(Run, ADamagedCountOfPicksIsWantedAsItStandsAndWritesBesideNoPlay) {
+    Use(NumberGame().Picks(15).To(99), Cells(0, 15));
+    ExpectTold(TooFew(16, "main"));
+    EXPECT_EQ(RunShuffleOrWheel(WheelMode::FullWheel, "").end, End::Refused);
+    Use(NumberGame().Picks(11).To(99), Cells(0, 12));
+    EXPECT_EQ(RunShuffleOrWheel(WheelMode::FullWheel, "").plays, "66");
+    EXPECT_EQ(Main(1, 2), "0 1 2 3 4 5 6 7 8 9|0 1 2 3 4 5 6 7 8 10");
+    EXPECT_EQ(Main(66, 67), "2 3 4 5 6 7 8 9 10 11|");
+    EXPECT_EQ(appState.PlayTable(mainPicks, 67, 0), 0);
+    EXPECT_EQ(PlaysInUse(appState.PlayTable, bonusPicks), 0);
+}
+
+TEST_F(Run, ADamagedCountOfNoPicksWantsOneChosenPick) {
+    Use(NumberGame().Picks(0).To(99), {});
+    for (const WheelMode mode : {WheelMode::Shuffle, WheelMode::PartialWheel, WheelMode::FullWheel}) {
+        ExpectTold(TooFew(1, "main"));
+        EXPECT_EQ(RunShuffleOrWheel(mode, "3").end, End::Refused);
     }
+}
+
+TEST_F(Run, AWheelOfNoPicksIsOneEmptyPlay) {
+    for (const auto& [mode, method] :
+         {std::pair{WheelMode::PartialWheel, byPartialWheel}, std::pair{WheelMode::FullWheel, byFullWheel}}) {
+        Use(NumberGame().Picks(0).To(99), {4, 5});
+        EXPECT_EQ(Told(RunShuffleOrWheel(mode, "3")), "1.A to 1.A, 1");
+        EXPECT_EQ(appState.PlayTable(mainPicks, 1, 0), method);
+        EXPECT_EQ(appState.PlayTable(mainPicks, 2, 0), byHand);
+        EXPECT_EQ(PlaysInUse(appState.PlayTable, mainPicks), 0);
+    }
+}
+
+TEST_F(Run, AShuffleOfNoPicksFindsEveryPlayFull) {
+    Use(NumberGame().Picks(0).To(99), {4});
+    EXPECT_EQ(Told(RunShuffleOrWheel(WheelMode::Shuffle, "3")), "1.A to 1.C, 3");
+    EXPECT_EQ(Main(1, 5), "|4|4|4|");
+    EXPECT_EQ(appState.PlayTable(mainPicks, 3, 0), byShuffle);
+    EXPECT_EQ(appState.PlayTable(mainPicks, 4, 0), byHand);
 }
 
 // The total
