@@ -4,8 +4,8 @@
 build_packages=(g++ cmake ninja-build qt6-base-dev "qt6-svg-dev|libqt6svg6-dev"
     libcli11-dev libarchive-dev zlib1g-dev)
 run_packages=("${build_packages[@]}" fonts-liberation)
-test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev xvfb openbox xdotool x11-utils x11-apps poppler-utils
-    groff-base at-spi2-core gir1.2-atspi-2.0 python3-gi "dbus-daemon|dbus")
+test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev xvfb openbox xdotool x11-utils x11-apps
+    x11-session-utils x11-xserver-utils poppler-utils groff-base at-spi2-core gir1.2-atspi-2.0 python3-gi "dbus-daemon|dbus")
 check_packages=("${test_packages[@]}" clang-format-14 clang-tidy-14 ccache)
 
 is_installed() {
