@@ -21,6 +21,11 @@ constexpr const char* whyDatesMayBeCut =
     "This file keeps no date after 2011-05-18: later ones lose their last digit. If they are draws of later years, "
     "delete them, mark the folder with \"ballhaven-data mend\", and import them again; else delete them and enter them "
     "with their right dates.";
+constexpr const char* whyDatesMayHaveBeenCut =
+    "A date after 2011-05-18 that was entered before the folder was mended has lost its last digit. If they are draws "
+    "of "
+    "later years, delete them, and import them again or enter them with their right dates; else they are put in order "
+    "when you next add a draw.";
 
 bool HoldsDraw(const HistoryRow& row) {
     return row.date > 0;
@@ -42,32 +47,32 @@ bool CheckHoles(Examination& examination, RowSpan rows) {
     return found;
 }
 
-/// Whether a date can be what four digits have left of a later one.
-bool CanBeCut(const HistoryRow& row, DateDigits digits) {
-    return digits == DateDigits::Four && row.date >= lowestCutDate && row.date <= highestCutDate;
+/// Whether a date can be what four digits have left of a later one. A file that keeps five now may have kept four when
+/// the draw was entered.
+bool CanBeCut(const HistoryRow& row) {
+    return row.date >= lowestCutDate && row.date <= highestCutDate;
 }
 
 bool LooksCut(const HistoryRow& before, const HistoryRow& row) {
-    return before.date >= lastYearsOfFourDigits && CanBeCut(row, DateDigits::Four);
+    return before.date >= lastYearsOfFourDigits && CanBeCut(row);
 }
 
 /// How many of the draws, from the first on, stand before the first one whose date may have lost its last digit.
-std::size_t CountBeforeCutDates(RowSpan draws, DateDigits digits) {
-    const auto cut = digits == DateDigits::Four ? std::ranges::adjacent_find(draws, LooksCut) : draws.end();
+std::size_t CountBeforeCutDates(RowSpan draws) {
+    const auto cut = std::ranges::adjacent_find(draws, LooksCut);
     return cut == draws.end() ? draws.size() : static_cast<std::size_t>(cut + 1 - draws.begin());
 }
 
 /// Keeps a finding about the draws from the first one on whose date may have lost its last digit. Others among them
 /// may be right.
-void ReportCutDates(Examination& examination, RowSpan rest) {
-    const auto count =
-        std::ranges::count_if(rest, [](const HistoryRow& row) { return CanBeCut(row, DateDigits::Four); });
+void ReportCutDates(Examination& examination, RowSpan rest, DateDigits digits) {
+    const auto count = std::ranges::count_if(rest, CanBeCut);
     const std::string first = RecordsText(rest.front().record, rest.front().record);
     const std::string date = IsoDate(rest.front().date);
     examination.Leave(count == 1 ? "the draw in " + first + " is dated " + date + ", behind newer ones"
                                  : std::to_string(count) + " draws, the first in " + first + ", are dated from " +
                                        date + " on, behind newer ones",
-                      whyDatesMayBeCut);
+                      digits == DateDigits::Four ? whyDatesMayBeCut : whyDatesMayHaveBeenCut);
 }
 
 bool CheckAscending(Examination& examination, RowSpan draws) {
@@ -90,8 +95,9 @@ void CheckDatedTwice(Examination& examination, RowSpan draws, DateDigits digits)
         if (!isNew) {
             examination.BeginRecord(draw.record, DrawSubject(draw.date));
             examination.Leave("has the date of record " + std::to_string(first->second),
-                              CanBeCut(draw, digits) ? whyDatesMayBeCut
-                                                     : "Give one of them its right date in Ballhaven, or delete it.");
+                              digits == DateDigits::Four && CanBeCut(draw)
+                                  ? whyDatesMayBeCut
+                                  : "Give one of them its right date in Ballhaven, or delete it.");
         }
     }
 }
@@ -118,12 +124,12 @@ void CheckRowOrder(Examination& examination, const Rows& rows, DateDigits digits
     Rows closed = rows;
     const auto noDraws = std::stable_partition(closed.begin(), closed.end(), HoldsDraw);
     const RowSpan draws(closed.begin(), noDraws);
-    const std::size_t dated = CountBeforeCutDates(draws, digits);
+    const std::size_t dated = CountBeforeCutDates(draws);
     const bool ascending = CheckAscending(examination, draws.first(dated));
     CheckDatedTwice(examination, draws.first(dated), digits);
     examination.EndRecords();
     if (dated < draws.size()) {
-        ReportCutDates(examination, draws.subspan(dated));
+        ReportCutDates(examination, draws.subspan(dated), digits);
     }
     if (holes || !ascending) {
         std::stable_sort(closed.begin(), closed.begin() + static_cast<std::ptrdiff_t>(dated),

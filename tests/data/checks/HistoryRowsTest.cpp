@@ -149,8 +149,21 @@ TEST_F(HistoryRowsTest, AnOldDrawBehindAnOldOneHasLostNothing) {
     EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
     Check({9999, 3277});
     EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
-    Check({9999, 1000}, DateDigits::Five);
+    Check({10'000, 9000}, DateDigits::Five);
     EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
+}
+
+// Not a bug: HISTORY-DATE-FOUR-DIGITS-1 in docs/not-bugs.md.
+TEST_F(HistoryRowsTest, DatesThatWereCutBeforeTheFolderWasMendedAreNotSorted) {
+    Check({9990, 10'001, 1000, 1001}, DateDigits::Five);
+    EXPECT_EQ(lines,
+              std::vector<std::string>{
+                  "GAME01.CDB: 2 draws, the first in record 4, are dated from 1986-09-27 on, behind newer "
+                  "ones. A date after 2011-05-18 that was entered before the folder was mended has lost its last "
+                  "digit. If they are draws of later years, delete them, and import them again or enter them "
+                  "with their right dates; else they are put in order when you next add a draw."});
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::User});
+    EXPECT_FALSE(changed);
 }
 
 }  // namespace
