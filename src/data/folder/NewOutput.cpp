@@ -61,19 +61,29 @@ NewOutput::NewOutput(const std::string& dataFolder, std::string userPath) : path
             throw std::system_error(EEXIST, std::generic_category());
         }
         RefuseNameOfOurs(dataFolder, whole, path);
-        file = std::make_unique<platform::NewFile>(whole.parent_path().string(), whole.filename().string(), "");
+        folder = whole.parent_path().string();
+        name = whole.filename().string();
+        // Tells now whether a file can be made. A work that is broken off before it has much to write leaves nothing.
+        const platform::NewFile attempt(folder, name, "");
     });
+}
+
+platform::NewFile& NewOutput::File() {
+    if (!file) {
+        file = std::make_unique<platform::NewFile>(folder, name, "");
+    }
+    return *file;
 }
 
 void NewOutput::Add(std::string_view more) {
     text += more;
     if (text.size() >= textInMemory) {
-        MakeAt(path, [this] { file->Add(std::exchange(text, {})); });
+        MakeAt(path, [this] { File().Add(std::exchange(text, {})); });
     }
 }
 
 void NewOutput::Save() {
-    MakeAt(path, [this] { file->SaveUnderItsName(text); });
+    MakeAt(path, [this] { File().SaveUnderItsName(text); });
 }
 
 void SaveNewOutput(const std::string& dataFolder, const std::string& path, std::string_view bytes) {

@@ -22,9 +22,13 @@ class NewOutput {
     void Save();
 
   private:
+    [[nodiscard]] platform::NewFile& File();
+
     std::string path;
-    std::unique_ptr<platform::NewFile> file;
-    std::string text;  ///< not written yet
+    std::string folder;  ///< the absolute path
+    std::string name;
+    std::unique_ptr<platform::NewFile> file;  ///< from the first text on that is written
+    std::string text;                         ///< not written yet
 };
 
 /// Makes a file of these bytes under a path that the user named, whole or not at all. Throws Refusal as above.

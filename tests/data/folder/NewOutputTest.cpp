@@ -103,6 +103,7 @@ TEST(NewOutput, WithoutASaveThereIsNoFile) {
     const support::TemporaryDirectory directory;
     {
         NewOutput output("/nowhere", directory / "proof.csv");
+        EXPECT_EQ(directory.Files(), Files{}) << "as long as nothing is written";
         output.Add(std::string(3 << 20, 'x'));
         EXPECT_TRUE(directory.Has("proof.csv.new"));
     }
