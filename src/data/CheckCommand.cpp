@@ -4,7 +4,6 @@
 #include "data/folder/CountText.h"
 #include "data/folder/WorkFolder.h"
 #include "platform/files/FileSystem.h"
-#include "platform/files/FolderChange.h"
 
 #include <algorithm>
 #include <map>
@@ -63,9 +62,8 @@ struct Mending {
 
 /// Mends what can be mended, and tells what was.
 Mending MendAll(const std::string& path, const Console& console) {
-    const bool finishes = platform::HasDecidedChange(path);
     const WorkFolder folder(path);
-    if (finishes) {
+    if (folder.HasFinishedChange()) {
         console.out << "mended: A change that was decided has been brought to its end.\n";
     }
     CheckedFolder found = CheckFolder(folder.Path());
@@ -84,7 +82,7 @@ Mending MendAll(const std::string& path, const Console& console) {
     if (!copy.empty()) {
         mending.changed = "What was there is kept in " + copy + ".";
         console.out << mending.changed << '\n';
-    } else if (finishes || found.leftOvers.size() > mending.kept.size()) {
+    } else if (folder.HasFinishedChange() || found.leftOvers.size() > mending.kept.size()) {
         mending.changed = "What a crash had left is gone.";
     }
     return mending;

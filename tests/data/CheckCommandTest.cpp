@@ -1,6 +1,9 @@
 #include "data/CheckCommand.h"
 
 #include "data/CommandTest.h"
+#include "support/WatchedFiles.h"
+
+#include <cerrno>
 
 namespace ballhaven::data {
 namespace {
@@ -121,6 +124,20 @@ TEST_F(CheckCommandTest, ADecidedChangeIsLeftToTheMending) {
     EXPECT_EQ(directory.Read("LOTTOSYS").substr(0, 2), "02");
     EXPECT_FALSE(directory.Has("GAME10.CDB"));
     EXPECT_FALSE(directory.Has("CHANGE"));
+}
+
+TEST_F(CheckCommandTest, AListOfAChangeThatCannotBeReadKeepsEveryCheckFromBeginning) {
+    for (const char* option : {"", "--mend"}) {
+        support::WatchedFiles watched;
+        watched.before = [&watched](std::size_t call) { return watched.Names()[call] == "open Read" ? EACCES : 0; };
+        std::vector<std::string> line{"check"};
+        if (*option != '\0') {
+            line.emplace_back(option);
+        }
+        EXPECT_EQ(Run(line), refused);
+        EXPECT_TRUE(Notes("ballhaven-data: " + directory.Path() + " cannot be ")) << notes.str();
+        EXPECT_TRUE(Notes(": Permission denied.\n")) << notes.str();
+    }
 }
 
 TEST_F(CheckCommandTest, AFolderWithoutDataIsRefused) {

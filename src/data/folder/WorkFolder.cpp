@@ -60,6 +60,7 @@ WorkFolder::WorkFolder(const std::string& folder, DecidedChange decided) : direc
                           " is in use by Ballhaven or by another run of this program. Close it, and try again.");
         }
         if (decided == DecidedChange::Finish) {
+            finishedChange = platform::HasDecidedChange(directory);
             platform::FinishFolderChange(directory);
         }
     } catch (const std::system_error& error) {

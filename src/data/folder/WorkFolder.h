@@ -23,6 +23,9 @@ class WorkFolder {
     /// With a separator at its end.
     [[nodiscard]] const std::string& Path() const { return directory; }
 
+    /// Whether a change that was decided before has been brought to its end when the folder was taken.
+    [[nodiscard]] bool HasFinishedChange() const { return finishedChange; }
+
     /// Changes files, all or nothing, up to the last record of their formats. What they held before is kept in a zip in
     /// the folder "copies", named by the current time and the occasion, such as "import". Returns the path of that
     /// zip. Refuses to remove or shorten a file that goes on behind its last record: no copy keeps that. Throws
@@ -35,6 +38,7 @@ class WorkFolder {
 
     std::string directory;
     std::unique_ptr<platform::FolderLock> lock;
+    bool finishedChange = false;
 };
 
 }  // namespace ballhaven::data

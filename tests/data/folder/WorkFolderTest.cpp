@@ -85,9 +85,13 @@ TEST_F(WorkFolderTest, AFolderThatIsNotThereIsRefused) {
 TEST_F(WorkFolderTest, ADecidedChangeIsFinishedWhenTheFolderIsTaken) {
     directory.Write("GAME01.CDB.next", "decided");
     directory.Write("CHANGE", "put GAME01.CDB\nremove GAME02.CDB\n");
-    const WorkFolder folder(directory.Path());
-    EXPECT_EQ(directory.Read("GAME01.CDB"), "decided");
-    EXPECT_FALSE(directory.Has("GAME02.CDB"));
+    {
+        const WorkFolder folder(directory.Path());
+        EXPECT_TRUE(folder.HasFinishedChange());
+        EXPECT_EQ(directory.Read("GAME01.CDB"), "decided");
+        EXPECT_FALSE(directory.Has("GAME02.CDB"));
+    }
+    EXPECT_FALSE(WorkFolder(directory.Path()).HasFinishedChange());
 }
 
 TEST_F(WorkFolderTest, ADecidedChangeCanBeLeftAsItIs) {
