@@ -106,7 +106,7 @@ class HistoryCheck {
         for (int record = firstDrawRecord; record <= drawFileRecords; ++record) {
             rows.push_back(CheckRow(record));
         }
-        CheckRowOrder(examination, rows, digits);
+        CheckRowOrder(examination, rows, digits, folderIsMended);
         examination.EndRecords();
         RemarkDrawsWithoutGame(rows);
     }

@@ -32,7 +32,7 @@ bool HoldsDraw(const HistoryRow& row) {
 }
 
 /// Keeps a finding for each run of rows without a draw between those with one. Returns whether there is any.
-bool CheckHoles(Examination& examination, RowSpan rows) {
+bool CheckHoles(Examination& examination, RowSpan rows, bool folderIsMended) {
     const auto last = std::ranges::find_if(rows.rbegin(), rows.rend(), HoldsDraw).base();
     bool found = false;
     for (auto row = rows.begin(); row < last;) {
@@ -41,7 +41,9 @@ bool CheckHoles(Examination& examination, RowSpan rows) {
         if (hole != row) {
             found = true;
             examination.Mend("no draw stands in " + RecordsText(hole->record, (row - 1)->record) + ", before others",
-                             "As many of the newest draws are hidden, and the next ones take their places.");
+                             folderIsMended
+                                 ? "Ballhaven passes over such rows in a mended folder."
+                                 : "As many of the newest draws are hidden, and the next ones take their places.");
         }
     }
     return found;
@@ -118,9 +120,9 @@ std::string DrawSubject(int date) {
     return "draw of " + IsoDate(date);
 }
 
-void CheckRowOrder(Examination& examination, const Rows& rows, DateDigits digits) {
+void CheckRowOrder(Examination& examination, const Rows& rows, DateDigits digits, bool folderIsMended) {
     examination.EndRecords();
-    const bool holes = CheckHoles(examination, rows);
+    const bool holes = CheckHoles(examination, rows, folderIsMended);
     Rows closed = rows;
     const auto noDraws = std::stable_partition(closed.begin(), closed.end(), HoldsDraw);
     const RowSpan draws(closed.begin(), noDraws);

@@ -20,6 +20,7 @@ struct HistoryRow {
 
 /// Looks at the order of all rows of a file, and puts them as they are to be: draws together from the first row on, by
 /// date, and behind them the rows in which the program reads no draw.
-void CheckRowOrder(Examination& examination, const std::vector<HistoryRow>& rows, DateDigits digits);
+void CheckRowOrder(Examination& examination, const std::vector<HistoryRow>& rows, DateDigits digits,
+                   bool folderIsMended);
 
 }  // namespace ballhaven::data

@@ -10,7 +10,7 @@ namespace {
 class HistoryRowsTest : public testing::Test {
   protected:
     /// Rows of these dates from record 2 on; 0 for a blank one, a negative date for text that is no draw.
-    void Check(const std::vector<int>& dates, DateDigits digits = DateDigits::Four) {
+    void Check(const std::vector<int>& dates, DateDigits digits = DateDigits::Four, bool folderIsMended = false) {
         FoundFile found{{"GAME01.CDB", 64, 1001}, std::string(64'064, ' '), 64'064};
         std::vector<HistoryRow> rows;
         int record = 2;
@@ -21,7 +21,7 @@ class HistoryRowsTest : public testing::Test {
             ++record;
         }
         Examination examination(found);
-        CheckRowOrder(examination, rows, digits);
+        CheckRowOrder(examination, rows, digits, folderIsMended);
         CheckedFile checked = std::move(examination).Result();
         lines.clear();
         remedies.clear();
@@ -62,6 +62,15 @@ TEST_F(HistoryRowsTest, HolesCloseUp) {
                          "hidden, and the next ones take their places."}));
     EXPECT_EQ(remedies, (std::vector<Remedy>{Remedy::Mend, Remedy::Mend}));
     EXPECT_EQ(order, (std::vector<std::string>{"5x2", "6x5", "7x7"}));
+}
+
+// Not a bug: HISTORY-GAPS-1 in docs/not-bugs.md.
+TEST_F(HistoryRowsTest, HolesHideNothingInAMendedFolder) {
+    Check({5, 0, 6}, DateDigits::Four, true);
+    EXPECT_EQ(lines, std::vector<std::string>{"GAME01.CDB: no draw stands in record 3, before others. Ballhaven passes "
+                                              "over such rows in a mended folder."});
+    EXPECT_EQ(remedies, std::vector<Remedy>{Remedy::Mend});
+    EXPECT_EQ(order, (std::vector<std::string>{"5x2", "6x4"}));
 }
 
 TEST_F(HistoryRowsTest, TheFirstRowCanBeAHole) {
