@@ -7,6 +7,7 @@
 #include "forms/ShuffleForm.h"
 #include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
+#include "history/UnsavedWork.h"
 #include "platform/Boxes.h"
 #include "platform/Pointer.h"
 #include "plays/PickSlots.h"

@@ -3,7 +3,7 @@
 #include "forms/CalendarForm.h"
 #include "forms/MainForm.h"
 #include "history/DrawDates.h"
-#include "history/GameSwitch.h"
+#include "history/HistoryRefresh.h"
 #include "history/HistoryView.h"
 #include "history/LogEntry.h"
 #include "platform/Boxes.h"

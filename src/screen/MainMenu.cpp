@@ -3,7 +3,7 @@
 #include "forms/GamePresentation.h"
 #include "forms/MainForm.h"
 #include "games/GameSlots.h"
-#include "history/GameSwitch.h"
+#include "history/HistoryRefresh.h"
 #include "platform/Boxes.h"
 #include "platform/Pointer.h"
 #include "plays/PlayFile.h"

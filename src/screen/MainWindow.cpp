@@ -6,6 +6,7 @@
 #include "games/GameSlots.h"
 #include "history/DrawCommands.h"
 #include "history/GameSwitch.h"
+#include "history/UnsavedWork.h"
 #include "platform/Application.h"
 #include "platform/Services.h"
 #include "platform/files/Paths.h"

@@ -4,7 +4,7 @@
 #include "forms/MainForm.h"
 #include "games/GameDialog.h"
 #include "help/HelpBox.h"
-#include "history/GameSwitch.h"
+#include "history/UnsavedWork.h"
 #include "platform/Application.h"
 #include "platform/Boxes.h"
 #include "platform/CloseDown.h"

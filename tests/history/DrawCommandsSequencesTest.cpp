@@ -2,6 +2,7 @@
 #include "history/DrawCommands.h"
 #include "history/DrawDates.h"
 #include "history/GameSwitch.h"
+#include "history/UnsavedWork.h"
 #include "platform/MessageBox.h"
 #include "state/AppState.h"
 #include "state/GameRecordColumns.h"

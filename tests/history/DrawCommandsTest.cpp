@@ -2,8 +2,9 @@
 
 #include "forms/MainForm.h"
 #include "history/DrawDates.h"
-#include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
+#include "history/HistoryRefresh.h"
+#include "history/UnsavedWork.h"
 #include "platform/MessageBox.h"
 #include "platform/Services.h"
 #include "state/AppState.h"

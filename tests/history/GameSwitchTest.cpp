@@ -5,15 +5,13 @@
 #include "history/HistoryFile.h"
 #include "platform/files/FileSystem.h"
 #include "plays/PlayFile.h"
-#include "screen/HotCells.h"
-#include "screen/LogCells.h"
 #include "state/AppState.h"
 #include "state/GameTable.h"
 #include "state/modUTILS.h"
-#include "support/Games.h"
 #include "support/IdleGridView.h"
 #include "support/MessageScript.h"
 #include "support/PointerKeeper.h"
+#include "support/StoredGames.h"
 #include "support/TemporaryDirectory.h"
 #include "wheels/ShuffleFile.h"
 
@@ -28,63 +26,7 @@ namespace {
 using platform::BoxButtons;
 using platform::BoxIcon;
 
-/// A program directory, and the main window without a toolkit as the program wires it for reading.
-class SwitchingGames : public testing::Test {
-  protected:
-    void SetUp() override {
-        LayOutMainForm();
-        appState.programDirectory = directory.Path();
-        frmMainForm.grdHist.cellText = platform::ByRowAndColumn(LogCellValue);
-        frmMainForm.grdHot.cellText = platform::ByRowAndColumn(HotCellValue);
-    }
-
-    /// Stores a configured game in a slot of the game table.
-    static void Configure(int slot, int gameType, int mainPicks, int bonusPicks, const std::string& setSize = "010") {
-        OpenGameTable();
-        appState.gameRecord = BuildDefaultGameRecord(slot, gameType);
-        modUTILS::SetColumns(appState.gameRecord, 4, modUTILS::FixedWidth("Game " + std::to_string(slot), 20));
-        modUTILS::SetColumns(appState.gameRecord, 27, setSize);
-        modUTILS::SetColumns(appState.gameRecord, 46, modUTILS::ZeroPadded(mainPicks, 2));
-        modUTILS::SetColumns(appState.gameRecord, 49, std::to_string(bonusPicks));
-        SaveGameRecord(slot);
-    }
-
-    static void StoreDraws(int slot, const std::vector<support::Draw>& draws) {
-        appState.currentGame = static_cast<std::int16_t>(slot);
-        LoadGameRecord(slot);
-        LoadHistory();
-        support::SetUpDraws(draws);
-        SaveHistory(0);
-        appState.currentGame = 0;
-    }
-
-    /// Days in a row from 1 January 1990, with picks that tell the rows apart.
-    static std::vector<support::Draw> Days(int count, int picks) {
-        std::vector<support::Draw> draws;
-        for (int day = 0; day < count; ++day) {
-            const int month = day / 28 + 1;
-            const std::string date = modUTILS::ZeroPadded(month, 2) + "/" + modUTILS::ZeroPadded(day % 28 + 1, 2);
-            draws.push_back({date + "/1990", std::vector<int>(static_cast<std::size_t>(picks), day % 40 + 1)});
-        }
-        return draws;
-    }
-
-    /// Columns 1-2 and 4 of the system's record: the slot shown last and the order.
-    static void StoreSystem(const std::string& slot, const std::string& order) {
-        OpenGameTable();
-        modUTILS::SetColumns(appState.systemRecord, 1, slot);
-        modUTILS::SetColumns(appState.systemRecord, 4, order);
-        SaveSystemRecord();
-    }
-
-    static void Select(int slot) {
-        frmMainForm.gameLoading = true;
-        frmMainForm.cboList[0].Select(slot - 1);
-        frmMainForm.gameLoading = false;
-    }
-
-    support::TemporaryDirectory directory;
-};
+class SwitchingGames : public support::StoredGames {};
 
 TEST_F(SwitchingGames, TheFirstStartOpensTheGameShownLast) {
     Configure(7, 0, 6, 0);
@@ -381,125 +323,6 @@ TEST_F(SwitchingGames, AllFourHeadingsOfTheHotTableAreThoseOfItsFirstTable) {
         }
         EXPECT_EQ(headings, (std::vector<std::string>{slot == 2 ? "Card" : "Number", "Hits", "%", "Game Interval"}));
     }
-}
-
-class RefreshingTheHistory : public SwitchingGames {
-  protected:
-    void SetUp() override {
-        SwitchingGames::SetUp();
-        Configure(1, 0, 2, 0, "010");
-        StoreDraws(1, Days(25, 2));
-        StoreSystem("01", "1");
-        SwitchGame();
-    }
-};
-
-TEST_F(RefreshingTheHistory, SavesADirtyHistoryOnly) {
-    const std::string before = directory.Read("GAME01.CDB");
-    appState.HistoryTable(1, 0) = 40;
-    RefreshHistory(-1);
-    EXPECT_EQ(directory.Read("GAME01.CDB"), before);
-    appState.historyDirty = true;
-    RefreshHistory(-1);
-    EXPECT_EQ(directory.Read("GAME01.CDB").substr(64 + 5, 2), "40");
-    EXPECT_FALSE(appState.historyDirty);
-}
-
-TEST_F(RefreshingTheHistory, GoesToTheDateThatIsAskedFor) {
-    RefreshHistory(support::SerialOf("01/20/1990"));
-    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/20/1990");
-    EXPECT_EQ(frmMainForm.grdHist.CurrentColumn(), 0);
-    appState.pendingLogDate = support::SerialOf("01/21/1990");
-    RefreshHistory(support::SerialOf("01/21/1990"));
-    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/21/1990");
-    EXPECT_EQ(frmMainForm.grdHist.CurrentColumn(), 1);
-}
-
-TEST_F(RefreshingTheHistory, SaysSoWhereTheDateIsNotInTheSetAndGoesToTheNewestDraw) {
-    support::MessageScript boxes;
-    boxes.Expect("Ballhaven",
-                 "The record you have added cannot be displayed within the selected history set.\n"
-                 "If you wish to see this record, select larger history set.",
-                 BoxButtons::Ok, BoxIcon::None);
-    RefreshHistory(support::SerialOf("01/02/1990"));
-    EXPECT_EQ(boxes.Left(), 0U);
-    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/25/1990");
-    EXPECT_EQ(frmMainForm.grdHist.CurrentColumn(), 0);
-}
-
-TEST_F(RefreshingTheHistory, FindsTheDrawInTheFirstRowOfTheSetToo) {
-    const support::MessageScript boxes;
-    RefreshHistory(support::SerialOf("01/16/1990"));
-    EXPECT_EQ(boxes.Answered(), 0U);
-    EXPECT_EQ(frmMainForm.grdHist.CurrentRow(), 0);
-    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/16/1990");
-}
-
-TEST_F(RefreshingTheHistory, SaysNothingWhileANewDrawsDateIsBeingChosen) {
-    support::MessageScript boxes;
-    appState.pendingLogDate = -1;
-    RefreshHistory(support::SerialOf("01/02/1990"));
-    EXPECT_EQ(boxes.Answered(), 0U);
-    EXPECT_EQ(frmMainForm.grdHist.Text(0), "01/25/1990");
-}
-
-TEST_F(RefreshingTheHistory, AnEmptyHistoryHasTablesOfOneRow) {
-    appState.historyLast = -1;
-    frmMainForm.cmdColorHist.visible = true;
-    RefreshHistory(-1);
-    EXPECT_FALSE(frmMainForm.cmdColorHist.visible);
-    EXPECT_EQ(appState.historyView.Rows(), 1);
-    EXPECT_EQ(appState.hotNumberTable.Rows(), 1);
-    EXPECT_EQ(appState.hotPairTable.Rows(), 1);
-    EXPECT_EQ(appState.pairedOnceTable.Rows(), 1);
-    EXPECT_EQ(appState.repeaterTable.Rows(), 1);
-    EXPECT_TRUE(appState.hotNumberTable.Has(3, 0));
-    EXPECT_TRUE(appState.hotPairTable.Has(3, 0));
-    EXPECT_TRUE(appState.pairedOnceTable.Has(2, 0));
-    EXPECT_TRUE(appState.repeaterTable.Has(2, 0));
-    EXPECT_EQ(frmMainForm.grdHist.RowCount(), 0);
-    EXPECT_EQ(frmMainForm.grdHot.RowCount(), 0);
-}
-
-TEST_F(RefreshingTheHistory, BeforeAReloadTheChosenPicksAreSavedTooIfTheirWindowIsOpen) {
-    appState.PlayTable(mainPicks, 1, 1) = 12;
-    appState.playsDirty = true;
-    appState.ShuffleTable(mainPicks, 1) = 30;
-    SaveBeforeReload();
-    EXPECT_EQ(directory.Read("PLAYS01.CDB").substr(5, 2), "12");
-    EXPECT_EQ(directory.Read("SHUFFLE.CDB").substr(0, 2), "  ");
-    appState.shuffleWindowOpen = true;
-    SaveBeforeReload();
-    EXPECT_EQ(directory.Read("SHUFFLE.CDB").substr(0, 2), "30");
-}
-
-TEST_F(RefreshingTheHistory, DirtyPlaysAndDrawsAreSavedHistoryFirst) {
-    appState.HistoryTable(1, 0) = 33;
-    appState.historyDirty = true;
-    appState.PlayTable(mainPicks, 1, 1) = 12;
-    appState.playsDirty = true;
-    std::vector<std::string> saved;
-    platform::fileSystem.rename = [&saved](const std::string& from, const std::string& to) {
-        saved.push_back(to.substr(to.rfind('/') + 1));
-        return platform::SystemFiles().rename(from, to);
-    };
-    SaveWhatIsDirty();
-    platform::fileSystem = platform::SystemFiles();
-    EXPECT_EQ(saved, (std::vector<std::string>{"GAME01.CDB", "PLAYS01.CDB"}));
-    EXPECT_EQ(directory.Read("GAME01.CDB").substr(64 + 5, 2), "33");
-    EXPECT_EQ(directory.Read("PLAYS01.CDB").substr(5, 2), "12");
-    EXPECT_FALSE(appState.historyDirty || appState.playsDirty);
-}
-
-TEST_F(RefreshingTheHistory, TheMarkOfTheFilesHeaderStaysWhenItIsSaved) {
-    const auto saved = [this](void (*save)()) {
-        directory.Write("GAME01.CDB", directory.Read("GAME01.CDB").replace(11, 2, "AB"));
-        appState.historyDirty = true;
-        save();
-        return directory.Read("GAME01.CDB").substr(11, 2);
-    };
-    EXPECT_EQ(saved([] { RefreshHistory(-1); }), "AB");
-    EXPECT_EQ(saved(SaveWhatIsDirty), "AB");
 }
 
 }  // namespace

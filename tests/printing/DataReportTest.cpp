@@ -1,7 +1,7 @@
 #include "printing/DataReport.h"
 
 #include "forms/PrintForm.h"
-#include "history/GameSwitch.h"
+#include "history/HistoryRefresh.h"
 #include "state/AppState.h"
 #include "statistics/HotTables.h"
 #include "support/Games.h"

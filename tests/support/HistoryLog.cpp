@@ -1,8 +1,8 @@
 #include "support/HistoryLog.h"
 
 #include "forms/MainForm.h"
-#include "history/GameSwitch.h"
 #include "history/HistoryFile.h"
+#include "history/HistoryRefresh.h"
 #include "platform/Services.h"
 #include "platform/files/FileSystem.h"
 #include "screen/LogCells.h"

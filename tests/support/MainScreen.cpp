@@ -1,7 +1,7 @@
 #include "support/MainScreen.h"
 
 #include "forms/MainForm.h"
-#include "history/GameSwitch.h"
+#include "history/HistoryRefresh.h"
 #include "state/AppState.h"
 #include "support/FreshStart.h"
 
