@@ -3,7 +3,6 @@
 #include "platform/qt/grid/GridLines.h"
 #include "platform/qt/widgets/Conversions.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 
 namespace ballhaven::platform {
@@ -13,15 +12,6 @@ namespace {
 constexpr int buttonWidth = 15;
 constexpr int leftPadding = 4;
 constexpr QColor lineColor(214, 211, 203);
-
-QColor PaletteColor(QPalette::ColorRole role) {
-    return QGuiApplication::palette().color(role);
-}
-
-void DrawLines(QPainter& painter, const QRect& cell, const QColor& color) {
-    FillLine(painter, {cell.right(), cell.top(), 1, cell.height()}, color);
-    FillLine(painter, {cell.left(), cell.bottom(), cell.width(), 1}, color);
-}
 
 void DrawButton(QPainter& painter, const QRect& button) {
     painter.fillRect(button, PaletteColor(QPalette::Button));
@@ -52,7 +42,7 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const GridColumn& column = grid.Column(cell.column);
     const CellStyle style = cells.StyleOf(cell);
     painter->fillRect(option.rect, ToQColor(style.background));
-    DrawLines(*painter, option.rect, lineColor);
+    DrawCellLines(*painter, option.rect, lineColor);
 
     QRect text = option.rect.adjusted(0, 0, -1, -1);
     if (column.hasButton) {
@@ -74,44 +64,6 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
 
 QRect GridCellPainter::ButtonIn(const QRect& cell) {
     return {QPoint(cell.right() - buttonWidth, cell.top()), QPoint(cell.right() - 1, cell.bottom() - 1)};
-}
-
-GridHeadings::GridHeadings(const GridPane& shownPane, QWidget* parent)
-    : QHeaderView(Qt::Horizontal, parent), pane(shownPane) {
-    setSectionsClickable(false);
-    setHighlightSections(false);
-    setSectionResizeMode(QHeaderView::Fixed);
-    setMinimumSectionSize(1);
-    setFocusPolicy(Qt::NoFocus);
-}
-
-void GridHeadings::paintSection(QPainter* painter, const QRect& section, int logicalIndex) const {
-    DrawGridFace(*painter, section);
-    painter->setPen(palette().color(QPalette::ButtonText));
-    painter->drawText(section.adjusted(0, 0, -1, 0), Qt::AlignCenter | Qt::TextSingleLine,
-                      model()->headerData(logicalIndex, Qt::Horizontal, Qt::DisplayRole).toString());
-}
-
-void GridHeadings::paintEvent(QPaintEvent* event) {
-    if (pane.caption->empty()) {
-        QHeaderView::paintEvent(event);
-    }
-    QPainter painter(viewport());
-    if (!pane.caption->empty()) {
-        DrawGridFace(painter, viewport()->rect());
-        painter.setPen(palette().color(QPalette::ButtonText));
-        painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextSingleLine, ToQString(*pane.caption));
-    }
-    FillLine(painter, {0, 0, viewport()->width(), 1}, GridFrameColor());
-}
-
-void DrawGridFace(QPainter& painter, const QRect& place) {
-    painter.fillRect(place, PaletteColor(QPalette::Button));
-    DrawLines(painter, place, PaletteColor(QPalette::Mid));
-}
-
-QColor GridFrameColor() {
-    return PaletteColor(QPalette::Dark);
 }
 
 }  // namespace ballhaven::platform

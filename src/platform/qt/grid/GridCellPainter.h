@@ -1,10 +1,8 @@
 #pragma once
 
 #include "platform/controls/Grid.h"
-#include "platform/qt/grid/GridMeasures.h"
 #include "platform/qt/grid/GridPaneModel.h"
 
-#include <QHeaderView>
 #include <QStyledItemDelegate>
 
 namespace ballhaven::platform {
@@ -23,28 +21,5 @@ class GridCellPainter : public QStyledItemDelegate {
     const Grid& grid;
     const GridPaneModel& cells;
 };
-
-/// The headings of one pane: its columns', or its caption over all of them.
-class GridHeadings : public QHeaderView {
-  public:
-    GridHeadings(const GridPane& shownPane, QWidget* parent);
-
-    /// The toolkit's own headings would measure all their texts each time they are asked.
-    [[nodiscard]] QSize sizeHint() const override { return {0, gridHeadingHeight}; }
-
-  protected:
-    void paintSection(QPainter* painter, const QRect& section, int logicalIndex) const override;
-    void paintEvent(QPaintEvent* event) override;
-
-  private:
-    const GridPane& pane;
-};
-
-/// Draws a flat raised face, as headings, the caption and the row margin have it, with lines at its right and lower
-/// edge.
-void DrawGridFace(QPainter& painter, const QRect& place);
-
-/// The colour of a grid's frame and of the lines between its panes.
-[[nodiscard]] QColor GridFrameColor();
 
 }  // namespace ballhaven::platform

@@ -1,18 +1,11 @@
 #include "platform/qt/grid/GridFrame.h"
 
-#include "platform/qt/grid/GridCellPainter.h"
 #include "platform/qt/grid/GridLines.h"
 #include "platform/qt/widgets/Conversions.h"
-
-#include <QGuiApplication>
 
 namespace ballhaven::platform {
 
 namespace {
-
-QColor PaletteColor(QPalette::ColorRole role) {
-    return QGuiApplication::palette().color(role);
-}
 
 void DrawCaption(QPainter& painter, const Grid& grid, const QRect& place) {
     DrawGridFace(painter, place);

@@ -5,6 +5,7 @@
 #include "platform/qt/widgets/Conversions.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QPointer>
 
 namespace ballhaven::platform {

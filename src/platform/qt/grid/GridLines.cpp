@@ -1,5 +1,7 @@
 #include "platform/qt/grid/GridLines.h"
 
+#include "platform/qt/widgets/Conversions.h"
+
 #include <QTransform>
 
 namespace ballhaven::platform {
@@ -27,6 +29,20 @@ void DrawLineFrame(QPainter& painter, const QRect& place, const QColor& color) {
     FillLine(painter, {place.left(), place.bottom(), place.width(), 1}, color);
     FillLine(painter, {place.left(), place.top(), 1, place.height()}, color);
     FillLine(painter, {place.right(), place.top(), 1, place.height()}, color);
+}
+
+void DrawCellLines(QPainter& painter, const QRect& cell, const QColor& color) {
+    FillLine(painter, {cell.right(), cell.top(), 1, cell.height()}, color);
+    FillLine(painter, {cell.left(), cell.bottom(), cell.width(), 1}, color);
+}
+
+void DrawGridFace(QPainter& painter, const QRect& place) {
+    painter.fillRect(place, PaletteColor(QPalette::Button));
+    DrawCellLines(painter, place, PaletteColor(QPalette::Mid));
+}
+
+QColor GridFrameColor() {
+    return PaletteColor(QPalette::Dark);
 }
 
 }  // namespace ballhaven::platform

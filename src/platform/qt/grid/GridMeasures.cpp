@@ -67,6 +67,38 @@ std::vector<int> PaneWidths(const Grid& grid, const std::vector<GridMeasures::Pa
     return widths;
 }
 
+/// The room that scroll bars take, 0 where there is none.
+struct Bars {
+    int right = 0;
+    int lower = 0;
+};
+
+/// The bars that a grid needs which has so much room for its rows. A bar takes room from the other direction, which may
+/// want its own bar then: twice settles it.
+Bars BarsOf(const Grid& grid, const std::vector<GridMeasures::PanePlace>& panes, QSize room, int rowCount,
+            int barExtent) {
+    Bars bars;
+    for (int round = 0; round < 2; ++round) {
+        const std::vector<int> widths = PaneWidths(grid, panes, room.width() - bars.right);
+        for (std::size_t pane = 0; pane < widths.size(); ++pane) {
+            bars.lower = Sum(panes[pane].columnWidths) > widths[pane] ? barExtent : bars.lower;
+        }
+        bars.right = rowCount * RowPixels(grid) > room.height() - bars.lower ? barExtent : bars.right;
+    }
+    return bars;
+}
+
+/// Gives a pane its place. Where its columns are wider it has the bar, else the last one of them reaches to its edge.
+void PlacePane(GridMeasures::PanePlace& pane, const QRect& place, const QRect& bar) {
+    pane.place = place;
+    const int missing = place.width() - Sum(pane.columnWidths);
+    if (missing < 0) {
+        pane.scrollBar = bar;
+    } else if (!pane.columnWidths.empty()) {
+        pane.columnWidths.back() += missing;
+    }
+}
+
 }  // namespace
 
 int RowPixels(const Grid& grid) {
@@ -85,35 +117,19 @@ GridMeasures MeasureGrid(const Grid& grid, QSize size, int rowCount, int barExte
 
     const QRect area = PaneArea(grid, size);
     const int heading = grid.showsHeadings ? gridHeadingHeight : 0;
-    int rightBar = 0;
-    int lowerBar = 0;
-    std::vector<int> widths;
-    // A bar takes room from the other direction, which may want its own bar then: twice settles it.
-    for (int round = 0; round < 2; ++round) {
-        widths = PaneWidths(grid, measures.panes, area.width() - rightBar);
-        for (std::size_t pane = 0; pane < widths.size(); ++pane) {
-            lowerBar = Sum(measures.panes[pane].columnWidths) > widths[pane] ? barExtent : lowerBar;
-        }
-        rightBar = rowCount * RowPixels(grid) > area.height() - heading - lowerBar ? barExtent : rightBar;
-    }
-    widths = PaneWidths(grid, measures.panes, area.width() - rightBar);
+    const Bars bars = BarsOf(grid, measures.panes, area.size() - QSize(0, heading), rowCount, barExtent);
 
-    const QRect room = area.adjusted(0, heading, -rightBar, -lowerBar);
+    const QRect room = area.adjusted(0, heading, -bars.right, -bars.lower);
     measures.rows = room;
     measures.rows.setHeight(room.height() / RowPixels(grid) * RowPixels(grid));
-    if (rightBar > 0) {
-        measures.scrollBar = QRect(room.right() + 1, room.top(), rightBar, room.height());
+    if (bars.right > 0) {
+        measures.scrollBar = QRect(room.right() + 1, room.top(), bars.right, room.height());
     }
+    const std::vector<int> widths = PaneWidths(grid, measures.panes, room.width());
     int left = area.left();
     for (std::size_t pane = 0; pane < widths.size(); ++pane) {
-        GridMeasures::PanePlace& place = measures.panes[pane];
-        place.place = QRect(left, area.top(), widths[pane], heading + measures.rows.height());
-        const int missing = widths[pane] - Sum(place.columnWidths);
-        if (missing < 0) {
-            place.scrollBar = QRect(left, room.bottom() + 1, widths[pane], lowerBar);
-        } else if (!place.columnWidths.empty()) {
-            place.columnWidths.back() += missing;
-        }
+        PlacePane(measures.panes[pane], QRect(left, area.top(), widths[pane], heading + measures.rows.height()),
+                  QRect(left, room.bottom() + 1, widths[pane], bars.lower));
         left += widths[pane] + separatorWidth;
     }
     return measures;

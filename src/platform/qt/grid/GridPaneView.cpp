@@ -1,5 +1,6 @@
 #include "platform/qt/grid/GridPaneView.h"
 
+#include "platform/qt/grid/GridHeadings.h"
 #include "platform/qt/grid/GridNames.h"
 #include "platform/qt/widgets/Conversions.h"
 

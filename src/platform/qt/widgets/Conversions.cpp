@@ -3,7 +3,6 @@
 #include "platform/files/CodePage.h"
 
 #include <QGuiApplication>
-#include <QPalette>
 
 #include <cmath>
 
@@ -43,20 +42,23 @@ MouseButton ToMouseButton(Qt::MouseButton button) {
 }
 
 QColor ToQColor(const Color& color) {
-    const QPalette palette = QGuiApplication::palette();
     switch (color.source) {
         case Color::Source::Window:
-            return palette.color(QPalette::Base);
+            return PaletteColor(QPalette::Base);
         case Color::Source::WindowText:
-            return palette.color(QPalette::WindowText);
+            return PaletteColor(QPalette::WindowText);
         case Color::Source::ButtonFace:
-            return palette.color(QPalette::Window);
+            return PaletteColor(QPalette::Window);
         case Color::Source::ButtonShadow:
-            return palette.color(QPalette::Dark);
+            return PaletteColor(QPalette::Dark);
         case Color::Source::Fixed:
             break;
     }
     return {color.red, color.green, color.blue};
+}
+
+QColor PaletteColor(QPalette::ColorRole role) {
+    return QGuiApplication::palette().color(role);
 }
 
 }  // namespace ballhaven::platform

@@ -5,6 +5,7 @@
 #include "platform/controls/Geometry.h"
 
 #include <QColor>
+#include <QPalette>
 #include <QRect>
 #include <QString>
 
@@ -30,5 +31,8 @@ namespace ballhaven::platform {
 
 /// The colour as it is drawn; the system's own colours are those of the palette.
 [[nodiscard]] QColor ToQColor(const Color& color);
+
+/// The colour that the program's palette has for a part of a window.
+[[nodiscard]] QColor PaletteColor(QPalette::ColorRole role);
 
 }  // namespace ballhaven::platform

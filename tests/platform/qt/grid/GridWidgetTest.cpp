@@ -3,6 +3,7 @@
 #include "support/qt/GridOnScreen.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QTest>
 #include <gtest/gtest.h>
 
