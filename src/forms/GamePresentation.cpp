@@ -59,8 +59,8 @@ void SizePlayGrid() {
 }
 
 void ShowViewChecks() {
-    frmMainForm.mnuViewArray[0].checked = appState.historySortOrder != 0;
-    frmMainForm.mnuViewArray[1].checked = appState.historySortOrder == 0;
+    frmMainForm.mnuViewArray[viewEntry::ascending].checked = appState.historySortOrder != 0;
+    frmMainForm.mnuViewArray[viewEntry::descending].checked = appState.historySortOrder == 0;
 }
 
 void ArrangeLogColumns() {

@@ -7,6 +7,7 @@
 #include "state/HiLiteBoxes.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -16,6 +17,48 @@ namespace ballhaven {
 inline constexpr int datePane = 0;
 inline constexpr int pickPane = 1;
 inline constexpr int logPickColumns = 10;
+
+// What the arrays of the main window hold, by the index.
+
+namespace fileEntry {
+inline constexpr std::size_t printData = 0;
+inline constexpr std::size_t exitProgram = 2;
+}  // namespace fileEntry
+
+namespace editEntry {
+inline constexpr std::size_t addGame = 0;
+inline constexpr std::size_t deleteGame = 1;
+inline constexpr std::size_t alterGame = 2;
+inline constexpr std::size_t addDraw = 4;
+inline constexpr std::size_t deleteDraw = 5;
+inline constexpr std::size_t erasePlaySlips = 7;
+}  // namespace editEntry
+
+namespace viewEntry {
+inline constexpr std::size_t ascending = 0;
+inline constexpr std::size_t descending = 1;
+inline constexpr std::size_t playSlips = 3;
+}  // namespace viewEntry
+
+/// Those of the Play Slips window too.
+namespace toolEntry {
+inline constexpr std::size_t wheelOrShuffle = 0;
+inline constexpr std::size_t hiLiteWinners = 2;
+inline constexpr std::size_t eraseWinners = 3;
+}  // namespace toolEntry
+
+/// The lists of `cboList`.
+namespace selector {
+inline constexpr std::size_t game = 0;
+inline constexpr std::size_t historySet = 1;
+inline constexpr std::size_t hotTable = 2;
+}  // namespace selector
+
+/// The pictures of `picCards`.
+namespace cardPicture {
+inline constexpr std::size_t log = 0;
+inline constexpr std::size_t hiLite = 1;
+}  // namespace cardPicture
 
 /// The main window. Created once; its members bear the names that the whole program knows them by.
 struct MainForm {

@@ -28,19 +28,19 @@ void ListGames() {
     for (const std::string& record : ReadGameRecords()) {
         names.push_back(GameName(record));
     }
-    frmMainForm.cboList[0].Fill(std::move(names));
-    frmMainForm.cboList[0].Select(appState.currentGame - 1);
+    frmMainForm.cboList[selector::game].Fill(std::move(names));
+    frmMainForm.cboList[selector::game].Select(appState.currentGame - 1);
 }
 
 void LoadHistorySetList() {
-    frmMainForm.cboList[1].Fill(HistorySetNames());
-    frmMainForm.cboList[1].Select(appState.historySetSize / historySetStep - 1);
+    frmMainForm.cboList[selector::historySet].Fill(HistorySetNames());
+    frmMainForm.cboList[selector::historySet].Select(appState.historySetSize / historySetStep - 1);
 }
 
 void LoadComboHot() {
     const char* const first = IsCardGame(appState.gameType) ? "Hot Cards" : "Hot Numbers";
-    frmMainForm.cboList[2].Fill({first, "Hot Pairs", "Paired Once", "Repeaters", "No-Hitters"});
-    frmMainForm.cboList[2].Select(0);
+    frmMainForm.cboList[selector::hotTable].Fill({first, "Hot Pairs", "Paired Once", "Repeaters", "No-Hitters"});
+    frmMainForm.cboList[selector::hotTable].Select(0);
 }
 
 }  // namespace ballhaven

@@ -30,7 +30,7 @@ constexpr int addingGame = 1;
 constexpr int alteringGame = 2;
 
 bool IsCurrentGameUndefined() {
-    return IsUndefinedName(frmMainForm.cboList[0].Text());
+    return IsUndefinedName(frmMainForm.cboList[selector::game].Text());
 }
 
 /// The first slot without a game, 0 if there is none.
@@ -116,7 +116,7 @@ void AskToSetUpGame() {
     if (!IsCurrentGameUndefined()) {
         return;
     }
-    const std::string slot = std::to_string(frmMainForm.cboList[0].Selected() + 1);
+    const std::string slot = std::to_string(frmMainForm.cboList[selector::game].Selected() + 1);
     const std::string question =
         "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
     if (platform::Ask(question, platform::BoxIcon::Question)) {

@@ -21,9 +21,6 @@ namespace ballhaven {
 
 namespace {
 
-constexpr std::size_t addRecord = 4;
-constexpr std::size_t deleteRecord = 5;
-
 /// Opens the calendar on a date, and returns when it has closed.
 void ChooseDate(std::chrono::year_month_day offered) {
     ahcCalendar.Terminate();
@@ -125,8 +122,8 @@ void DeleteDraw() {
 }
 
 void WireDrawCommands() {
-    frmMainForm.mnuEditArray[addRecord].click = AddDraw;
-    frmMainForm.mnuEditArray[deleteRecord].click = DeleteCurrentDraw;
+    frmMainForm.mnuEditArray[editEntry::addDraw].click = AddDraw;
+    frmMainForm.mnuEditArray[editEntry::deleteDraw].click = DeleteCurrentDraw;
     frmMainForm.grdHist.dropDown = [](int) { ChangeDate(); };
     frmMainForm.tmrMessage.tick = BringInChosenDraw;
     ahcCalendar.acceptDate = TakeChosenDate;

@@ -65,7 +65,7 @@ void SwitchGame() {
         SwitchGameTo(StoredSlot(appState.systemRecord));
         return;
     }
-    const std::int16_t slot = modUTILS::ToInt16(frmMainForm.cboList[0].Selected() + 1);
+    const std::int16_t slot = modUTILS::ToInt16(frmMainForm.cboList[selector::game].Selected() + 1);
     SetFieldValue(appState.systemRecord, systemField::shownSlot, slot);
     SaveSystemRecord();
     SwitchGameTo(slot);

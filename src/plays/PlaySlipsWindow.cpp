@@ -127,8 +127,8 @@ void WirePlaySlipsWindow() {
     frmPlays.window.unload = [] { appState.playsWindowOpen = false; };
     frmPlays.mnuClose.click = [] { frmPlays.window.Unload(); };
     OnCommand(frmPlays.mnuClear, frmPlays.cmdToolbar[2], EraseAllSlips);
-    OnCommand(frmPlays.mnuToolArray[2], frmPlays.cmdToolbar[4], HiLiteWinners);
-    OnCommand(frmPlays.mnuToolArray[3], frmPlays.cmdToolbar[5], EraseWinners);
+    OnCommand(frmPlays.mnuToolArray[toolEntry::hiLiteWinners], frmPlays.cmdToolbar[4], HiLiteWinners);
+    OnCommand(frmPlays.mnuToolArray[toolEntry::eraseWinners], frmPlays.cmdToolbar[5], EraseWinners);
     frmPlays.cmdScrollPlaySlips[0].click = [] { StepSlip(-1); };
     frmPlays.cmdScrollPlaySlips[1].click = [] { StepSlip(1); };
     frmPlays.cmdErasePlay[0].click = EraseSlip;
@@ -137,9 +137,9 @@ void WirePlaySlipsWindow() {
     }
     WireBoards();
 
-    frmMainForm.mnuViewArray[3].click = [] { frmPlays.window.ShowInFront(); };
-    frmMainForm.mnuToolArray[2].click = HiLiteWinners;
-    frmMainForm.mnuToolArray[3].click = EraseWinnersOnMain;
+    frmMainForm.mnuViewArray[viewEntry::playSlips].click = [] { frmPlays.window.ShowInFront(); };
+    frmMainForm.mnuToolArray[toolEntry::hiLiteWinners].click = HiLiteWinners;
+    frmMainForm.mnuToolArray[toolEntry::eraseWinners].click = EraseWinnersOnMain;
 }
 
 }  // namespace ballhaven

@@ -103,7 +103,7 @@ void WirePrintDialog() {
     frmPrint.cmdPrint[0].click = [] { frmPrint.window.Unload(); };
     frmPrint.cmdPrint[1].click = Print;
     frmPrint.window.escape = frmPrint.cmdPrint[0].click;
-    frmMainForm.mnuFileArray[0].click = Open;
+    frmMainForm.mnuFileArray[fileEntry::printData].click = Open;
     frmPlays.mnuPrint.click = Open;
     frmPlays.cmdToolbar[1].click = Open;
 }

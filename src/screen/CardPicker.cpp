@@ -24,11 +24,11 @@ void TakeLogCard(std::string card) {
     ComputeHotTable();
     GoToDate();
     frmMainForm.grdHist.ReadAgain();
-    frmMainForm.picCards[0].visible = false;
+    frmMainForm.picCards[cardPicture::log].visible = false;
 }
 
 void CloseLogCards() {
-    frmMainForm.picCards[0].visible = false;
+    frmMainForm.picCards[cardPicture::log].visible = false;
     GoToDate();
 }
 
@@ -51,12 +51,12 @@ void TakeHiLiteCard(std::string card) {
     frmMainForm.hiLiteCode.at(box) = std::to_string(TextToCard(card));
     frmMainForm.txtHiLite.at(box).text = card;
     frmMainForm.grdHist.TakeFocus();
-    frmMainForm.picCards[1].visible = false;
+    frmMainForm.picCards[cardPicture::hiLite].visible = false;
 }
 
 void CloseHiLiteCards() {
     frmMainForm.txtHiLite.at(static_cast<std::size_t>(frmMainForm.hiLiteTarget)).TakeFocus();
-    frmMainForm.picCards[1].visible = false;
+    frmMainForm.picCards[cardPicture::hiLite].visible = false;
 }
 
 void ClickHiLiteCards(double x, double y) {
@@ -75,9 +75,9 @@ void ClickHiLiteCards(double x, double y) {
 
 /// Escape closes the cards that are open, as their close box does.
 void CloseCards() {
-    if (frmMainForm.picCards[0].visible) {
+    if (frmMainForm.picCards[cardPicture::log].visible) {
         CloseLogCards();
-    } else if (frmMainForm.picCards[1].visible) {
+    } else if (frmMainForm.picCards[cardPicture::hiLite].visible) {
         CloseHiLiteCards();
     }
 }
@@ -86,8 +86,8 @@ void CloseCards() {
 
 void WireCardPicker() {
     frmMainForm.window.escape = CloseCards;
-    frmMainForm.picCards[0].click = ClickLogCards;
-    frmMainForm.picCards[1].click = ClickHiLiteCards;
+    frmMainForm.picCards[cardPicture::log].click = ClickLogCards;
+    frmMainForm.picCards[cardPicture::hiLite].click = ClickHiLiteCards;
 }
 
 void OpenOrCloseLogCards() {
@@ -98,21 +98,21 @@ void OpenOrCloseLogCards() {
         return;
     }
     if (frmMainForm.grdHist.CurrentPane() == datePane) {
-        frmMainForm.picCards[0].visible = false;
-    } else if (frmMainForm.picCards[0].visible) {
-        frmMainForm.picCards[0].visible = false;
+        frmMainForm.picCards[cardPicture::log].visible = false;
+    } else if (frmMainForm.picCards[cardPicture::log].visible) {
+        frmMainForm.picCards[cardPicture::log].visible = false;
         GoToDate();
     } else {
-        frmMainForm.picCards[0].visible = true;
-        frmMainForm.picCards[1].visible = false;
+        frmMainForm.picCards[cardPicture::log].visible = true;
+        frmMainForm.picCards[cardPicture::hiLite].visible = false;
     }
     frmMainForm.cardClicked = false;
 }
 
 void OpenHiLiteCards(std::int16_t box) {
     frmMainForm.hiLiteTarget = box;
-    frmMainForm.picCards[1].visible = true;
-    frmMainForm.picCards[0].visible = false;
+    frmMainForm.picCards[cardPicture::hiLite].visible = true;
+    frmMainForm.picCards[cardPicture::log].visible = false;
 }
 
 }  // namespace ballhaven

@@ -15,18 +15,28 @@ namespace ballhaven {
 
 namespace {
 
-/// A button of the toolbar and the menu entry that it stands for.
+/// A button of the toolbar, by its index in `cmdButton`, and the menu entry that it stands for.
 struct Shortcut {
-    int button;
+    std::size_t button;
     platform::MenuItem& entry;
 };
 
 const Shortcut shortcuts[] = {
-    {1, frmMainForm.mnuFileArray[0]}, {10, frmMainForm.mnuEditArray[0]}, {11, frmMainForm.mnuEditArray[1]},
-    {0, frmMainForm.mnuEditArray[2]}, {2, frmMainForm.mnuEditArray[4]},  {3, frmMainForm.mnuEditArray[5]},
-    {4, frmMainForm.mnuViewArray[0]}, {5, frmMainForm.mnuViewArray[1]},  {14, frmMainForm.mnuViewArray[3]},
-    {8, frmMainForm.mnuEditArray[7]}, {12, frmMainForm.mnuToolArray[2]}, {13, frmMainForm.mnuToolArray[3]},
-    {7, frmMainForm.mnuToolArray[0]},
+    // clang-format off
+    { 1, frmMainForm.mnuFileArray[fileEntry::printData]},
+    {10, frmMainForm.mnuEditArray[editEntry::addGame]},
+    {11, frmMainForm.mnuEditArray[editEntry::deleteGame]},
+    { 0, frmMainForm.mnuEditArray[editEntry::alterGame]},
+    { 2, frmMainForm.mnuEditArray[editEntry::addDraw]},
+    { 3, frmMainForm.mnuEditArray[editEntry::deleteDraw]},
+    { 4, frmMainForm.mnuViewArray[viewEntry::ascending]},
+    { 5, frmMainForm.mnuViewArray[viewEntry::descending]},
+    {14, frmMainForm.mnuViewArray[viewEntry::playSlips]},
+    { 8, frmMainForm.mnuEditArray[editEntry::erasePlaySlips]},
+    {12, frmMainForm.mnuToolArray[toolEntry::hiLiteWinners]},
+    {13, frmMainForm.mnuToolArray[toolEntry::eraseWinners]},
+    { 7, frmMainForm.mnuToolArray[toolEntry::wheelOrShuffle]},
+    // clang-format on
 };
 
 void OrderLog(std::int16_t order) {
@@ -37,7 +47,7 @@ void OrderLog(std::int16_t order) {
     appState.historySortOrder = order;
     SetFieldValue(appState.systemRecord, systemField::sortOrder, order);
     SaveSystemRecord();
-    RefreshHistory(-1);
+    RefreshHistory(newestDraw);
     ShowViewChecks();
 }
 
@@ -57,17 +67,15 @@ void RunFromToolbar(const platform::MenuItem& entry) {
 }  // namespace
 
 void WireMainMenu() {
-    frmMainForm.mnuFileArray[2].click = [] { frmMainForm.window.Unload(); };
-    frmMainForm.mnuEditArray[0].click = AddGame;
-    frmMainForm.mnuEditArray[1].click = DeleteGame;
-    frmMainForm.mnuEditArray[2].click = AlterGame;
-    frmMainForm.mnuEditArray[7].click = EraseAllPlaySlips;
-    frmMainForm.mnuViewArray[0].click = [] { OrderLog(1); };
-    frmMainForm.mnuViewArray[1].click = [] { OrderLog(0); };
+    frmMainForm.mnuFileArray[fileEntry::exitProgram].click = [] { frmMainForm.window.Unload(); };
+    frmMainForm.mnuEditArray[editEntry::addGame].click = AddGame;
+    frmMainForm.mnuEditArray[editEntry::deleteGame].click = DeleteGame;
+    frmMainForm.mnuEditArray[editEntry::alterGame].click = AlterGame;
+    frmMainForm.mnuEditArray[editEntry::erasePlaySlips].click = EraseAllPlaySlips;
+    frmMainForm.mnuViewArray[viewEntry::ascending].click = [] { OrderLog(1); };
+    frmMainForm.mnuViewArray[viewEntry::descending].click = [] { OrderLog(0); };
     for (const Shortcut& shortcut : shortcuts) {
-        frmMainForm.cmdButton[static_cast<std::size_t>(shortcut.button)].click = [&entry = shortcut.entry] {
-            RunFromToolbar(entry);
-        };
+        frmMainForm.cmdButton[shortcut.button].click = [&entry = shortcut.entry] { RunFromToolbar(entry); };
     }
 }
 

@@ -36,7 +36,7 @@ void ShowHotTableAnew() {
 }
 
 void SelectGame() {
-    if (frmMainForm.cboList[0].Selected() + 1 == appState.currentGame) {
+    if (frmMainForm.cboList[selector::game].Selected() + 1 == appState.currentGame) {
         return;
     }
     frmPlays.window.Unload();
@@ -55,7 +55,8 @@ void StoreHistorySet() {
 }
 
 void SelectHistorySet() {
-    appState.historySetSize = modUTILS::ToInt16((frmMainForm.cboList[1].Selected() + 1) * historySetStep);
+    appState.historySetSize =
+        modUTILS::ToInt16((frmMainForm.cboList[selector::historySet].Selected() + 1) * historySetStep);
     StoreHistorySet();
     const bool hasDraw = !frmMainForm.grdHist.Text(0).empty();
     RefreshHistory(hasDraw ? LogDate() : newestDraw);
@@ -63,7 +64,7 @@ void SelectHistorySet() {
 }
 
 void SelectHotTable() {
-    appState.hotTableChoice = modUTILS::ToInt16(frmMainForm.cboList[2].Selected() + 1);
+    appState.hotTableChoice = modUTILS::ToInt16(frmMainForm.cboList[selector::hotTable].Selected() + 1);
     ShowHotHeadings();
     ShowChosenHotCaption();
     RefreshHotTable(ShownHotTable());
@@ -94,9 +95,9 @@ void ChoosePicksToCount(int option) {
 }  // namespace
 
 void WireSelectors() {
-    frmMainForm.cboList[0].change = [] { TakeChoice(SelectGame); };
-    frmMainForm.cboList[1].change = [] { TakeChoice(SelectHistorySet); };
-    frmMainForm.cboList[2].change = [] { TakeChoice(SelectHotTable); };
+    frmMainForm.cboList[selector::game].change = [] { TakeChoice(SelectGame); };
+    frmMainForm.cboList[selector::historySet].change = [] { TakeChoice(SelectHistorySet); };
+    frmMainForm.cboList[selector::hotTable].change = [] { TakeChoice(SelectHotTable); };
     for (std::size_t i = 0; i < frmMainForm.optHot.size(); ++i) {
         frmMainForm.optHot[i].click = [i] { ChoosePicksToCount(static_cast<int>(i)); };
     }

@@ -140,8 +140,8 @@ void WireShuffleWindow() {
         frmPlays.window.ShowInFront();
     };
 
-    frmMainForm.mnuToolArray[0].click = Open;
-    frmPlays.mnuToolArray[0].click = Open;
+    frmMainForm.mnuToolArray[toolEntry::wheelOrShuffle].click = Open;
+    frmPlays.mnuToolArray[toolEntry::wheelOrShuffle].click = Open;
     frmPlays.cmdToolbar[3].click = Open;
 }
 
