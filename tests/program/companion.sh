@@ -24,6 +24,12 @@ run() { # exit code, command and its arguments
 says() { grep -Fq -- "$1" <<<"$said" || fail "\"$1\" is not in: $said"; }
 data() { (cd "$folder" && sha256sum LOTTOSYS ./*.CDB); }
 is_as() { [[ $(data) == "$1" ]] || fail "$2"; }
+# Starts the program, and waits until it has the keyboard: a window manager loses the keys of one that has it not yet.
+start_to_the_front() {
+    start
+    until_true "the window is the active one" is_active
+}
+is_active() { [[ $(xdotool getactivewindow) == "$window" ]]; }
 # Changes bytes of a file: name, offset, text.
 damage() { printf '%s' "$3" | dd of="$folder/$1" bs=1 seek="$2" conv=notrunc status=none; }
 
@@ -107,7 +113,7 @@ is_as "$original" "the backup has not come back whole"
 [[ $settled != "$original" ]] || fail "the settings were none"
 
 echo "== while Ballhaven runs on the folder"
-start
+start_to_the_front
 before=$(data)
 for command in games check "check --mend" "backup $work/tuesday.zip" "restore $work/monday.zip" mend "set --shown 2"; do
     # shellcheck disable=SC2086
@@ -119,7 +125,7 @@ is_as "$before" "a command has changed something under the program"
 close_it
 rm "$folder/GAME02.CDB" # a game that is shown gets its file
 run 0 set --shown 2
-start
+start_to_the_front
 until_true "the set slot is shown" test -s "$folder/GAME02.CDB"
 close_it
 run 0 check
