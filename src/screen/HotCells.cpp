@@ -91,7 +91,7 @@ bool IsHiLitedBy(std::string_view box, std::string_view picks) {
 }
 
 std::optional<std::string> HotCellValue(int row, int column) {
-    if (appState.hotTableChoice < 1 || !ShownHotCells().Has(row, column)) {
+    if (appState.hotTableChoice < 1 || !ShownHotCells().Has(row, column) || row > LastRowOf(ShownHotTable())) {
         return std::nullopt;
     }
     return HotCellText(ShownHotTable(), CellsOfRow(ShownHotTable(), row), column, appState.historyViewLast + 1,

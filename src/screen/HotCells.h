@@ -27,8 +27,10 @@ namespace ballhaven {
 
 /// The text of a cell of `grdHot`, columns 0 to 3: the pick or the pair, and, where the table counts, its hits, the
 /// percentage of the draws cut to a whole number, and the game interval. A null outside the rows and columns of the
-/// table, and before a table is chosen. Raises the overflow failure for the percentage of 328 hits or more, and the
-/// failure of a division by zero for the interval of a repeaters row without repeats; in a mended folder neither.
+/// grid, in rows that the chosen table does not have (the grid still has those of another one while the game dialog is
+/// open, and after it was cancelled), and before a table is chosen. Raises the overflow failure for the percentage of
+/// 328 hits or more, and the failure of a division by zero for the interval of a repeaters row without repeats; in a
+/// mended folder neither.
 [[nodiscard]] std::optional<std::string> HotCellValue(int row, int column);
 
 /// The colours of a cell of `grdHot`: in column 0 the suits of cards, and the hi-lite while `colorMode` is not 0; black

@@ -305,6 +305,20 @@ TEST_F(QuirkGameCancel1, AfterACancelledAddEveryTableSetAndOrderCanStillBeChosen
     EXPECT_TRUE(exitCodes.empty());
 }
 
+TEST_F(GameSlots, TheNoHittersOfAGameWithoutDrawsAreDrawnWhileTheDialogIsOpenAndAfterItWasCancelled) {
+    Store({.name = "No draws yet", .draws = {}});
+    Start();
+    ChooseEntry("cboList(2)", 4);
+    EXPECT_EQ(RowsShown("grdHot"), 49);
+    InDialogOf(alterGame, [this] {
+        EXPECT_FALSE(MainWindow().grab().isNull());
+        EXPECT_TRUE(exitCodes.empty());
+        ClickToClose(cancel);
+    });
+    EXPECT_FALSE(MainWindow().grab().isNull());
+    EXPECT_TRUE(exitCodes.empty());
+}
+
 /// A game whose picks are of all kinds: the lowest, the highest, and empty ones.
 class AGameOfAllPicks : public GameSlots, public testing::WithParamInterface<int> {
   protected:

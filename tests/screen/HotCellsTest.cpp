@@ -57,6 +57,9 @@ void ShowTable(HotTable choice, const std::vector<std::vector<int>>& rows) {
         ++row;
     }
     appState.hotNumberTable = appState.hotPairTable = appState.pairedOnceTable = appState.repeaterTable = table;
+    const auto last = static_cast<std::int16_t>(rows.size() - 1);
+    appState.hotNumberLast = appState.hotPairLast = appState.pairedOnceLast = last;
+    appState.repeaterLast = appState.noHitterLast = last;
     frmMainForm.hotRowCount = static_cast<std::int16_t>(rows.size());
 }
 
@@ -174,6 +177,20 @@ TEST(HotCellValue, RowsThatATableDoesNotHaveReadAsEmpty) {
          {HotTable::HotNumbers, HotTable::HotPairs, HotTable::PairedOnce, HotTable::Repeaters, HotTable::NoHitters}) {
         ShowTable(table, {{7, 8, 2}});
         frmMainForm.hotRowCount = 3;
+
+        EXPECT_NE(HotCellValue(0, 0), std::nullopt);
+        EXPECT_EQ(HotCellValue(1, 0), std::nullopt);
+        EXPECT_EQ(HotCellValue(1, 3), std::nullopt);
+    }
+}
+
+TEST(HotCellValue, RowsBehindTheLastOneOfATableReadAsEmptyWhateverItsArrayHolds) {
+    StartWith(NumberGame());
+    for (const HotTable table :
+         {HotTable::HotNumbers, HotTable::HotPairs, HotTable::PairedOnce, HotTable::Repeaters, HotTable::NoHitters}) {
+        ShowTable(table, {{7, 8, 2}, {9, 10, 2}});
+        appState.hotNumberLast = appState.hotPairLast = appState.pairedOnceLast = 0;
+        appState.repeaterLast = appState.noHitterLast = 0;
 
         EXPECT_NE(HotCellValue(0, 0), std::nullopt);
         EXPECT_EQ(HotCellValue(1, 0), std::nullopt);
