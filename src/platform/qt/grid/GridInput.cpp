@@ -113,13 +113,14 @@ bool GridInput::IsWherePressed(QPoint position) const {
 
 void GridInput::FinishClick(QPoint position) {
     const bool inEditor = editor->IsOpen() && editor == widget.childAt(position);
+    // What follows an accepted value may scroll the rows: the click is on the cell that was under the mouse before.
+    const std::optional<GridCell> target = inEditor ? std::nullopt : panes.CellAt(position);
+    const bool onButton = target && IsOnDropDownButton(*target, position);
     const QPointer<GridInput> self(this);
     // A refused value keeps the cursor: the click does nothing more.
     if (!inEditor && !editor->Leave()) {
         return;
     }
-    const std::optional<GridCell> target = inEditor ? std::nullopt : panes.CellAt(position);
-    const bool onButton = target && IsOnDropDownButton(*target, position);
     if (!Report(grid.click)) {
         return;
     }

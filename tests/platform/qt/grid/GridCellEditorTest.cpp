@@ -249,6 +249,16 @@ TEST_F(GridEditing, TheEditorScrollsWithItsCell) {
     EXPECT_NE(widget->childAt(MiddleOf(2, 4)), Editor());
 }
 
+TEST_F(GridEditing, AClickGoesToTheCellUnderItWhenTheAcceptedValueScrollsTheRows) {
+    grid.edited = [this](int, const std::string&) { grid.GoToColumn(0); };
+    Type("42");
+    PaneView(0)->verticalScrollBar()->setValue(10);
+
+    ClickCell(12, 4);
+
+    EXPECT_EQ(Current(), (GridCell{1, 12, 4}));
+}
+
 TEST_F(GridEditing, GoingOffTakesTheValueFirst) {
     Type("42");
 
