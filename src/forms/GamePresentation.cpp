@@ -124,7 +124,7 @@ void ClearHiLiteBoxes() {
 
 HiLites ShownHiLites() {
     HiLites hiLites;
-    hiLites.on = appState.colorMode != 0;
+    hiLites.on = appState.colorMode != ColorMode::None;
     std::ranges::transform(frmMainForm.txtHiLite, hiLites.texts.begin(),
                            [](const platform::TextBox& box) -> const std::string& { return *box.text; });
     return hiLites;

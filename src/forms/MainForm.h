@@ -73,6 +73,7 @@ struct MainForm {
     std::int16_t logLastColumn = 0;  ///< highest column of `grdHist` that holds data
     std::int16_t hotRowCount = 0;
     std::int16_t hotColumnCount = 4;
+    static constexpr int hotMarkColumn = 2;  ///< of the percentages; a table shown anew has its mark there
     bool cardClicked = false;
     bool playClicked = false;  ///< a click on the board waits for the current cell to settle
     std::int16_t hiLiteTarget = 0;

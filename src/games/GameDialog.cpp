@@ -18,14 +18,12 @@ namespace ballhaven {
 
 namespace {
 
-constexpr int alteringGame = 2;
-
 void Load() {
     LoadGameRecord(appState.gameDialogSlot);
     frmNewGame.saved = false;
     frmNewGame.loading = true;
     frmNewGame.window.title = "Add a New Game";
-    if (appState.gameDialogMode == alteringGame) {
+    if (appState.gameDialogMode == GameDialogMode::Altering) {
         frmNewGame.window.title = "Alter Game Configuration";
         appState.gameDialogSlot = appState.currentGame;
     }
@@ -66,7 +64,7 @@ void Unload() {
         // QUIRK GAME-CANCEL-1: after an add the game variables describe the free slot, while the main window still
         // shows the old game's draws and tables, until the next switch. Habits rest on it. In a mended folder they are
         // those of the game that is shown: with the others a history set chosen now would be stored over its record.
-        appState.gameDialogMode = 0;
+        appState.gameDialogMode = GameDialogMode::None;
         LoadGameRecord(FolderIsMended() ? appState.currentGame : appState.gameDialogSlot);
     }
 }

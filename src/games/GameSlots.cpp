@@ -26,9 +26,6 @@ namespace ballhaven {
 
 namespace {
 
-constexpr int addingGame = 1;
-constexpr int alteringGame = 2;
-
 bool IsCurrentGameUndefined() {
     return IsUndefinedName(frmMainForm.cboList[selector::game].Text());
 }
@@ -41,10 +38,10 @@ int FirstFreeSlot() {
 }
 
 /// Opens the dialog on a slot; the dialog's load goes over the game variables, so what is dirty is saved before it.
-void OpenGameDialog(int slot, int mode) {
+void OpenGameDialog(int slot, GameDialogMode mode) {
     SaveBeforeReload();
     appState.gameDialogSlot = modUTILS::ToInt16(slot);
-    appState.gameDialogMode = modUTILS::ToInt16(mode);
+    appState.gameDialogMode = mode;
     frmNewGame.window.ShowModal();
 }
 
@@ -78,7 +75,7 @@ void WipeGame() {
 
 void AddGame() {
     if (IsCurrentGameUndefined()) {
-        OpenGameDialog(appState.currentGame, addingGame);
+        OpenGameDialog(appState.currentGame, GameDialogMode::Adding);
         return;
     }
     const int slot = FirstFreeSlot();
@@ -86,14 +83,14 @@ void AddGame() {
         platform::Tell("You already have 20 games configured.\nYou must first delete an existing game.");
         return;
     }
-    OpenGameDialog(slot, addingGame);
+    OpenGameDialog(slot, GameDialogMode::Adding);
 }
 
 // QUIRK GAME-FEWER-PICKS-1: an alteration touches no draws. With fewer picks the file keeps the columns that the game
 // no longer has until the draws are next saved, and loses them then. Writing the draws here would lose their last picks
 // at once, also where the alteration is taken back.
 void AlterGame() {
-    OpenGameDialog(appState.currentGame, alteringGame);
+    OpenGameDialog(appState.currentGame, GameDialogMode::Altering);
 }
 
 void DeleteGame() {
@@ -120,7 +117,7 @@ void AskToSetUpGame() {
     const std::string question =
         "You need to configure game number " + slot + ".\nWould you like to set up the game now?";
     if (platform::Ask(question, platform::BoxIcon::Question)) {
-        OpenGameDialog(appState.currentGame, addingGame);
+        OpenGameDialog(appState.currentGame, GameDialogMode::Adding);
     }
 }
 

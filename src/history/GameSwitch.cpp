@@ -53,7 +53,7 @@ void ShowHotTableFromTheTop() {
     ShowHotNumbersCaption();
     ShowHotHeadings();
     frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
-    frmMainForm.grdHot.GoTo(0, 2);
+    frmMainForm.grdHot.GoTo(0, frmMainForm.hotMarkColumn);
 }
 
 }  // namespace
@@ -76,7 +76,7 @@ void SwitchGameTo(std::int16_t slot) {
     // Events that are let in while a file gets its full size must find nobody reading half a game.
     const platform::GridPause logPause(frmMainForm.grdHist);
     const platform::GridPause hotPause(frmMainForm.grdHot);
-    appState.colorMode = 0;
+    appState.colorMode = ColorMode::None;
     appState.currentGame = slot;
     ClearHiLiteBoxes();
     LoadGameRecord(slot);

@@ -19,12 +19,12 @@ namespace ballhaven {
 namespace {
 
 void ApplyHiLites() {
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     RepaintHiLites();
 }
 
 void ClearHiLites() {
-    appState.colorMode = 0;
+    appState.colorMode = ColorMode::None;
     ClearHiLiteBoxes();
     RepaintHiLites();
 }
@@ -80,7 +80,7 @@ void HiLiteDrawing() {
     if (const int row = CurrentDraw(); row >= 0) {
         const std::vector<std::int16_t> picks = PicksOfBoxes(PicksOfDraw(row), appState.totalPicks);
         const bool isHiLited = HoldCodesOf(picks, frmMainForm.hiLiteCode);
-        appState.colorMode = isHiLited ? 0 : 2;
+        appState.colorMode = isHiLited ? ColorMode::None : ColorMode::Drawing;
         if (!isHiLited) {
             boxes = BoxesWith(picks, appState.gameType);
         }

@@ -33,8 +33,8 @@ namespace ballhaven {
 /// mended folder neither.
 [[nodiscard]] std::optional<std::string> HotCellValue(int row, int column);
 
-/// The colours of a cell of `grdHot`: in column 0 the suits of cards, and the hi-lite while `colorMode` is not 0; black
-/// on white in all others.
+/// The colours of a cell of `grdHot`: in column 0 the suits of cards, and the hi-lite while there is a `colorMode`;
+/// black on white in all others.
 void HotCellStyle(int row, int column, platform::CellStyle& style);
 
 }  // namespace ballhaven

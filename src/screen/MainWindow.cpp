@@ -67,7 +67,7 @@ void ReloadGame() {
     // shows the game: clearing the mode before it would leave the old game's tables on screen. In a mended folder it is
     // the only one.
     if (FolderIsMended()) {
-        appState.gameDialogMode = 0;
+        appState.gameDialogMode = GameDialogMode::None;
     }
 }
 
@@ -75,7 +75,7 @@ void Activate() {
     // The dialog behind the first question brings this window to the front again when it closes. Where it was
     // cancelled, the start that is still going on must not ask once more.
     const bool isFirst = frmMainForm.windowStarting && !frmMainForm.askingAtStart;
-    if (!isFirst && appState.gameDialogMode == 0) {
+    if (!isFirst && appState.gameDialogMode == GameDialogMode::None) {
         return;
     }
     ReloadGame();

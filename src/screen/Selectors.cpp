@@ -32,7 +32,7 @@ bool IsFilling() {
 
 void ShowHotTableAnew() {
     frmMainForm.grdHot.ReadAgain();
-    frmMainForm.grdHot.GoTo(0, 2);
+    frmMainForm.grdHot.GoTo(0, frmMainForm.hotMarkColumn);
 }
 
 void SelectGame() {

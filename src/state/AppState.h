@@ -22,6 +22,13 @@ inline constexpr int playCount = 5000;
 inline constexpr int picksPerPlay = 10;
 inline constexpr int chosenPicks = 100;
 
+/// What the game dialog is open for.
+enum class GameDialogMode { None, Adding, Altering };
+
+/// Which colours the hi-lited numbers of log and hot table have: none, those of the boxes as the user filled them, or
+/// those of a drawing.
+enum class ColorMode { None, Boxes, Drawing };
+
 /// Which of the two lists of picks: of a draw's play, or of the chosen picks.
 enum PickColumn : int { mainPicks = 0, bonusPicks = 1 };
 
@@ -105,7 +112,7 @@ struct AppState {
     std::int16_t historySetSize = 0;    ///< `largestHistorySet` stands for all
     std::int16_t historySortOrder = 0;  ///< 0 the newest draw first, else the oldest
     std::int16_t slipColumns = 0;       ///< of a pick grid: 9 in a number game, 6 in a card game
-    std::int16_t gameDialogMode = 0;    ///< 0 none, 1 adding a game, 2 altering one
+    GameDialogMode gameDialogMode = GameDialogMode::None;
     std::int16_t gameDialogSlot = 0;
 
     // Draw history. Column 0 is the date serial, columns 1 to `totalPicks` the picks, -1 for a blank cell.
@@ -143,7 +150,7 @@ struct AppState {
     std::int16_t currentSlip = 0;
     bool playsDirty = false;
     bool hiLiteWinners = false;
-    std::int16_t colorMode = 0;  ///< 0 none, 1 the boxes' colours, 2 those of a drawing
+    ColorMode colorMode = ColorMode::None;
     bool playsWindowOpen = false;
     bool shuffleWindowOpen = false;
     std::int16_t helpTopic = 0;

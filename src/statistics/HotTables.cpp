@@ -58,7 +58,7 @@ void ComputeHotTable() {
     frmMainForm.grdHot.SetRowCount(frmMainForm.hotRowCount);
     if (isChosen) {
         frmMainForm.grdHot.ReadAgain();
-        frmMainForm.grdHot.GoTo(0, 2);
+        frmMainForm.grdHot.GoTo(0, frmMainForm.hotMarkColumn);
     }
 }
 

@@ -311,9 +311,9 @@ TEST_F(GamePresentation, CellsAreComparedWithTheTextsOfTheBoxesWhileTheHiLiteIsO
     frmMainForm.txtHiLite[9].text = " Kh";
     frmMainForm.hiLiteCode[1] = "8";
     EXPECT_FALSE(ShownHiLites().on);
-    for (const std::int16_t mode : std::initializer_list<std::int16_t>{1, 2}) {
+    for (const ColorMode mode : {ColorMode::Boxes, ColorMode::Drawing}) {
         appState.colorMode = mode;
-        EXPECT_TRUE(ShownHiLites().on) << mode;
+        EXPECT_TRUE(ShownHiLites().on) << static_cast<int>(mode);
     }
     const std::array<std::string_view, 10> expected = {"7", "", "", "", "", "", "", "", "", " Kh"};
     EXPECT_EQ(ShownHiLites().texts, expected);

@@ -330,7 +330,7 @@ TEST_F(TheGameDialog, CancelChangesNothing) {
         ClickToClose("cmdNewGame(0)");
     });
     EXPECT_EQ(directory.Files(), stored);
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(appState.gameType, 2);
     EXPECT_EQ(appState.mainPickCount, 5);
     EXPECT_TRUE(appState.gameRecord.starts_with("1 /Five and one"));
@@ -342,7 +342,7 @@ TEST_F(TheGameDialog, TheCloseBoxActsAsCancel) {
         GameDialog().close();
     });
     EXPECT_EQ(directory.Files(), stored);
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(appState.gameType, 2);
     EXPECT_TRUE(appState.gameRecord.starts_with("1 /Five and one"));
 }
@@ -378,7 +378,7 @@ TEST_F(TheGameDialog, ClosedWhileAListIsRebuiltItLivesUntilTheChoiceHasBeenServe
         EXPECT_FALSE(dialog.isNull());
         EXPECT_EQ(frmNewGame.window.view, nullptr);
     });
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(directory.Files(), stored);
 }
 
@@ -399,14 +399,14 @@ TEST_F(TheGameDialog, EachOpeningShowsTheGameAnew) {
 // Not a bug: GAME-DIALOG-MODE-1 in docs/not-bugs.md.
 TEST_F(QuirkGameDialogMode1, AfterASaveTheMainWindowLoadsTheGameEachTimeItComesBackUntilTheDialogIsCancelled) {
     Alter([this] { ClickToClose("cmdNewGame(1)"); });
-    EXPECT_EQ(appState.gameDialogMode, 2);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Altering);
     const auto comeBack = [this] {
-        appState.colorMode = 1;  // a switch of the game clears it
+        appState.colorMode = ColorMode::Boxes;  // a switch of the game clears it
         support::TestWindow other({});
         other.Show();
         MainWindow().activateWindow();
         support::Settle();
-        return appState.colorMode == 0;
+        return appState.colorMode == ColorMode::None;
     };
     EXPECT_TRUE(comeBack());
     EXPECT_TRUE(comeBack());
@@ -423,14 +423,14 @@ TEST_F(QuirkGameDialogMode1, InAMendedFolderTheModeEndsWithTheSwitchThatFollowsT
         ChooseEntry("cboCombo(6)", 50);
         ClickToClose("cmdNewGame(1)");
     });
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(appState.mainHigh, 51) << "the game is shown as it was altered";
-    appState.colorMode = 1;  // a switch of the game clears it
+    appState.colorMode = ColorMode::Boxes;  // a switch of the game clears it
     support::TestWindow other({});
     other.Show();
     MainWindow().activateWindow();
     support::Settle();
-    EXPECT_EQ(appState.colorMode, 1);
+    EXPECT_EQ(appState.colorMode, ColorMode::Boxes);
 }
 
 }  // namespace

@@ -117,7 +117,7 @@ TEST_F(GameSlots, AFirstRunThatIsCancelledLeavesTheSlotUndefined) {
     InGameDialog([this] { ClickToClose(cancel); });
     Start();
     EXPECT_EQ(ShownGame(), "un-defined");
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(RecordColumns(1, 1, 64), FreeRecord(1));
 }
 
@@ -189,7 +189,7 @@ TEST_F(TwoGames, AddOnAShownFreeSlotWorksOnItAndNoOtherRecordChanges) {
     const std::string before = GameTableFile();
     InDialogOf(addGame, [this] {
         EXPECT_EQ(appState.gameDialogSlot, 3);
-        EXPECT_EQ(appState.gameDialogMode, 1);
+        EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Adding);
         SetUpSixOf49("Third game");
     });
     EXPECT_EQ(GameTableFile(), WithRecords(before, {{4, SixOf49Record(3, "Third game")}}));
@@ -247,7 +247,7 @@ TEST_F(QuirkLoadStoresUnderCurrent1, InAMendedFolderAnAddedGameLeavesTheOneThatI
     EXPECT_EQ(GameTableFile(), WithRecords(before, {{1, "03/1/1/000000" + std::string(50, ' ') + "M"},
                                                     {4, SixOf49Record(3, "Third game")}}));
     EXPECT_EQ(ShownGame(), "Third game");
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     ChooseEntry("cboList(0)", 0);
     EXPECT_EQ(ShownGame(), "First game");
     EXPECT_EQ(RowsShown("grdHist"), 2);
@@ -270,7 +270,7 @@ TEST_F(QuirkGameCancel1, InAMendedFolderACancelledAddChangesNothingAndTheShownGa
 TEST_F(QuirkGameCancel1, AfterACancelledAddTheWindowStillShowsTheOldGame) {
     Start();
     InDialogOf(addGame, [this] { ClickToClose(cancel); });
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(appState.currentGame, 1);
     EXPECT_EQ(appState.totalPicks, 10) << "of the free slot";
     EXPECT_EQ(RowsShown("grdHist"), 2);
@@ -391,7 +391,7 @@ TEST_F(GameSlots, WithTwentyGamesAddSaysSoAndChangesNothing) {
     Choose(addGame);
     EXPECT_EQ(boxes.Left(), 0U);
     EXPECT_EQ(directory.Files(), files);
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(appState.currentGame, 5);
 }
 
@@ -403,14 +403,14 @@ TEST_F(TwoGames, AlterWorksOnTheShownGameAndNoOtherRecordChanges) {
     const std::string before = GameTableFile();
     InDialogOf(alterGame, [this] {
         EXPECT_EQ(appState.gameDialogSlot, 2);
-        EXPECT_EQ(appState.gameDialogMode, 2);
+        EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Altering);
         ChooseEntry("cboCombo(6)", 43);
         ClickToClose(save);
     });
     EXPECT_EQ(RecordColumns(2, 1, 64), "2 /Second game           /100/0/1/44/ / /N/N/06/0/N /  /-/00/   ");
     EXPECT_EQ(GameTableFile(), WithRecords(before, {{3, RecordColumns(2, 1, 64)}}));
     EXPECT_EQ(appState.mainHigh, 44);
-    EXPECT_EQ(appState.gameDialogMode, 2);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Altering);
 }
 
 // Not a bug: GAME-FEWER-PICKS-1 in docs/not-bugs.md.
@@ -570,7 +570,7 @@ TEST_F(TwoGames, YesToTheQuestionForAChosenSlotOpensTheDialogOnIt) {
     ExpectSetUpQuestion(7, BoxAnswer::Yes);
     InGameDialog([this] {
         EXPECT_EQ(appState.gameDialogSlot, 7);
-        EXPECT_EQ(appState.gameDialogMode, 1);
+        EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Adding);
         SetUpSixOf49("Seventh");
     });
     ChooseEntry("cboList(0)", 6);

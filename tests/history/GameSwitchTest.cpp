@@ -151,7 +151,7 @@ TEST_F(SwitchingGames, ACardGameFillsItsListsAndHeadsItsTableWithCards) {
 
 TEST_F(SwitchingGames, ASwitchResetsWhatBelongsToTheOldGameAndKeepsTheRest) {
     SwitchGame();
-    appState.colorMode = 2;
+    appState.colorMode = ColorMode::Drawing;
     appState.nextLogDate = 77;
     appState.hotSortChoice = 1;
     appState.hotTableChoice = 3;
@@ -160,11 +160,11 @@ TEST_F(SwitchingGames, ASwitchResetsWhatBelongsToTheOldGameAndKeepsTheRest) {
     appState.hiLiteWinners = true;
     appState.pendingLogDate = -1;
     appState.helpTopic = 2;
-    appState.gameDialogMode = 2;
+    appState.gameDialogMode = GameDialogMode::Altering;
     appState.gameDialogSlot = 5;
     frmMainForm.txtHiLite[0].text = "7";
     SwitchGame();
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
     EXPECT_EQ(appState.nextLogDate, 0);
     EXPECT_EQ(appState.hotSortChoice, 2);
     EXPECT_EQ(appState.hotTableChoice, 1);
@@ -176,7 +176,7 @@ TEST_F(SwitchingGames, ASwitchResetsWhatBelongsToTheOldGameAndKeepsTheRest) {
     EXPECT_TRUE(appState.hiLiteWinners);
     EXPECT_EQ(appState.pendingLogDate, -1);
     EXPECT_EQ(appState.helpTopic, 2);
-    EXPECT_EQ(appState.gameDialogMode, 2);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Altering);
     EXPECT_EQ(appState.gameDialogSlot, 5);
     EXPECT_EQ(appState.shortDateFormat, "m/d/y");
 }

@@ -58,7 +58,7 @@ TEST_F(LooksOfTheLog, ColoursOnlyThePicksOfTheBoxesAndOnlyWhileTheHiLiteIsOn) {
     Usable("txtHiLite(0)").setFocus();
     Type("6");
     EXPECT_EQ(CellColor("grdHist", 0, 6), QColor(Qt::white));
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     frmMainForm.grdHist.Repaint();
     EXPECT_EQ(CellColor("grdHist", 0, 6), magenta);
     EXPECT_EQ(CellColor("grdHist", 1, 5), magenta);
@@ -66,7 +66,7 @@ TEST_F(LooksOfTheLog, ColoursOnlyThePicksOfTheBoxesAndOnlyWhileTheHiLiteIsOn) {
     EXPECT_EQ(CellColor("grdHist", 4, 1), QColor(Qt::white)) << "a blank pick";
     EXPECT_EQ(CellColor("grdHist", 0, 0), QApplication::palette().color(QPalette::Base)) << "a date";
     EXPECT_EQ(CellColor("grdHist", 0, 7), QApplication::palette().color(QPalette::Window)) << "no column of the game";
-    appState.colorMode = 0;
+    appState.colorMode = ColorMode::None;
     frmMainForm.grdHist.Repaint();
     EXPECT_EQ(CellColor("grdHist", 0, 6), QColor(Qt::white));
 }
@@ -91,7 +91,7 @@ TEST_F(LooksOfALogOfCards, HeartsAndDiamondsAreRedAndTheOthersBlack) {
 
 TEST_F(LooksOfALogOfCards, ARedCardOnYellowIsBlack) {
     frmMainForm.txtHiLite[1].text = "Ah";
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     frmMainForm.grdHist.Repaint();
     EXPECT_EQ(CellColor("grdHist", 0, 1), QColor(Qt::yellow));
     EXPECT_TRUE(CellHasColor("grdHist", 0, 1, Qt::black));

@@ -224,7 +224,7 @@ TEST_F(CardPicker, AKeyInABoxOpensItsCardsAndTypesNothing) {
         EXPECT_EQ(*frmMainForm.txtHiLite[0].text, "") << key;
     }
     EXPECT_EQ(frmMainForm.hiLiteTarget, 0);
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
 }
 
 TEST_F(CardPicker, APickedCardFillsTheBoxAndTheColoursWaitForTheButton) {
@@ -279,7 +279,7 @@ TEST_F(CardPicker, ADrawingIsHiLitedByItsCards) {
     EXPECT_EQ(frmMainForm.hiLiteCode[1], "15");
     EXPECT_EQ(CellColor("grdHist", 0, 1), QColor(255, 0, 255));
     Click("cmdColorHist");
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
 }
 
 TEST_F(CardPicker, CardsPickedForADrawingAreThatDrawing) {
@@ -287,7 +287,7 @@ TEST_F(CardPicker, CardsPickedForADrawingAreThatDrawing) {
     FillBoxAt("txtHiLite(1)", {44, 40});
     ClickCell("grdHist", 0, 0);
     Click("cmdColorHist");
-    EXPECT_EQ(appState.colorMode, 0) << "hi-lited already";
+    EXPECT_EQ(appState.colorMode, ColorMode::None) << "hi-lited already";
     EXPECT_EQ(*frmMainForm.txtHiLite[0].text, "");
 }
 

@@ -61,7 +61,7 @@ TEST_F(ColorToolbar, TheButtonAppliesTheColoursToBothGrids) {
     TypeInBox("txtHiLite(0)", "7");
     EXPECT_EQ(CellColor("grdHist", 0, 1), white) << "not before the button";
     Click("cmdColor(0)");
-    EXPECT_EQ(appState.colorMode, 1);
+    EXPECT_EQ(appState.colorMode, ColorMode::Boxes);
     EXPECT_EQ(CellColor("grdHist", 0, 1), magenta);
     EXPECT_EQ(CellColor("grdHist", 2, 3), magenta);
     EXPECT_EQ(CellColor("grdHist", 0, 2), white);
@@ -108,7 +108,7 @@ TEST_F(ColorToolbarAndItsGrids, BothAreDrawnAgainWhenTheColoursAreAppliedOrClear
 TEST_F(ColorToolbar, TheOtherButtonClearsTheBoxesAndTheColours) {
     HiLiteRow(0);
     Click("cmdColor(1)");
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
     EXPECT_EQ(Boxes(), (Texts{"", "", ""}));
     EXPECT_EQ(Codes(), (Texts{"", "", ""}));
     EXPECT_EQ(Find<QLineEdit>("txtHiLite(0)").text(), QString());
@@ -165,7 +165,7 @@ TEST_F(ColorToolbar, EnterGoesToTheNextBoxAndAppliesTheColoursAtOnce) {
     TypeInBox("txtHiLite(0)", "7");
     Press(Qt::Key_Return);
     EXPECT_EQ(Focus(), "txtHiLite(1)");
-    EXPECT_EQ(appState.colorMode, 1);
+    EXPECT_EQ(appState.colorMode, ColorMode::Boxes);
     EXPECT_EQ(Boxes()[0], "7");
     EXPECT_EQ(CellColor("grdHist", 0, 1), magenta);
     Type("8");
@@ -178,7 +178,7 @@ TEST_F(ColorToolbar, EnterInTheLastBoxGoesToTheButton) {
     TypeInBox("txtHiLite(2)", "9");
     Press(Qt::Key_Return);
     EXPECT_EQ(Focus(), "cmdColor(0)");
-    EXPECT_EQ(appState.colorMode, 1);
+    EXPECT_EQ(appState.colorMode, ColorMode::Boxes);
     EXPECT_EQ(Boxes()[2], "9");
 }
 
@@ -190,13 +190,13 @@ TEST_F(ColorToolbar, AClickOnABoxOfANumberGameOpensNothing) {
 
 TEST_F(ColorToolbar, TheButtonOnTheRowHiLitesTheDrawingAndASecondClickClearsIt) {
     HiLiteRow(0);
-    EXPECT_EQ(appState.colorMode, 2);
+    EXPECT_EQ(appState.colorMode, ColorMode::Drawing);
     EXPECT_EQ(Boxes(), (Texts{"7", "8", "9"}));
     EXPECT_EQ(CellColor("grdHist", 0, 1), magenta);
     EXPECT_EQ(CellColor("grdHist", 1, 1), magenta);
     EXPECT_EQ(CellColor("grdHist", 0, 2), yellow);
     Click("cmdColorHist");
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
     EXPECT_EQ(Boxes(), (Texts{"", "", ""}));
     EXPECT_EQ(CellColor("grdHist", 0, 1), white);
 }
@@ -204,7 +204,7 @@ TEST_F(ColorToolbar, TheButtonOnTheRowHiLitesTheDrawingAndASecondClickClearsIt) 
 TEST_F(ColorToolbar, TheButtonOnAnotherRowReplacesTheDrawing) {
     HiLiteRow(0);
     HiLiteRow(1);
-    EXPECT_EQ(appState.colorMode, 2);
+    EXPECT_EQ(appState.colorMode, ColorMode::Drawing);
     EXPECT_EQ(Boxes(), (Texts{"7", "12", "30"}));
 }
 
@@ -227,13 +227,13 @@ TEST_F(ColorToolbar, WithoutADrawInTheRowTheBoxesBecomeEmptyAndTheModeStays) {
     frmMainForm.cmdColorHist.click();
     EXPECT_EQ(Boxes(), (Texts{"", "", ""}));
     EXPECT_EQ(Codes(), (Texts{"", "", ""}));
-    EXPECT_EQ(appState.colorMode, 1);
+    EXPECT_EQ(appState.colorMode, ColorMode::Boxes);
 }
 
 TEST_F(ColorToolbar, TypedNumbersOfADrawingAreThatDrawing) {
     TypeInBox("txtHiLite(0)", "7\r8\r9\r");
     HiLiteRow(0);
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
     EXPECT_EQ(Boxes(), (Texts{"", "", ""}));
 }
 
@@ -261,7 +261,7 @@ TEST_F(QuirkHiLiteCode1, ABoxThatWasCorrectedToTheDrawingDoesNotCountAsThatDrawi
     TypeInBox("txtHiLite(0)", "71\b\r8\r9\r");
     EXPECT_EQ(Boxes(), (Texts{"7", "8", "9"}));
     HiLiteRow(0);
-    EXPECT_EQ(appState.colorMode, 2) << "filled again, not cleared";
+    EXPECT_EQ(appState.colorMode, ColorMode::Drawing) << "filled again, not cleared";
     EXPECT_EQ(Boxes(), (Texts{"7", "8", "9"}));
 }
 
@@ -347,7 +347,7 @@ class ColorToolbarOfTwoGames : public ColorToolbar {
 TEST_F(ColorToolbarOfTwoGames, AGameLoadEmptiesTheBoxesAndSwitchesTheHiLiteOff) {
     HiLiteRow(0);
     ChooseEntry("cboList(0)", 1);
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
     EXPECT_EQ(Boxes(), (Texts{"", "", ""}));
     EXPECT_EQ(Codes(), (Texts{"", "", ""}));
     EXPECT_EQ(CellColor("grdHist", 0, 1), white);

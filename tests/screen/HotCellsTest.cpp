@@ -391,7 +391,7 @@ TEST(HotCellStyle, TheBoxThatHoldsThePickGivesItsColour) {
     StartWith(NumberGame().Picks(6));
     ShowTable(HotTable::HotNumbers, {{7, 3}, {8, 2}});
     FillBox(1, "7");
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     EXPECT_EQ(StyleOf(0), (CellStyle{black, yellow}));
     EXPECT_EQ(StyleOf(1), (CellStyle{black, white}));
@@ -401,7 +401,7 @@ TEST(HotCellStyle, ABoxThatEqualsACountColoursNothing) {
     StartWith(NumberGame().Picks(6));
     ShowTable(HotTable::HotNumbers, {{7, 3}});
     FillBox(0, "3");
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     EXPECT_EQ(StyleOf(0, 0), (CellStyle{black, white}));
     EXPECT_EQ(StyleOf(0, 1), (CellStyle{black, white}));
@@ -411,7 +411,7 @@ TEST(HotCellStyle, ThePicksAreTrimmed) {
     StartWith(CardGame().Picks(5));
     ShowTable(HotTable::HotPairs, {{0, 0, 2}});
     FillBox(0, " ");
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     ASSERT_EQ(HotCellValue(0, 0), ", ");
     EXPECT_EQ(StyleOf(0), (CellStyle{black, white}));
@@ -430,7 +430,7 @@ TEST(HotCellStyle, AHiLitedCardTakesTheForegroundOfItsBackground) {
     ShowTable(HotTable::HotNumbers, {{1, 3}, {14, 3}});
     FillBox(0, "Ah");
     FillBox(2, "Ac");
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     EXPECT_EQ(StyleOf(0), (CellStyle{black, magenta}));
     EXPECT_EQ(StyleOf(1), (CellStyle{white, red}));
@@ -440,7 +440,7 @@ TEST(HotCellStyle, AHiLitedCardTakesTheForegroundOfItsBackground) {
 TEST(QuirkPairHilite1, OnlyTheLeftPickOfAPairIsHiLited) {
     StartWith(NumberGame().Picks(6));
     FillBox(0, "7");
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     ShowTable(HotTable::HotNumbers, {{7, 2}});
     EXPECT_EQ(StyleOf(0).background, magenta);
@@ -454,7 +454,7 @@ TEST(HotCellStyle, ABoxIsComparedWithItsBlanks) {
     StartWith(NumberGame().Picks(6));
     ShowTable(HotTable::HotPairs, {{3, 7, 2}, {7, 9, 2}});
     FillBox(0, " 7");
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     EXPECT_EQ(StyleOf(0).background, magenta);
     EXPECT_EQ(StyleOf(1).background, white);
@@ -466,7 +466,7 @@ TEST(HotCellStyle, TheChoiceOfPicksDecidesWhichBoxesCount) {
     FillBox(0, "7");
     FillBox(2, "9");
     FillBox(3, "9");
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     appState.hotSortChoice = static_cast<std::int16_t>(CountedPicks::Main);
     EXPECT_EQ(StyleOf(0).background, magenta);
@@ -484,7 +484,7 @@ TEST(HotCellStyle, TheChoiceOfPicksDecidesWhichBoxesCount) {
 TEST(HotCellStyle, ARowOutsideTheTableIsBlackOnWhite) {
     StartWith(NumberGame().Picks(6));
     ShowTable(HotTable::HotNumbers, {});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     EXPECT_EQ(StyleOf(0), (CellStyle{black, white}));
 }

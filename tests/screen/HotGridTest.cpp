@@ -74,12 +74,12 @@ TEST_F(HotGrid, NothingCanBeTypedInIt) {
 
 TEST_F(HotGrid, ColoursTheNumbersOfTheBoxesInItsFirstColumnOnly) {
     frmMainForm.txtHiLite[1].text = "8";
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     frmMainForm.grdHot.Repaint();
     EXPECT_EQ(CellColor("grdHot", 1, 0), QColor(Qt::yellow));
     EXPECT_EQ(CellColor("grdHot", 0, 0), QColor(Qt::white));
     EXPECT_EQ(CellColor("grdHot", 1, 1), QColor(Qt::white));
-    appState.colorMode = 0;
+    appState.colorMode = ColorMode::None;
     frmMainForm.grdHot.Repaint();
     EXPECT_EQ(CellColor("grdHot", 1, 0), QColor(Qt::white));
 }

@@ -140,7 +140,7 @@ TEST(LogCellValue, ADrawThatWaitsToBeSortedInIsNotInTheLogYet) {
 TEST(LogCellStyle, TheDateColumnIsNeverColoured) {
     StartWith(NumberGame().Picks(2));
     ShowDraws({{5, 6}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(0, "01");
 
     EXPECT_EQ(StyleOf(0, 0), untouched);
@@ -158,7 +158,7 @@ TEST(LogCellStyle, CellsOutsideTheLogAreLeftAlone) {
 TEST(LogCellStyle, ABlankPickIsNeverColoured) {
     StartWith(CardGame().Picks(2));
     ShowDraws({{5}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
 
     EXPECT_EQ(StyleOf(0, 2), (CellStyle{black, white}));
 }
@@ -183,7 +183,7 @@ TEST(LogCellStyle, HeartsAndDiamondsAreRedAndTheOthersBlack) {
 TEST(LogCellStyle, ARedCardOnYellowHasBlackText) {
     StartWith(CardGame().Picks(4));
     ShowDraws({{13, 27, 40, 41}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(1, "Kh");
 
     EXPECT_EQ(StyleOf(0, 1), (CellStyle{black, yellow}));
@@ -193,7 +193,7 @@ TEST(LogCellStyle, ARedCardOnYellowHasBlackText) {
 TEST(LogCellStyle, ABlackCardOnBlueHasWhiteText) {
     StartWith(CardGame().Picks(9));
     ShowDraws({{52}});
-    appState.colorMode = 2;
+    appState.colorMode = ColorMode::Drawing;
     FillBox(8, "Ks");
 
     EXPECT_EQ(StyleOf(0, 1), (CellStyle{white, blue}));
@@ -210,7 +210,7 @@ TEST(LogCellStyle, WithTheHiLiteOffBoxesColourNothing) {
 TEST(LogCellStyle, TheComparisonIsOfText) {
     StartWith(NumberGame().Picks(3));
     ShowDraws({{7, 8, 9}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(0, "07");
     FillBox(1, "7");
 
@@ -220,7 +220,7 @@ TEST(LogCellStyle, TheComparisonIsOfText) {
 TEST(LogCellStyle, TheComparisonOfCardsTellsSmallFromCapitalLetters) {
     StartWith(CardGame().Picks(3));
     ShowDraws({{13, 14, 15}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(0, "kh");
 
     EXPECT_EQ(BackgroundOf(1), white);
@@ -229,7 +229,7 @@ TEST(LogCellStyle, TheComparisonOfCardsTellsSmallFromCapitalLetters) {
 TEST(LogCellStyle, BlanksAroundTheTextOfABoxDoNotMatter) {
     StartWith(NumberGame().Picks(3));
     ShowDraws({{7, 8, 9}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(0, " 7");
     FillBox(1, "8 ");
 
@@ -240,7 +240,7 @@ TEST(LogCellStyle, BlanksAroundTheTextOfABoxDoNotMatter) {
 TEST(LogCellStyle, OneValueInTwoBoxesTakesTheColourOfTheFirst) {
     StartWith(NumberGame().Picks(3));
     ShowDraws({{7, 8, 9}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(1, "8");
     FillBox(2, "8");
 
@@ -250,7 +250,7 @@ TEST(LogCellStyle, OneValueInTwoBoxesTakesTheColourOfTheFirst) {
 TEST(LogCellStyle, WithABonusFromTheSamePoolAllBoxesCountInEveryColumn) {
     StartWith(NumberGame().Picks(2).Bonus(1, BonusPool::Same));
     ShowDraws({{7, 8, 9}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(2, "7");
     FillBox(0, "9");
 
@@ -261,7 +261,7 @@ TEST(LogCellStyle, WithABonusFromTheSamePoolAllBoxesCountInEveryColumn) {
 TEST(LogCellStyle, WithACardBonusFromTheSameDeckAllBoxesCountInEveryColumn) {
     StartWith(CardGame().Picks(2).Bonus(1, BonusPool::Same));
     ShowDraws({{1, 2, 3}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(2, "Ah");
     FillBox(0, "3h");
 
@@ -272,7 +272,7 @@ TEST(LogCellStyle, WithACardBonusFromTheSameDeckAllBoxesCountInEveryColumn) {
 TEST(LogCellStyle, WithABonusFromItsOwnPoolEachPoolHasItsBoxes) {
     StartWith(NumberGame().Picks(2).Bonus(1, BonusPool::Separate));
     ShowDraws({{7, 9, 7}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(0, "7");
     FillBox(2, "9");
     EXPECT_EQ(BackgroundOf(1), magenta);
@@ -286,7 +286,7 @@ TEST(LogCellStyle, WithABonusFromItsOwnPoolEachPoolHasItsBoxes) {
 TEST(LogCellStyle, BoxesBeyondThePicksOfTheGameDoNotCount) {
     StartWith(NumberGame().Picks(2));
     ShowDraws({{7, 8}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(2, "7");
 
     EXPECT_EQ(BackgroundOf(1), white);
@@ -296,7 +296,7 @@ TEST(LogCellStyle, BoxesBeyondThePicksOfTheGameDoNotCount) {
 TEST(QuirkOrderHilite1, WhereTheOrderMattersTheFirstBoxAloneIsComparedAndTheColumnGivesTheColour) {
     StartWith(NumberGame().Picks(4).InOrder());
     ShowDraws({{7, 8, 9, 7}, {9, 9, 8, 7}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(0, "7");
     FillBox(1, "8");
 
@@ -310,7 +310,7 @@ TEST(QuirkOrderHilite1, WhereTheOrderMattersTheFirstBoxAloneIsComparedAndTheColu
 TEST(QuirkOrderHilite1, ABonusPickIsComparedWithTheFirstBoxToo) {
     StartWith(NumberGame().Picks(2).Bonus(1, BonusPool::Separate).InOrder());
     ShowDraws({{8, 9, 7}});
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     FillBox(0, "7");
 
     EXPECT_EQ(StyleOf(0, 3), (CellStyle{white, red}));

@@ -68,7 +68,7 @@ class LogGrid : public support::RunningProgram {
         frmMainForm.gameLoading = true;
         frmMainForm.cboList[0].Select(slot - 1);
         frmMainForm.gameLoading = false;
-        appState.gameDialogMode = 2;
+        appState.gameDialogMode = GameDialogMode::Altering;
         boxes.Expect(
             "Ballhaven",
             "You need to configure game number " + std::to_string(slot) + ".\nWould you like to set up the game now?",

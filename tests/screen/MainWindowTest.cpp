@@ -77,7 +77,7 @@ TEST_F(MainWindow, ItsFirstActivationLoadsTheGameAndOnlyThenAsksToSetItUp) {
     Activate(BoxAnswer::No);
     EXPECT_FALSE(frmMainForm.windowStarting);
     EXPECT_EQ(appState.currentGame, 1);
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
 }
 
 TEST_F(MainWindow, YesToTheQuestionOpensTheDialogForTheGame) {
@@ -88,7 +88,7 @@ TEST_F(MainWindow, YesToTheQuestionOpensTheDialogForTheGame) {
     frmNewGame.window.activate = nullptr;
     frmNewGame.window.load = nullptr;
     EXPECT_TRUE(opened);
-    EXPECT_EQ(appState.gameDialogMode, 1);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Adding);
     EXPECT_EQ(appState.gameDialogSlot, 1);
 }
 
@@ -110,7 +110,7 @@ TEST_F(MainWindow, AStartWhoseDialogIsCancelledAsksOnlyOnce) {
         return ++questions == 1 ? BoxAnswer::Yes : BoxAnswer::No;
     };
     frmNewGame.window.load = [] {
-        appState.gameDialogMode = 0;
+        appState.gameDialogMode = GameDialogMode::None;
         frmMainForm.window.activate();
     };
     frmNewGame.window.activate = [] { frmNewGame.window.Unload(); };
@@ -135,17 +135,17 @@ TEST_F(MainWindow, AStartWhoseDialogIsSavedReloadsTheGame) {
     frmNewGame.window.load = nullptr;
     frmNewGame.window.activate = nullptr;
     EXPECT_EQ(frmMainForm.cboList[0].Text(), "Pick Six            ");
-    EXPECT_EQ(appState.gameDialogMode, 1);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Adding);
 }
 
 TEST_F(MainWindow, ALaterActivationReloadsTheGameOnlyWhileTheDialogsModeStands) {
     Activate(BoxAnswer::No);
-    appState.colorMode = 1;
+    appState.colorMode = ColorMode::Boxes;
     frmMainForm.window.activate();
-    EXPECT_EQ(appState.colorMode, 1);
-    appState.gameDialogMode = 2;
+    EXPECT_EQ(appState.colorMode, ColorMode::Boxes);
+    appState.gameDialogMode = GameDialogMode::Altering;
     Activate(BoxAnswer::No);
-    EXPECT_EQ(appState.colorMode, 0);
+    EXPECT_EQ(appState.colorMode, ColorMode::None);
 }
 
 TEST_F(MainWindow, AnActivationThatReloadsTheGameSavesFirstWhatIsDirty) {
@@ -153,7 +153,7 @@ TEST_F(MainWindow, AnActivationThatReloadsTheGameSavesFirstWhatIsDirty) {
     appState.historyLast = 0;
     appState.HistoryTable(0, 0) = 1000;
     appState.historyDirty = true;
-    appState.gameDialogMode = 2;
+    appState.gameDialogMode = GameDialogMode::Altering;
     Activate(BoxAnswer::No);
     EXPECT_EQ(appState.HistoryTable(0, 0), 1000);
     EXPECT_EQ(directory.Read("GAME01.CDB").substr(64, 4), "1000");

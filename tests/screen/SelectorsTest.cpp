@@ -160,7 +160,7 @@ TEST_F(Selectors, ANeverUsedSlotIsShownFirstAndOnlyThenAskedAboutAndNoLeavesItCu
     ChooseEntry("cboList(0)", 2);
     EXPECT_EQ(boxes.Answered(), 1U);
     EXPECT_EQ(appState.currentGame, 3);
-    EXPECT_EQ(appState.gameDialogMode, 0);
+    EXPECT_EQ(appState.gameDialogMode, GameDialogMode::None);
     EXPECT_EQ(Usable<QComboBox>("cboList(0)").currentText().trimmed(), QStringLiteral("un-defined"));
     EXPECT_EQ(Caption(), "Hot Numbers (none found)");
     EXPECT_EQ(RowsShown("grdHist"), 0);
@@ -173,7 +173,7 @@ TEST_F(Selectors, YesOpensTheDialogForTheSlot) {
     boxes.Expect("Ballhaven", setUpSlot3, BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::Yes);
     InGameDialog([this] {
         EXPECT_EQ(appState.currentGame, 3);
-        EXPECT_EQ(appState.gameDialogMode, 1);
+        EXPECT_EQ(appState.gameDialogMode, GameDialogMode::Adding);
         EXPECT_EQ(appState.gameDialogSlot, 3);
         ClickToClose("cmdNewGame(0)");
     });

@@ -604,13 +604,13 @@ TEST_F(WheelAndShuffle, NothingOfTheStoredPicksIsLostWhenANewGameIsCancelledBesi
 
 TEST_F(WheelAndShuffle, AGameLoadedAnewWhileItIsOpenKeepsItsPicks) {
     Open({.high = 49});
-    appState.gameDialogMode = 2;
+    appState.gameDialogMode = GameDialogMode::Altering;
     appState.ShuffleTable(mainPicks, 1) = 5;
     frmMainForm.window.ShowInFront();
     ASSERT_TRUE(IsInFront(frmMainForm.window));
     Settle();
     EXPECT_EQ(appState.ShuffleTable(mainPicks, 1), 5);
-    appState.gameDialogMode = 0;
+    appState.gameDialogMode = GameDialogMode::None;
 }
 
 TEST_F(WheelAndShuffle, TheEndOfTheProgramLeavesWhatWasChosenInTheFileAndWritesNoMore) {
