@@ -305,6 +305,28 @@ TEST_F(QuirkGameCancel1, AfterACancelledAddEveryTableSetAndOrderCanStillBeChosen
     EXPECT_TRUE(exitCodes.empty());
 }
 
+TEST_F(GameSlots, AGameThatIsNamedUndefinedIsAskedAboutInTheMainWindowUntilItHasAnotherName) {
+    Store({.name = "First game"});
+    Start();
+    ExpectSetUpQuestion(1, BoxAnswer::Yes);
+    ExpectSetUpQuestion(1, BoxAnswer::Yes);
+    InGameDialog([this] {
+        Usable<QLineEdit>("txtNewGame(0)").selectAll();
+        Type("un-defined");
+        ClickToClose(save);
+    });
+    for (const char* name : {"un-defined", "Second name"}) {
+        InGameDialog([this, name] {
+            EXPECT_EQ(Find<QLineEdit>("txtNewGame(0)").text(), QString());
+            Type(name);
+            ClickToClose(save);
+        });
+    }
+    Choose(alterGame);
+    EXPECT_EQ(boxes.Left(), 0U);
+    EXPECT_EQ(ShownGame(), "Second name");
+}
+
 TEST_F(GameSlots, TheNoHittersOfAGameWithoutDrawsAreDrawnWhileTheDialogIsOpenAndAfterItWasCancelled) {
     Store({.name = "No draws yet", .draws = {}});
     Start();

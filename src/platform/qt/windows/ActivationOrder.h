@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 class QWidget;
@@ -19,9 +20,19 @@ class ActivationOrder {
     /// The window that was active last, null for none.
     [[nodiscard]] QWidget* Front() const;
 
+    /// Runs what comes of a window's activation while the toolkit reports it. It still holds the window that was active
+    /// before then, so those whose deletion comes due meanwhile, in a box or a window that is opened, are kept till
+    /// after.
+    void Report(const std::function<void()>& activation);
+
+    /// Whether a window whose deletion is due is kept for now, and deleted later.
+    [[nodiscard]] bool Keeps(QWidget& window);
+
   private:
     std::vector<QWidget*> order;
     const QWidget* active = nullptr;
+    int reports = 0;  ///< activations that are being reported, one within the other
+    std::vector<QWidget*> kept;
 };
 
 }  // namespace ballhaven::platform

@@ -277,10 +277,13 @@ void WindowWidget::showEvent(QShowEvent* event) {
 }
 
 bool WindowWidget::event(QEvent* event) {
+    if (event->type() == QEvent::DeferredDelete && activations.Keeps(*this)) {
+        return true;
+    }
     const bool served = QMainWindow::event(event);
     if (event->type() == QEvent::WindowActivate) {
         focusLost = false;
-        BecomeActive();
+        activations.Report([this] { BecomeActive(); });
     } else if (event->type() == QEvent::WindowDeactivate) {
         focusLost = !IsBehindModalWindow();  // which gives the focus back when it closes
         if (window.view == this && window.deactivate) {

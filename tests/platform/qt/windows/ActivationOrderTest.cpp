@@ -1,5 +1,8 @@
 #include "platform/qt/windows/ActivationOrder.h"
 
+#include "support/qt/TestWindow.h"
+
+#include <QPointer>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -53,6 +56,28 @@ TEST(ActivationOrder, WithoutAWindowThereIsNoFront) {
     const ActivationOrder order;
 
     EXPECT_EQ(order.Front(), nullptr);
+}
+
+TEST(ActivationOrder, AWindowWhoseDeletionComesDueDuringAReportGoesAfterTheOutermostOne) {
+    ActivationOrder order;
+    const QPointer<QWidget> window = new QWidget;
+    order.Report([&] {
+        order.Report([&] { EXPECT_TRUE(order.Keeps(*window)); });
+        support::Settle();
+        EXPECT_FALSE(window.isNull()) << "a report is still going on";
+    });
+    EXPECT_FALSE(window.isNull()) << "the toolkit has still to return from it";
+
+    support::Settle();
+    EXPECT_TRUE(window.isNull());
+}
+
+TEST(ActivationOrder, OutsideAReportNoWindowIsKept) {
+    ActivationOrder order;
+    QWidget window;
+    order.Report([] {});
+
+    EXPECT_FALSE(order.Keeps(window));
 }
 
 }  // namespace
