@@ -113,6 +113,7 @@ void DeleteDraw() {
     frmMainForm.cmdColorHist.visible = false;
     const std::int16_t date = LogDate();
     if (date < 1 || !AsksToDelete(date)) {
+        frmMainForm.grdHist.Repaint();  // brings the button back
         return;
     }
     const platform::WaitPointer waiting;

@@ -99,6 +99,16 @@ TEST_F(DrawCommands, NoKeepsTheDraw) {
     ExpectFile(draws);
 }
 
+TEST_F(DrawCommands, NoBringsTheHiLiteButtonOfTheRowBack) {
+    ClickCell("grdHist", 1, 0);
+    ASSERT_TRUE(Find("cmdColorHist").isVisible());
+
+    ExpectQuestion("01/02/1990", BoxAnswer::No);
+    Click("cmdButton(3)");
+
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Find("cmdColorHist").isVisible(); }));
+}
+
 TEST_F(DrawCommands, AllDrawsCanBeDeletedAndTheLogIsEmptyThen) {
     for (const char* date : {"01/03/1990", "01/02/1990", "01/01/1990"}) {
         ExpectQuestion(date, BoxAnswer::Yes);
