@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <benchmark/benchmark.h>
@@ -91,6 +92,10 @@ void TypeAndTakeBack(benchmark::State& state) {
             Press(Qt::Key_7, QStringLiteral("7"));
         } else {
             Press(Qt::Key_Escape);
+        }
+        if (typing != (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr)) {
+            state.SkipWithError("The editor does not follow the keys");
+            break;
         }
     }
     if (typing) {
