@@ -23,9 +23,6 @@
 namespace ballhaven {
 namespace {
 
-using platform::BoxButtons;
-using platform::BoxIcon;
-
 class SwitchingGames : public support::StoredGames {};
 
 TEST_F(SwitchingGames, TheFirstStartOpensTheGameShownLast) {
